@@ -1,0 +1,121 @@
+#include "data/file_io.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+#if defined(__unix__) || defined(__APPLE__)
+#include <unistd.h>
+#endif
+
+namespace fs = std::filesystem;
+
+namespace {
+
+FileResult Failure(const std::string& path, std::string reason)
+{
+    return {path, std::move(reason)};
+}
+
+constexpr fs::perms AnyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+
+bool LacksWriteBits(const fs::file_status& status)
+{
+    return (status.permissions() & AnyWrite) == fs::perms::none;
+}
+
+// Writes and flushes the temporary file; the reason of the first failure.
+std::string WriteTemporary(const fs::path& temporary, std::string_view bytes)
+{
+    std::FILE* file = std::fopen(temporary.string().c_str(), "wb");
+    if (!file)
+        return std::strerror(errno);
+    std::string reason;
+    if (std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size() || std::fflush(file) != 0)
+        reason = std::strerror(errno);
+#if defined(__unix__) || defined(__APPLE__)
+    if (reason.empty() && ::fsync(fileno(file)) != 0)
+        reason = std::strerror(errno);
+#endif
+    if (std::fclose(file) != 0 && reason.empty())
+        reason = std::strerror(errno);
+    return reason;
+}
+
+}  // namespace
+
+std::optional<std::string> ReadWholeFile(const std::string& path)
+{
+    // Some systems open a folder for reading as if it were an empty file.
+    std::error_code error;
+    if (fs::is_directory(path, error))
+        return std::nullopt;
+    std::ifstream in(path, std::ios::binary);
+    if (!in)
+        return std::nullopt;
+    std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    if (in.bad())
+        return std::nullopt;
+    return bytes;
+}
+
+FileResult CheckWritable(const std::string& path)
+{
+    const fs::path target(path);
+    const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
+    std::error_code error;
+    const fs::file_status folderStatus = fs::status(folder, error);
+    if (!fs::is_directory(folderStatus))
+        return Failure(path, "the folder " + folder.string() + " does not exist");
+#if !defined(_WIN32)
+    // A read-only mark on a Windows folder does not stop files being written in it.
+    if (LacksWriteBits(folderStatus))
+        return Failure(path, "the folder " + folder.string() + " is read-only");
+#endif
+    const fs::file_status fileStatus = fs::status(target, error);
+    if (fs::exists(fileStatus) && LacksWriteBits(fileStatus))
+        return Failure(path, "the file is read-only");
+    return FileResult::Success(path);
+}
+
+FileResult ReplaceFile(const std::string& path, std::string_view bytes)
+{
+    const fs::path target(path);
+    if (FileResult writable = CheckWritable(path); !writable.ok())
+        return writable;
+
+    fs::path temporary = target;
+    temporary += ".saving";
+    if (std::string reason = WriteTemporary(temporary, bytes); !reason.empty()) {
+        std::error_code ignored;
+        fs::remove(temporary, ignored);
+        return Failure(path, reason);
+    }
+
+    std::error_code error;
+    if (fs::exists(target, error))
+        fs::permissions(temporary, fs::status(target, error).permissions(), error);
+    fs::rename(temporary, target, error);
+    if (error) {
+        std::error_code ignored;
+        fs::remove(temporary, ignored);
+        return Failure(path, error.message());
+    }
+    return FileResult::Success(path);
+}
+
+FileResult KeepBackup(const std::string& path)
+{
+    std::error_code error;
+    if (!fs::exists(path, error))
+        return FileResult::Success(path);
+    const std::string backup = path + ".bak";
+    fs::copy_file(path, backup, fs::copy_options::overwrite_existing, error);
+    if (error)
+        return Failure(backup, error.message());
+    return FileResult::Success(backup);
+}

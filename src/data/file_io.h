@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+// What became of a file operation: empty `reason` means it worked.
+struct FileResult {
+    std::string path;
+    std::string reason;
+
+    bool ok() const { return reason.empty(); }
+    static FileResult Success(std::string path) { return {std::move(path), {}}; }
+};
+
+std::optional<std::string> ReadWholeFile(const std::string& path);
+
+// Whether `path` can be replaced: its folder exists and neither the file nor,
+// where folders have such a thing, the folder forbids writing. Permission bits
+// are checked here rather than left to the system, which lets an
+// administrator write anything.
+FileResult CheckWritable(const std::string& path);
+
+// Writes `bytes` beside `path` and moves them over it in one step, so the old
+// file is either replaced whole or left as it was. What CheckWritable refuses
+// is refused here too.
+FileResult ReplaceFile(const std::string& path, std::string_view bytes);
+
+// Copies `path` to `path` + ".bak"; a missing file needs no copy.
+FileResult KeepBackup(const std::string& path);

@@ -1,0 +1,27 @@
+#include "data/game.h"
+
+#include <algorithm>
+#include <filesystem>
+
+void SetGameDirectory(Game& game, const std::string& directory)
+{
+    const std::filesystem::path dir(directory);
+    if (directory != game.GameDirectory)
+        game.BackupsKept = false;
+    game.GameDirectory = directory;
+    game.PlayersPath = (dir / "players.dat").string();
+    game.TeamsPath = (dir / "teams.dat").string();
+}
+
+void ClearTables(Game& game)
+{
+    std::fill(game.Players.begin(), game.Players.end(), PlayerRecord{});
+    std::fill(game.Teams.begin(), game.Teams.end(), TeamRecord{});
+    game.PlayerCount = 0;
+    game.TeamCount = 0;
+}
+
+int LoadedTeamCount(const Game& game)
+{
+    return std::clamp(game.TeamCount - 2, 0, MaxTeams);
+}

@@ -1,0 +1,49 @@
+#include "data/names.h"
+
+#include <algorithm>
+#include <utility>
+
+std::optional<std::string> NameProblem(std::string_view name)
+{
+    if (name.find(',') != std::string_view::npos)
+        return "it contains a comma";
+    if (name.find_first_of("\r\n") != std::string_view::npos)
+        return "it contains a line break";
+    const auto first = name.find_first_not_of(' ');
+    if (first != std::string_view::npos && name[first] == '"')
+        return "it begins with a double quote";
+    return std::nullopt;
+}
+
+namespace {
+
+std::optional<NameFault> Check(const char* file, const std::string& record, const char* field,
+                               const std::string& name)
+{
+    if (auto problem = NameProblem(name))
+        return NameFault{file, record + ": the " + field + " \"" + name + "\" cannot be saved because " + *problem};
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<NameFault> FirstUnstorableName(const Game& game)
+{
+    for (int i = 1; i <= std::min<int>(game.PlayerCount, MaxPlayers); ++i) {
+        const PlayerRecord& player = game.Players[i];
+        const std::string record = "player " + std::to_string(i);
+        if (auto fault = Check("players.dat", record, "initials", player.initials))
+            return fault;
+        if (auto fault = Check("players.dat", record, "surname", player.surname))
+            return fault;
+    }
+    for (int i = 1; i <= LoadedTeamCount(game); ++i) {
+        const TeamRecord& team = game.Teams[i];
+        const std::string record = "team " + std::to_string(i);
+        if (auto fault = Check("teams.dat", record, "team name", team.teamName))
+            return fault;
+        if (auto fault = Check("teams.dat", record, "abbreviation", team.abbreviation))
+            return fault;
+    }
+    return std::nullopt;
+}

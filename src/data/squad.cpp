@@ -1,0 +1,131 @@
+#include "data/squad.h"
+
+#include <algorithm>
+
+namespace {
+
+// Teams that a search over all squads looks at: up to TeamCount, which stands
+// two above the last team, and never past the table.
+int LastTeamToScan(const Game& game)
+{
+    return std::min<int>(game.TeamCount, MaxTeams);
+}
+
+// Closes the gaps a file may have left, keeping the order of the players.
+void PackSquad(Squad& squad)
+{
+    const auto firstPlace = squad.begin() + 1;
+    const auto filledEnd = std::stable_partition(firstPlace, squad.end(),
+                                                 [](std::int16_t player) { return player != 0; });
+    std::fill(filledEnd, squad.end(), std::int16_t{0});
+}
+
+void LeaveTeam(Game& game, std::int16_t player)
+{
+    if (IsPlayerNumber(player))
+        game.Players[player].teamNumber = 0;
+}
+
+}  // namespace
+
+bool IsTeamIndex(int team)
+{
+    return team >= 1 && team <= MaxTeams;
+}
+
+bool IsPlayerNumber(int player)
+{
+    return player >= 1 && player <= MaxPlayers;
+}
+
+int SquadCount(const TeamRecord& team)
+{
+    return static_cast<int>(std::count_if(team.squad.begin() + 1, team.squad.end(),
+                                          [](std::int16_t player) { return player != 0; }));
+}
+
+int SlotOfRow(const TeamRecord& team, int row)
+{
+    if (row < 0)
+        return 0;
+    for (int slot = 1; slot <= SquadSize; ++slot) {
+        if (team.squad[slot] != 0 && row-- == 0)
+            return slot;
+    }
+    return 0;
+}
+
+void RemoveSquadSlot(Game& game, int team, int slot)
+{
+    if (!IsTeamIndex(team) || slot < 1 || slot > SquadSize)
+        return;
+    Squad& squad = game.Teams[team].squad;
+    std::copy(squad.begin() + slot + 1, squad.end(), squad.begin() + slot);
+    squad[SquadSize] = 0;
+}
+
+std::int16_t DetachFromSquads(Game& game, std::int16_t player)
+{
+    std::int16_t oldTeam = 0;
+    if (!IsPlayerNumber(player))
+        return oldTeam;
+    const int lastTeam = LastTeamToScan(game);
+    for (int team = 1; team <= lastTeam; ++team) {
+        const Squad& squad = game.Teams[team].squad;
+        for (int slot = 1; slot <= SquadSize; ++slot) {
+            // Closing a place moves the next player into it, so look again.
+            while (squad[slot] == player) {
+                RemoveSquadSlot(game, team, slot);
+                oldTeam = static_cast<std::int16_t>(team);
+            }
+        }
+    }
+    return oldTeam;
+}
+
+bool IsInSquad(const Game& game, int team, std::int16_t player)
+{
+    if (!IsTeamIndex(team) || !IsPlayerNumber(player))
+        return false;
+    const Squad& squad = game.Teams[team].squad;
+    return std::find(squad.begin() + 1, squad.end(), player) != squad.end();
+}
+
+std::int16_t DeleteFromSquad(Game& game, int team, int slot)
+{
+    if (!IsTeamIndex(team) || slot < 1 || slot > SquadSize)
+        return 0;
+    const std::int16_t player = game.Teams[team].squad[slot];
+    LeaveTeam(game, player);
+    RemoveSquadSlot(game, team, slot);
+    return player;
+}
+
+std::int16_t AddToSquad(Game& game, int team, std::int16_t candidate)
+{
+    if (!IsTeamIndex(team) || !IsPlayerNumber(candidate) || SquadCount(game.Teams[team]) >= SquadSize)
+        return 0;
+    const std::int16_t oldTeam = DetachFromSquads(game, candidate);
+    Squad& squad = game.Teams[team].squad;
+    PackSquad(squad);
+    const int size = SquadCount(game.Teams[team]);
+    game.Players[candidate].teamNumber = static_cast<std::int16_t>(team);
+    squad[size + 1] = candidate;
+    return oldTeam;
+}
+
+Replacement ReplaceInSquad(Game& game, int team, int row, std::int16_t candidate)
+{
+    Replacement result;
+    if (!IsTeamIndex(team) || !IsPlayerNumber(candidate) || SlotOfRow(game.Teams[team], row) == 0)
+        return result;
+    result.oldTeam = DetachFromSquads(game, candidate);
+    const int slot = SlotOfRow(game.Teams[team], row);
+    if (slot == 0)
+        return result;
+    result.replaced = game.Teams[team].squad[slot];
+    LeaveTeam(game, result.replaced);
+    game.Players[candidate].teamNumber = static_cast<std::int16_t>(team);
+    game.Teams[team].squad[slot] = candidate;
+    return result;
+}
