@@ -1,0 +1,150 @@
+#include "cli/differences.h"
+
+#include <algorithm>
+
+#include "cli/json.h"
+#include "cli/record_fields.h"
+#include "cli/squads.h"
+#include "cli/utf8.h"
+
+namespace {
+
+std::string Quoted(const std::string& cp1252)
+{
+    return "\"" + Utf8FromCp1252(cp1252) + "\"";
+}
+
+std::string PlayerTitle(const Game& game, int number)
+{
+    return "player " + std::to_string(number) + " (" + PlayerLabel(game.Players[number]) + ")";
+}
+
+std::string TeamTitle(const Game& game, int number)
+{
+    return "team " + std::to_string(number) + " (" + Utf8FromCp1252(game.Teams[number].teamName) + ")";
+}
+
+class Comparer {
+public:
+    Comparer(const Game& before, const Game& after) : before_(before), after_(after) {}
+
+    std::vector<Difference> Run()
+    {
+        ComparePlayers();
+        CompareTeams();
+        CompareSquads();
+        return std::move(differences_);
+    }
+
+private:
+    void Add(Difference difference) { differences_.push_back(std::move(difference)); }
+
+    template <class Record>
+    void CompareFields(const char* file, int number, const std::string& title, const Record& a, const Record& b,
+                       const auto& textFields, const auto& numberFields)
+    {
+        for (const auto& field : textFields) {
+            const std::string& from = a.*field.member;
+            const std::string& to = b.*field.member;
+            if (from != to)
+                Add({"changed", file, number, std::string(field.name), Utf8FromCp1252(from), Utf8FromCp1252(to),
+                     title + ": " + std::string(field.name) + " " + Quoted(from) + " -> " + Quoted(to)});
+        }
+        for (const auto& field : numberFields) {
+            const int from = a.*field.member;
+            const int to = b.*field.member;
+            if (from != to)
+                Add({"changed", file, number, std::string(field.name), std::to_string(from), std::to_string(to),
+                     title + ": " + std::string(field.name) + " " + std::to_string(from) + " -> " +
+                         std::to_string(to)});
+        }
+    }
+
+    void ComparePlayers()
+    {
+        const int countBefore = LoadedPlayerCount(before_);
+        const int countAfter = LoadedPlayerCount(after_);
+        for (int number = 1; number <= std::min(countBefore, countAfter); ++number)
+            CompareFields("players.dat", number, PlayerTitle(after_, number), before_.Players[number],
+                          after_.Players[number], PlayerTextFields, PlayerNumberFields);
+        for (int number = countBefore + 1; number <= countAfter; ++number)
+            Add({"added", "players.dat", number, {}, {}, PlayerLabel(after_.Players[number]),
+                 PlayerTitle(after_, number) + " added"});
+        for (int number = countAfter + 1; number <= countBefore; ++number)
+            Add({"removed", "players.dat", number, {}, PlayerLabel(before_.Players[number]), {},
+                 PlayerTitle(before_, number) + " removed"});
+    }
+
+    void CompareTeams()
+    {
+        const int countBefore = LoadedTeamCount(before_);
+        const int countAfter = LoadedTeamCount(after_);
+        for (int number = 1; number <= std::min(countBefore, countAfter); ++number) {
+            const TeamRecord& a = before_.Teams[number];
+            const TeamRecord& b = after_.Teams[number];
+            CompareFields("teams.dat", number, TeamTitle(after_, number), a, b, TeamTextFields, TeamNumberFields);
+            auto playersA = std::vector<int>(a.squad.begin() + 1, a.squad.end());
+            auto playersB = std::vector<int>(b.squad.begin() + 1, b.squad.end());
+            if (playersA == playersB)
+                continue;
+            std::sort(playersA.begin(), playersA.end());
+            std::sort(playersB.begin(), playersB.end());
+            if (playersA == playersB)
+                Add({"rearranged", "teams.dat", number, "squad", {}, {},
+                     TeamTitle(after_, number) + ": the squad holds the same players in other places"});
+        }
+        for (int number = countBefore + 1; number <= countAfter; ++number)
+            Add({"added", "teams.dat", number, {}, {}, Utf8FromCp1252(after_.Teams[number].teamName),
+                 TeamTitle(after_, number) + " added"});
+        for (int number = countAfter + 1; number <= countBefore; ++number)
+            Add({"removed", "teams.dat", number, {}, Utf8FromCp1252(before_.Teams[number].teamName), {},
+                 TeamTitle(before_, number) + " removed"});
+    }
+
+    // A player's team is the first squad that holds him.
+    void CompareSquads()
+    {
+        const auto holdersBefore = TeamsHoldingEachPlayer(before_);
+        const auto holdersAfter = TeamsHoldingEachPlayer(after_);
+        const int count = std::max(LoadedPlayerCount(before_), LoadedPlayerCount(after_));
+        for (int number = 1; number <= count; ++number) {
+            const int from = holdersBefore[number].empty() ? 0 : holdersBefore[number].front();
+            const int to = holdersAfter[number].empty() ? 0 : holdersAfter[number].front();
+            if (from == to)
+                continue;
+            const Game& named = number <= LoadedPlayerCount(after_) ? after_ : before_;
+            std::string text = PlayerTitle(named, number);
+            if (from == 0)
+                text += " joined " + TeamTitle(after_, to);
+            else if (to == 0)
+                text += " left " + TeamTitle(before_, from);
+            else
+                text += " moved from " + TeamTitle(before_, from) + " to " + TeamTitle(after_, to);
+            Add({"moved", "players.dat", number, "squad", std::to_string(from), std::to_string(to), text});
+        }
+    }
+
+    const Game& before_;
+    const Game& after_;
+    std::vector<Difference> differences_;
+};
+
+}  // namespace
+
+std::vector<Difference> CompareGames(const Game& before, const Game& after)
+{
+    return Comparer(before, after).Run();
+}
+
+std::string DifferenceJson(const Difference& d)
+{
+    std::string json = "{\"change\":" + JsonString(d.change) + ",\"file\":" + JsonString(d.file) +
+                       ",\"record\":" + std::to_string(d.record);
+    if (!d.field.empty())
+        json += ",\"field\":" + JsonString(d.field);
+    if (d.change != "added" && d.change != "rearranged")
+        json += ",\"from\":" + JsonString(d.from);
+    if (d.change != "removed" && d.change != "rearranged")
+        json += ",\"to\":" + JsonString(d.to);
+    return json + ",\"text\":" + JsonString(d.text) + "}";
+}

@@ -1,0 +1,85 @@
+#include <filesystem>
+#include <ostream>
+
+#include "cli/commands.h"
+#include "cli/differences.h"
+#include "cli/game_folder.h"
+#include "cli/import_rows.h"
+#include "data/file_io.h"
+#include "data/save.h"
+
+namespace {
+
+constexpr std::string_view Usage =
+    "Usage: kolta-data import [--dry-run] DIR IN\n"
+    "Reads IN/players.csv and IN/teams.csv, as export writes them (either may be\n"
+    "left out), into the game in DIR. A row edits the player or team with its\n"
+    "number; a row with the next free number, or an empty number, adds one. Columns\n"
+    "left out of a file keep their values; an empty cell is 0. The word columns are\n"
+    "only compared with their numbers.\n"
+    "When any row is wrong (an unknown column, a number that is no 16-bit whole\n"
+    "number, a name the files cannot carry, a squad over 20, a number beyond\n"
+    "2000 players or 500 teams, a player put into two squads) every wrong row is\n"
+    "listed by its line and nothing is changed. Otherwise the changes are listed\n"
+    "and both files are saved as the editor saves them, the old ones kept as .bak.\n"
+    "  --dry-run   list the changes and save nothing\n"
+    "Exit 0 on success, 1 when the import was refused, 2 when a file can't be read\n"
+    "or written.\n";
+
+int RunImport(const CommandLine& line, std::ostream& out, std::ostream& err)
+{
+    const LoadedGame loaded = LoadGameFolder(line.positional[0]);
+    if (!loaded.BothRead()) {
+        err << "kolta-data import: cannot read " << UnreadFiles(loaded) << '\n';
+        return ExitFailed;
+    }
+    const std::filesystem::path folder(line.positional[1]);
+    const auto playersText = ReadWholeFile((folder / "players.csv").string());
+    const auto teamsText = ReadWholeFile((folder / "teams.csv").string());
+    if (!playersText && !teamsText) {
+        err << "kolta-data import: neither players.csv nor teams.csv can be read in " << folder.string() << '\n';
+        return ExitFailed;
+    }
+    const CsvTable players = ParseCsv(playersText.value_or(""));
+    const CsvTable teams = ParseCsv(teamsText.value_or(""));
+
+    Game& game = *loaded.game;
+    const auto before = std::make_unique<Game>(game);
+    const std::vector<RowFault> faults =
+        ApplyImport(game, {playersText ? &players : nullptr, teamsText ? &teams : nullptr});
+    if (!faults.empty()) {
+        for (const RowFault& fault : faults)
+            err << fault.file << (fault.line > 0 ? ":" + std::to_string(fault.line) : std::string{}) << ": "
+                << fault.message << '\n';
+        err << "kolta-data import: nothing was changed (" << faults.size()
+            << (faults.size() == 1 ? " fault)\n" : " faults)\n");
+        return ExitFound;
+    }
+
+    const std::vector<Difference> changes = CompareGames(*before, game);
+    for (const Difference& change : changes)
+        out << change.text << '\n';
+    if (changes.empty()) {
+        out << "Nothing to change.\n";
+        return ExitOk;
+    }
+    if (line.Has("--dry-run")) {
+        out << "Dry run: nothing was saved (" << changes.size() << " changes).\n";
+        return ExitOk;
+    }
+    if (const FileResult saved = SaveGame(game); !saved.ok()) {
+        err << "kolta-data import: " << saved.path << ": " << saved.reason << '\n';
+        return ExitFailed;
+    }
+    out << "Saved " << changes.size() << " changes; the old files are kept as .bak.\n";
+    return ExitOk;
+}
+
+}  // namespace
+
+const Subcommand& ImportCommand()
+{
+    static const Subcommand command{"import", "read players.csv and teams.csv back into a game folder", Usage,
+                                    {{"--dry-run"}, {}}, 2, 2, RunImport};
+    return command;
+}

@@ -1,0 +1,344 @@
+#include "cli/import_rows.h"
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <tuple>
+#include <type_traits>
+
+#include "cli/csv_layout.h"
+#include "cli/problems.h"
+#include "cli/record_fields.h"
+#include "cli/squads.h"
+#include "cli/utf8.h"
+#include "data/names.h"
+#include "data/text_lines.h"
+
+namespace {
+
+constexpr const char* PlayersCsv = "players.csv";
+constexpr const char* TeamsCsv = "teams.csv";
+
+// What a column of the header stands for.
+struct Column {
+    enum class Kind { Key, Text, Number, Word, Squad } kind;
+    int index = 0;  // into the record's text or number fields, or the squad place
+};
+
+std::string Shown(const std::string& cell)
+{
+    return "\"" + cell + "\"";
+}
+
+// Walks one table's rows into one kind of record.
+template <class Record, std::size_t TextCount, std::size_t NumberCount>
+class TableImport {
+public:
+    TableImport(const char* file, std::string_view key, const std::array<TextField<Record>, TextCount>& texts,
+                const std::array<NumberField<Record>, NumberCount>& numbers, bool squads,
+                std::vector<RowFault>& faults)
+        : file_(file), key_(key), texts_(texts), numbers_(numbers), squads_(squads), faults_(faults)
+    {
+    }
+
+    // False when the header is wrong; the rows are then not looked at.
+    bool ReadHeader(const CsvTable& table)
+    {
+        const int line = table.lineNumbers.front();
+        std::set<std::string> seen;
+        for (const std::string& name : table.rows.front()) {
+            if (!seen.insert(name).second)
+                Fault(line, "the column " + Shown(name) + " stands twice");
+            if (const auto column = Find(name))
+                columns_.push_back(*column);
+            else
+                Fault(line, "unknown column " + Shown(name));
+        }
+        if (!seen.contains(std::string(key_)))
+            Fault(line, "the column " + Shown(std::string(key_)) + " is missing: rows are found by it");
+        return faultsBefore_ == faults_.size();
+    }
+
+    // The number of the record a row stands for; nothing when it is wrong.
+    // `existing` records can be edited; `next` is the number a new one takes.
+    std::optional<int> RowNumber(const CsvRow& row, int line, int existing, int& next, int limit, const char* what)
+    {
+        const std::string& cell = row[KeyColumn()];
+        int number = next;
+        if (!TrimBlanks(cell).empty()) {
+            const auto value = WholeNumber(cell);
+            if (!value)
+                return Fault(line, std::string(key_) + " " + Shown(cell) + " is not a whole number");
+            number = *value;
+        }
+        if (number < 1 || number > limit)
+            return Fault(line, std::string(what) + " numbers run from 1 to " + std::to_string(limit) + ", not " +
+                                   std::to_string(number));
+        if (const auto earlier = lines_.find(number); earlier != lines_.end())
+            return Fault(line, std::string(what) + " " + std::to_string(number) + " already stands on line " +
+                                   std::to_string(earlier->second));
+        if (number > existing && number != next)
+            return Fault(line, "a new " + std::string(what) + " takes the next free number, " +
+                                   std::to_string(next) + ", not " + std::to_string(number));
+        if (number == next)
+            ++next;
+        lines_[number] = line;
+        return number;
+    }
+
+    // Copies the row's cells into `record`. False when a cell is wrong.
+    bool ApplyCells(const CsvRow& row, int line, Record& record, Squad* squad)
+    {
+        const std::size_t faultsBefore = faults_.size();
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
+            const Column& column = columns_[i];
+            const std::string& cell = row[i];
+            switch (column.kind) {
+            case Column::Kind::Text: TakeText(cell, line, texts_[column.index], record); break;
+            case Column::Kind::Number:
+                if (const auto value = Number(cell, line, numbers_[column.index].name))
+                    record.*numbers_[column.index].member = *value;
+                break;
+            case Column::Kind::Squad: TakeSquadPlace(cell, line, column.index, squad); break;
+            case Column::Kind::Key:
+            case Column::Kind::Word: break;
+            }
+        }
+        // The words are for reading; one that was changed without its code would be lost.
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
+            if (columns_[i].kind != Column::Kind::Word || TrimBlanks(row[i]).empty())
+                continue;
+            const auto& field = numbers_[columns_[i].index];
+            const int code = record.*field.member;
+            const std::string word(field.codes->WordFor(code).value_or(""));
+            if (TrimBlanks(row[i]) != word)
+                Fault(line, WordColumn(field.name) + " " + Shown(row[i]) + " does not match " +
+                                std::string(field.name) + " " + std::to_string(code) +
+                                (word.empty() ? "" : " (" + word + ")") + ": the number is what is taken");
+        }
+        return faults_.size() == faultsBefore;
+    }
+
+    std::size_t ColumnCount() const { return columns_.size(); }
+    const std::map<int, int>& Lines() const { return lines_; }
+
+    std::nullopt_t Fault(int line, std::string message)
+    {
+        faults_.push_back({file_, line, std::move(message)});
+        return std::nullopt;
+    }
+
+private:
+    std::optional<Column> Find(const std::string& name) const
+    {
+        if (name == key_)
+            return Column{Column::Kind::Key};
+        for (std::size_t i = 0; i < texts_.size(); ++i) {
+            if (name == texts_[i].name)
+                return Column{Column::Kind::Text, static_cast<int>(i)};
+        }
+        for (std::size_t i = 0; i < numbers_.size(); ++i) {
+            if (name == numbers_[i].name)
+                return Column{Column::Kind::Number, static_cast<int>(i)};
+            if (numbers_[i].codes && name == WordColumn(numbers_[i].name))
+                return Column{Column::Kind::Word, static_cast<int>(i)};
+        }
+        // squad21 and beyond are known, so that a row using them is refused as a squad over 20.
+        if (squads_ && name.starts_with("squad")) {
+            if (const auto place = WholeNumber(name.substr(5)); place && *place >= 1 && SquadColumn(*place) == name)
+                return Column{Column::Kind::Squad, *place};
+        }
+        return std::nullopt;
+    }
+
+    std::size_t KeyColumn() const
+    {
+        return std::find_if(columns_.begin(), columns_.end(),
+                            [](const Column& c) { return c.kind == Column::Kind::Key; }) -
+               columns_.begin();
+    }
+
+    // An empty cell reads as 0, as the game reads an empty line.
+    std::optional<std::int16_t> Number(const std::string& cell, int line, std::string_view name)
+    {
+        if (TrimBlanks(cell).empty())
+            return std::int16_t{0};
+        if (const auto value = WholeNumber(cell))
+            return value;
+        return Fault(line, std::string(name) + " " + Shown(cell) + " is not a whole number from -32768 to 32767");
+    }
+
+    void TakeText(const std::string& cell, int line, const TextField<Record>& field, Record& record)
+    {
+        const std::string name(field.name);
+        if (cell.find_first_of("\r\n") != std::string::npos) {
+            Fault(line, name + " " + Shown(cell) + " holds a line break, which the files cannot carry");
+            return;
+        }
+        auto bytes = Cp1252FromUtf8(cell);
+        if (!bytes) {
+            Fault(line, name + " " + Shown(cell) + " holds a character that the game's files (Windows-1252) cannot store");
+            return;
+        }
+        // The game's reader trims initials, so they are stored as it will read them.
+        if constexpr (std::is_same_v<Record, PlayerRecord>)
+            if (field.member == &PlayerRecord::initials)
+                bytes = TrimBlanks(*bytes);
+        if (const auto problem = NameProblem(*bytes)) {
+            Fault(line, name + " " + Shown(cell) + " cannot be stored: " + *problem);
+            return;
+        }
+        record.*field.member = std::move(*bytes);
+    }
+
+    void TakeSquadPlace(const std::string& cell, int line, int place, Squad* squad)
+    {
+        const auto player = Number(cell, line, SquadColumn(place));
+        if (!player || !squad)
+            return;
+        if (place > SquadSize) {
+            if (*player != 0)
+                Fault(line, "a squad holds at most 20 players, but " + SquadColumn(place) + " names player " +
+                                std::to_string(*player));
+            return;
+        }
+        (*squad)[place] = *player;
+    }
+
+    const char* file_;
+    std::string_view key_;
+    const std::array<TextField<Record>, TextCount>& texts_;
+    const std::array<NumberField<Record>, NumberCount>& numbers_;
+    bool squads_;
+    std::vector<RowFault>& faults_;
+    std::size_t faultsBefore_ = faults_.size();
+    std::vector<Column> columns_;
+    std::map<int, int> lines_;  // record number -> line of its row
+};
+
+// Rows a spreadsheet leaves at the end hold nothing at all.
+bool BlankRow(const CsvRow& row)
+{
+    return std::all_of(row.begin(), row.end(), [](const std::string& cell) { return cell.empty(); });
+}
+
+template <class Import>
+bool RowFits(Import& import, const CsvRow& row, int line)
+{
+    if (row.size() == import.ColumnCount())
+        return true;
+    import.Fault(line, "the row has " + std::to_string(row.size()) + " fields, the header " +
+                           std::to_string(import.ColumnCount()));
+    return false;
+}
+
+bool CsvReadable(const CsvTable& table, const char* file, std::vector<RowFault>& faults)
+{
+    if (!table.error.empty()) {
+        faults.push_back({file, table.errorLine, table.error});
+        return false;
+    }
+    if (table.rows.empty()) {
+        faults.push_back({file, 1, "the header row is missing"});
+        return false;
+    }
+    return true;
+}
+
+std::map<int, int> ImportPlayers(Game& game, const CsvTable& table, std::vector<RowFault>& faults)
+{
+    TableImport import(PlayersCsv, PlayerKeyColumn, PlayerTextFields, PlayerNumberFields, false, faults);
+    if (!CsvReadable(table, PlayersCsv, faults) || !import.ReadHeader(table))
+        return {};
+    const int existing = LoadedPlayerCount(game);
+    int next = existing + 1;
+    for (std::size_t r = 1; r < table.rows.size(); ++r) {
+        const CsvRow& row = table.rows[r];
+        const int line = table.lineNumbers[r];
+        if (BlankRow(row) || !RowFits(import, row, line))
+            continue;
+        const auto number = import.RowNumber(row, line, existing, next, MaxPlayers, "player");
+        if (!number)
+            continue;
+        PlayerRecord record = *number <= existing ? game.Players[*number] : PlayerRecord{};
+        if (!import.ApplyCells(row, line, record, nullptr))
+            continue;
+        record.playerNumber = static_cast<std::int16_t>(*number);
+        game.Players[*number] = std::move(record);
+        game.PlayerCount = std::max<std::int16_t>(game.PlayerCount, static_cast<std::int16_t>(*number));
+    }
+    return import.Lines();
+}
+
+std::map<int, int> ImportTeams(Game& game, const CsvTable& table, std::vector<RowFault>& faults)
+{
+    TableImport import(TeamsCsv, TeamKeyColumn, TeamTextFields, TeamNumberFields, true, faults);
+    if (!CsvReadable(table, TeamsCsv, faults) || !import.ReadHeader(table))
+        return {};
+    const int existing = LoadedTeamCount(game);
+    int next = existing + 1;
+    for (std::size_t r = 1; r < table.rows.size(); ++r) {
+        const CsvRow& row = table.rows[r];
+        const int line = table.lineNumbers[r];
+        if (BlankRow(row) || !RowFits(import, row, line))
+            continue;
+        const auto number = import.RowNumber(row, line, existing, next, MaxTeams, "team");
+        if (!number)
+            continue;
+        TeamRecord record = *number <= existing ? game.Teams[*number] : TeamRecord{};
+        if (!import.ApplyCells(row, line, record, &record.squad))
+            continue;
+        record.teamNumber = static_cast<std::int16_t>(*number);
+        game.Teams[*number] = std::move(record);
+        game.TeamCount = std::max<std::int16_t>(game.TeamCount, static_cast<std::int16_t>(*number + 2));
+    }
+    return import.Lines();
+}
+
+std::tuple<std::string, int, std::string> ErrorKey(const Problem& problem)
+{
+    return {problem.file, problem.record, problem.field};
+}
+
+// Squad errors the rows bring in, laid at the row of the team they concern.
+void FindNewErrors(const Game& before, const Game& after, const std::map<int, int>& teamLines,
+                   const std::map<int, int>& playerLines, std::vector<RowFault>& faults)
+{
+    std::set<std::tuple<std::string, int, std::string>> old;
+    for (const Problem& problem : ProblemsInGame(before)) {
+        if (problem.severity == Severity::Error)
+            old.insert(ErrorKey(problem));
+    }
+    for (const Problem& problem : ProblemsInGame(after)) {
+        if (problem.severity != Severity::Error || old.contains(ErrorKey(problem)))
+            continue;
+        const bool team = problem.file == "teams.dat";
+        const auto& lines = team ? teamLines : playerLines;
+        const auto row = lines.find(problem.record);
+        faults.push_back({team ? TeamsCsv : PlayersCsv, row == lines.end() ? 0 : row->second,
+                          (team ? "team " : "player ") + std::to_string(problem.record) + ": " + problem.field +
+                              ": " + problem.message});
+    }
+}
+
+}  // namespace
+
+std::vector<RowFault> ApplyImport(Game& game, const ImportTables& tables)
+{
+    const auto before = std::make_unique<Game>(game);
+    std::vector<RowFault> faults;
+    std::map<int, int> playerLines;
+    std::map<int, int> teamLines;
+    if (tables.players)
+        playerLines = ImportPlayers(game, *tables.players, faults);
+    if (tables.teams)
+        teamLines = ImportTeams(game, *tables.teams, faults);
+    if (faults.empty())
+        FindNewErrors(*before, game, teamLines, playerLines, faults);
+    std::stable_sort(faults.begin(), faults.end(), [](const RowFault& a, const RowFault& b) {
+        return std::tie(a.file, a.line) < std::tie(b.file, b.line);
+    });
+    return faults;
+}
