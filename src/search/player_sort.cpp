@@ -1,0 +1,176 @@
+#include "search/player_sort.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+#include "data/cp1252.h"
+#include "search/search_filters.h"
+
+namespace {
+
+constexpr double FullBarTwips = 2500.0;
+
+// What the sort moves about: a row's key and the number of the row it stands
+// for. The records themselves wait until the order is known and then move
+// once each, so a worst case of 2000 rows in reverse order stays cheap.
+template <typename Key>
+struct SortEntry {
+    Key key;
+    int row;
+};
+
+template <typename Key>
+using SortEntries = std::array<SortEntry<Key>, MaxPlayers + 1>;
+
+// A two-way bubble sort. An entry that is out of place is carried along as the
+// held entry while the entries it passes shift by one, and each sweep shrinks
+// the span to where its last entry was placed. `before` is strict, which keeps
+// the sort stable.
+template <typename Key, typename Before>
+void CocktailSort(SortEntries<Key>& entries, int first, int last, Before before, const SortProgress& progress)
+{
+    const auto belongsBefore = [&](const SortEntry<Key>& a, const SortEntry<Key>& b) { return before(a.key, b.key); };
+    SortEntry<Key> held;
+    while (first < last) {
+        if (progress)
+            progress(static_cast<double>(first) / last * FullBarTwips);
+
+        int lastPlaced = first - 1;
+        for (int p = first + 1; p <= last; ++p) {
+            if (!belongsBefore(entries[p], entries[p - 1]))
+                continue;
+            held = entries[p - 1];
+            do {
+                entries[p - 1] = entries[p];
+                ++p;
+            } while (p <= last && belongsBefore(entries[p], held));
+            entries[p - 1] = held;
+            lastPlaced = p - 1;
+        }
+        last = lastPlaced - 1;
+
+        int firstPlaced = last + 1;
+        for (int p = last - 1; p >= first; --p) {
+            if (!belongsBefore(entries[p + 1], entries[p]))
+                continue;
+            held = entries[p + 1];
+            do {
+                entries[p + 1] = entries[p];
+                --p;
+            } while (p >= first && belongsBefore(held, entries[p]));
+            entries[p + 1] = held;
+            firstPlaced = p + 1;
+        }
+        first = firstPlaced + 1;
+    }
+}
+
+// Moves each record to the row its entry ended on, following each cycle of the
+// new order with one held record. Texts are moved, never copied.
+template <typename Key>
+void PlaceRows(WorkingTable& rows, SortEntries<Key>& entries, int first, int last)
+{
+    for (int start = first; start <= last; ++start) {
+        if (entries[start].row == start)
+            continue;
+        PlayerRecord held = std::move(rows[start]);
+        int to = start;
+        while (entries[to].row != start) {
+            const int from = entries[to].row;
+            rows[to] = std::move(rows[from]);
+            entries[to].row = to;
+            to = from;
+        }
+        rows[to] = std::move(held);
+        entries[to].row = to;
+    }
+}
+
+template <typename Key, typename KeyOf, typename Before>
+void SortBy(WorkingTable& rows, int first, int last, KeyOf keyOf, Before before, const SortProgress& progress)
+{
+    SortEntries<Key> entries;
+    for (int row = first; row <= last; ++row)
+        entries[row] = {keyOf(rows[row]), row};
+    CocktailSort(entries, first, last, before, progress);
+    PlaceRows(rows, entries, first, last);
+}
+
+// Only bytes 0x80 to 0x9F decode to a character of another number; every other
+// byte of Windows-1252 decodes to the character of its own number.
+bool IsRemapped(unsigned char byte)
+{
+    return byte >= 0x80 && byte < 0xA0;
+}
+
+char16_t CharacterCode(unsigned char byte)
+{
+    return IsRemapped(byte) ? Cp1252ToUnicode(byte) : char16_t{byte};
+}
+
+struct Surname {
+    std::string_view text;
+    bool plain;  // no remapped byte: byte order is character order
+};
+
+Surname SurnameOf(const PlayerRecord& record)
+{
+    const std::string_view text = record.surname;
+    return {text, std::none_of(text.begin(), text.end(), [](char c) { return IsRemapped(static_cast<unsigned char>(c)); })};
+}
+
+// Surnames compare by the characters they decode to. Each byte decodes to a
+// character of its own, so the first differing byte decides.
+bool SurnameBefore(const Surname& a, const Surname& b)
+{
+    if (a.plain && b.plain)
+        return a.text < b.text;
+    const auto [inA, inB] = std::mismatch(a.text.begin(), a.text.end(), b.text.begin(), b.text.end());
+    if (inB == b.text.end())
+        return false;
+    if (inA == a.text.end())
+        return true;
+    return CharacterCode(static_cast<unsigned char>(*inA)) < CharacterCode(static_cast<unsigned char>(*inB));
+}
+
+// Skills sort the highest first.
+void SortBySkill(WorkingTable& rows, int first, int last, std::int16_t PlayerRecord::*skill,
+                 const SortProgress& progress)
+{
+    SortBy<std::int16_t>(
+        rows, first, last, [skill](const PlayerRecord& r) { return r.*skill; },
+        [](std::int16_t a, std::int16_t b) { return a > b; }, progress);
+}
+
+}  // namespace
+
+void SortRows(WorkingTable& rows, int first, int last, SortKey key, const SortProgress& progress)
+{
+    first = std::max(first, 1);
+    last = std::min(last, MaxPlayers);
+    switch (key) {
+    case SortKey::Surname:
+        return SortBy<Surname>(rows, first, last, SurnameOf, SurnameBefore, progress);
+    case SortKey::BatSkill:
+        return SortBySkill(rows, first, last, &PlayerRecord::batSkill, progress);
+    case SortKey::BatAggression:
+        return SortBySkill(rows, first, last, &PlayerRecord::batAggression, progress);
+    case SortKey::BowlSkill:
+        return SortBySkill(rows, first, last, &PlayerRecord::bowlSkill, progress);
+    case SortKey::BowlEconomy:
+        return SortBySkill(rows, first, last, &PlayerRecord::bowlEconomy, progress);
+    case SortKey::FieldSkill:
+        return SortBySkill(rows, first, last, &PlayerRecord::fieldAbility, progress);
+    case SortKey::Potential:
+        return SortBySkill(rows, first, last, &PlayerRecord::potential, progress);
+    }
+}
+
+void SortResults(Game& game, int sortKeyIndex, const SortProgress& progress)
+{
+    if (sortKeyIndex < 0 || sortKeyIndex >= SortKeyCount)
+        return;
+    SortRows(game.FieldMatches, 1, RowsInUse(game.FieldMatches), static_cast<SortKey>(sortKeyIndex), progress);
+}

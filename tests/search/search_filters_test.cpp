@@ -1,0 +1,140 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "game_builder.h"
+#include "search/search_filters.h"
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace {
+
+// Player numbers of the rows in use of the last table, in order.
+std::vector<int> Found(const Game& game)
+{
+    std::vector<int> numbers;
+    for (int row = 1; row <= RowsInUse(game.FieldMatches); ++row)
+        numbers.push_back(game.FieldMatches[row].playerNumber);
+    return numbers;
+}
+
+std::vector<int> Search(Game& game, const SearchFilters& filters)
+{
+    RunFilters(game, filters);
+    return Found(game);
+}
+
+class SearchFiltersTest : public ::testing::Test {
+protected:
+    GameBuilder b;
+    Game& game = *b.game;
+
+    // Six players with distinct codes in every field the filters read.
+    void SetUp() override
+    {
+        struct Codes {
+            std::int16_t country, bat, bowl, field;
+        };
+        const Codes codes[] = {{1, 1, 1, 1}, {2, 2, 7, 2}, {13, 3, 7, 3},
+                               {29, 1, 9, 4}, {1, 6, 2, 1}, {2, 1, 7, 1}};
+        for (int n = 1; n <= 6; ++n) {
+            PlayerRecord& p = b.Player(n, "S" + std::to_string(n));
+            p.homeCountry = codes[n - 1].country;
+            p.batPosition = codes[n - 1].bat;
+            p.bowlType = codes[n - 1].bowl;
+            p.fieldsAt = codes[n - 1].field;
+        }
+    }
+};
+
+TEST_F(SearchFiltersTest, NoFilterListsEveryPlayerInNumberOrder)
+{
+    EXPECT_THAT(Search(game, {}), ElementsAre(1, 2, 3, 4, 5, 6));
+    // The copies are whole records, and changing them leaves the players alone.
+    EXPECT_EQ(game.FieldMatches[3], game.Players[3]);
+    game.FieldMatches[3].surname = "Changed";
+    EXPECT_EQ(game.Players[3].surname, "S3");
+}
+
+TEST_F(SearchFiltersTest, AFullTableListsPlayerTwoThousand)
+{
+    b.Players(MaxPlayers);
+    const auto found = Search(game, {});
+    ASSERT_EQ(found.size(), 2000u);
+    EXPECT_EQ(found.front(), 1);
+    EXPECT_EQ(found.back(), 2000);
+}
+
+TEST_F(SearchFiltersTest, EachFilterComparesItsCodeDirectly)
+{
+    EXPECT_THAT(Search(game, {.nationality = 2}), ElementsAre(2, 6));
+    // "Namibia" twice in the list: two codes, two different answers.
+    EXPECT_THAT(Search(game, {.nationality = 13}), ElementsAre(3));
+    EXPECT_THAT(Search(game, {.nationality = 29}), ElementsAre(4));
+    EXPECT_THAT(Search(game, {.batPosition = 1}), ElementsAre(1, 4, 6));
+    EXPECT_THAT(Search(game, {.bowlType = 7}), ElementsAre(2, 3, 6));  // "None" is a bowling type like the rest
+    EXPECT_THAT(Search(game, {.fieldsAt = 1}), ElementsAre(1, 5, 6));
+    EXPECT_THAT(Search(game, {.nationality = 2, .batPosition = 1, .bowlType = 7, .fieldsAt = 1}), ElementsAre(6));
+    EXPECT_THAT(Search(game, {.nationality = 3}), IsEmpty());
+}
+
+TEST_F(SearchFiltersTest, ACodeOfZeroPassesOnlyAnOpenFilter)
+{
+    game.Players[2].bowlType = 0;
+    EXPECT_THAT(Search(game, {.bowlType = 7}), ElementsAre(3, 6));
+    EXPECT_THAT(Search(game, {}), ElementsAre(1, 2, 3, 4, 5, 6));
+}
+
+TEST_F(SearchFiltersTest, AnEmptySurnameEndsTheListOnlyWhereHeSurvives)
+{
+    game.Players[3].surname.clear();
+    EXPECT_THAT(Search(game, {}), ElementsAre(1, 2));
+    // A search that drops him finds the players behind him; one that keeps him stops there.
+    EXPECT_THAT(Search(game, {.batPosition = 1}), ElementsAre(1, 4, 6));
+    EXPECT_THAT(Search(game, {.bowlType = 7}), ElementsAre(2));
+
+    // A slot below PlayerCount that holds no one has codes 0 and only stops an open search.
+    b.Player(9, "S9").bowlType = 7;
+    game.Players[3].surname = "S3";
+    EXPECT_THAT(Search(game, {}), ElementsAre(1, 2, 3, 4, 5, 6));
+    EXPECT_THAT(Search(game, {.bowlType = 7}), ElementsAre(2, 3, 6, 9));
+}
+
+TEST_F(SearchFiltersTest, AClubListsItsSquadInPlaceOrder)
+{
+    TeamRecord& t = b.Team(4, "Club", {5, 0, 2, 4});
+    EXPECT_THAT(Search(game, {.team = 4}), ElementsAre(5, 2, 4));
+    // The squad decides, not the players' own team numbers.
+    game.Players[1].teamNumber = 4;
+    game.Players[5].teamNumber = 0;
+    EXPECT_THAT(Search(game, {.team = 4}), ElementsAre(5, 2, 4));
+    // The club and the nationality are independent: the team's country plays no part.
+    t.homeCountry = 5;
+    EXPECT_THAT(Search(game, {.team = 4, .nationality = 1}), ElementsAre(5));
+    EXPECT_THAT(Search(game, {.team = 4, .bowlType = 7}), ElementsAre(2));
+}
+
+TEST_F(SearchFiltersTest, ClubPlacesThatNameNoPlayerGiveNoRow)
+{
+    TeamRecord& t = b.Team(1, "Odd");
+    t.squad = {0, 3, -1, 2001, 3, 32767, 6};
+    // The same number twice gives two rows.
+    EXPECT_THAT(Search(game, {.team = 1}), ElementsAre(3, 3, 6));
+    EXPECT_THAT(Search(game, {.team = 2}), IsEmpty());
+}
+
+TEST_F(SearchFiltersTest, SearchingAgainGivesTheSameRows)
+{
+    b.Team(1, "A", {6, 5, 4, 3});
+    EXPECT_THAT(Search(game, {.team = 1}), ElementsAre(6, 5, 4, 3));
+    EXPECT_THAT(Search(game, {.team = 1, .batPosition = 1}), ElementsAre(6, 4));
+    EXPECT_THAT(Search(game, {.team = 1, .batPosition = 1}), ElementsAre(6, 4));
+    // Nothing of a wider earlier search lingers in any table.
+    for (const WorkingTable* table : {&game.ClubMatches, &game.CountryMatches, &game.BatMatches,
+                                      &game.BowlMatches, &game.FieldMatches})
+        EXPECT_EQ((*table)[5], PlayerRecord{});
+}
+
+}  // namespace
