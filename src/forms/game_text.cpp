@@ -1,0 +1,30 @@
+#include "forms/game_text.h"
+
+#include "data/cp1252.h"
+#include "data/names.h"
+
+#include <algorithm>
+
+QString FromGame(std::string_view bytes)
+{
+    const std::u16string text = DecodeCp1252(bytes);
+    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+std::string ToGame(const QString& text)
+{
+    std::u16string units;
+    units.reserve(static_cast<std::size_t>(text.size()));
+    for (QChar c : text) {
+        if (FitsCp1252(c.unicode()))
+            units.push_back(c.unicode());
+    }
+    bool ok = false;
+    return EncodeCp1252(units, ok);
+}
+
+bool IsStorableName(const QString& text)
+{
+    const bool fits = std::all_of(text.begin(), text.end(), [](QChar c) { return FitsCp1252(c.unicode()); });
+    return fits && !NameProblem(ToGame(text));
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+// Texts of the game's records are Windows-1252 bytes; the windows show Unicode.
+QString FromGame(std::string_view bytes);
+// Characters the code page cannot hold never reach a record: the name boxes
+// refuse them (see IsStorableName), so this is lossless for any text they take.
+std::string ToGame(const QString& text);
+
+// Whether a name box may hold `text`: every character fits the game's code
+// page and the file format can carry the name (no comma, no leading quote).
+bool IsStorableName(const QString& text);

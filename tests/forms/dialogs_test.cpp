@@ -1,0 +1,151 @@
+#include "forms/message_box.h"
+#include "forms/modal.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Dialogs : public ::testing::Test {
+protected:
+    Dialogs() { ClearShownMessages(); }
+    ~Dialogs() override
+    {
+        SetMessageAnswerer({});
+        SetModalDriver({});
+    }
+};
+
+// Presses a key on the message box that is open when the event loop next runs.
+void PressOnNextBox(int key)
+{
+    QTimer::singleShot(0, [key] {
+        for (QWidget* top : QApplication::topLevelWidgets()) {
+            if (auto* box = qobject_cast<QMessageBox*>(top); box && box->isVisible())
+                QTest::keyClick(box, static_cast<Qt::Key>(key));
+        }
+    });
+}
+
+// A form with a button that opens an inner form, as the main window opens
+// the search window.
+struct OuterForm : QDialog {
+    QDialog inner;
+    int innerResult = -1;
+    QPushButton* open = new QPushButton("Open", this);
+    OuterForm()
+    {
+        setObjectName("outer");
+        inner.setObjectName("inner");
+        connect(open, &QPushButton::clicked, this, [this] { innerResult = ShowModal(inner, this); });
+    }
+};
+
+}  // namespace
+
+TEST_F(Dialogs, MessagesAreRecordedAndAnsweredByTheTest)
+{
+    std::vector<QString> asked;
+    SetMessageAnswerer([&](const ShownMessage& message) {
+        asked.push_back(message.text);
+        return message.flags & MbYesNoCancel ? IdNo : IdOk;
+    });
+    EXPECT_EQ(MsgBox("Save changes?", MbYesNoCancel | MbExclamation, "Exit"), IdNo);
+    EXPECT_EQ(MsgBox("Squad full", MbInformation, "Add"), IdOk);
+
+    ASSERT_EQ(ShownMessages().size(), 2u);
+    EXPECT_EQ(ShownMessages()[0].text, "Save changes?");
+    EXPECT_EQ(ShownMessages()[0].flags, 51);
+    EXPECT_EQ(ShownMessages()[0].title, "Exit");
+    EXPECT_EQ(asked, (std::vector<QString>{"Save changes?", "Squad full"}));
+
+    ClearShownMessages();
+    EXPECT_TRUE(ShownMessages().empty());
+}
+
+TEST_F(Dialogs, RealBoxesAnswerWithTheKeysPressed)
+{
+    PressOnNextBox(Qt::Key_Return);
+    EXPECT_EQ(MsgBox("Really?", MbYesNoCancel | MbExclamation, "Exit"), IdYes);   // Yes is the default
+    PressOnNextBox(Qt::Key_Escape);
+    EXPECT_EQ(MsgBox("Really?", MbYesNoCancel | MbExclamation, "Exit"), IdCancel);
+    PressOnNextBox(Qt::Key_Escape);
+    EXPECT_EQ(MsgBox("Remove him?", MbYesNo | MbCritical, "Remove"), IdNo);
+    PressOnNextBox(Qt::Key_Escape);
+    EXPECT_EQ(MsgBox("Done", MbInformation, "Save"), IdOk);
+    ASSERT_EQ(ShownMessages().size(), 4u);   // shown boxes are recorded too
+    EXPECT_EQ(ShownMessages()[2].flags, 20);
+}
+
+TEST_F(Dialogs, DriverWorksTheFormAndItsResultComesBack)
+{
+    QWidget owner;
+    owner.setGeometry(100, 100, 600, 400);
+    owner.show();
+    QPoint centreSeen;
+    bool modalSeen = false;
+    SetModalDriver([&](QDialog& form) {
+        centreSeen = form.frameGeometry().center();
+        modalSeen = form.isModal() && form.parentWidget() == &owner;
+        form.accept();
+    });
+    QDialog form;
+    form.resize(200, 100);
+    EXPECT_EQ(ShowModal(form, &owner), QDialog::Accepted);
+    EXPECT_TRUE(modalSeen);
+    EXPECT_LE((centreSeen - owner.frameGeometry().center()).manhattanLength(), 2);
+    EXPECT_TRUE(form.isWindow());
+}
+
+TEST_F(Dialogs, AFormTheDriverLeavesOpenIsClosed)
+{
+    SetModalDriver([](QDialog&) {});
+    QDialog form;
+    EXPECT_EQ(ShowModal(form, nullptr), QDialog::Rejected);
+    EXPECT_FALSE(form.isVisible());
+
+    // Even a form that refuses to be rejected, as one that only closes by its own button.
+    struct Stubborn : QDialog {
+        void reject() override {}
+    } stubborn;
+    EXPECT_EQ(ShowModal(stubborn, nullptr), QDialog::Rejected);
+}
+
+TEST_F(Dialogs, ModalFormsNest)
+{
+    std::vector<QString> driven;
+    SetModalDriver([&](QDialog& form) {
+        driven.push_back(form.objectName());
+        if (form.objectName() == "outer") {
+            static_cast<OuterForm&>(form).open->click();
+            form.accept();
+        } else {
+            EXPECT_TRUE(form.isVisible());
+            form.done(5);
+        }
+    });
+    OuterForm outer;
+    EXPECT_EQ(ShowModal(outer, nullptr), QDialog::Accepted);
+    EXPECT_EQ(outer.innerResult, 5);
+    EXPECT_EQ(driven, (std::vector<QString>{"outer", "inner"}));
+    EXPECT_EQ(outer.inner.parentWidget(), &outer);
+}
+
+TEST_F(Dialogs, MessageFromInsideADrivenForm)
+{
+    SetMessageAnswerer([](const ShownMessage&) { return IdYes; });
+    int answer = 0;
+    SetModalDriver([&](QDialog& form) {
+        answer = MsgBox("Replace him?", MbYesNo, "Replace");
+        form.accept();
+    });
+    QDialog form;
+    ShowModal(form, nullptr);
+    EXPECT_EQ(answer, IdYes);
+}
