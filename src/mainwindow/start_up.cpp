@@ -1,0 +1,25 @@
+#include <QFile>
+
+#include "data/players_file.h"
+#include "data/setting_file.h"
+#include "data/teams_file.h"
+#include "mainwindow/main_form.h"
+
+bool MainForm::Form_Load()
+{
+    game.GameDirectory = ReadSettingFile(QFile::encodeName(places.PathToRead()).toStdString());
+    if (game.GameDirectory.empty() && !ChooseFirstDirectory())
+        return false;
+    if (game.GameDirectory.empty())
+        return false;
+
+    setWindowTitle(QStringLiteral("KOLTA editor (%1)")
+                       .arg(QFile::decodeName(QByteArray::fromStdString(game.GameDirectory))));
+    SetGameDirectory(game, game.GameDirectory);
+    // A missing or damaged file is no reason to stop: the window shows what
+    // could be read, and another directory can be chosen from the menu.
+    ReadPlayersFile(game);
+    ReadTeamsFile(game);
+    RunStartupChain();
+    return true;
+}
