@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QScreen>
 #include <QTimer>
+#include <algorithm>
 
 namespace {
 
@@ -20,7 +21,15 @@ void PlaceOver(QDialog& form, QWidget* owner)
     QScreen* screen = owner ? owner->screen() : QGuiApplication::primaryScreen();
     const QRect area = screen ? screen->availableGeometry() : QRect();
     const QRect around = owner ? owner->window()->frameGeometry() : area;
-    QRect place(QPoint(), form.frameGeometry().size());
+    // A window that has not been shown yet has no frame, and the title bar
+    // and borders the system adds later would push its centre down and right.
+    // Take them to be as wide as the owner's, as the owner already has its own.
+    QSize outer = form.frameGeometry().size();
+    if (owner && outer == form.size()) {
+        const QWidget* top = owner->window();
+        outer += top->frameGeometry().size() - top->size();
+    }
+    QRect place(QPoint(), outer);
     place.moveCenter(around.center());
     if (area.isValid()) {
         // Keep the title bar on the screen when the owner hangs off an edge.
