@@ -12,12 +12,10 @@ int LastTeamToScan(const Game& game)
 }
 
 // Closes the gaps a file may have left, keeping the order of the players.
+// Whatever the free places held stays behind the players.
 void PackSquad(Squad& squad)
 {
-    const auto firstPlace = squad.begin() + 1;
-    const auto filledEnd = std::stable_partition(firstPlace, squad.end(),
-                                                 [](std::int16_t player) { return player != 0; });
-    std::fill(filledEnd, squad.end(), std::int16_t{0});
+    std::stable_partition(squad.begin() + 1, squad.end(), IsPlayerNumber);
 }
 
 void LeaveTeam(Game& game, std::int16_t player)
@@ -40,8 +38,7 @@ bool IsPlayerNumber(int player)
 
 int SquadCount(const TeamRecord& team)
 {
-    return static_cast<int>(std::count_if(team.squad.begin() + 1, team.squad.end(),
-                                          [](std::int16_t player) { return player != 0; }));
+    return static_cast<int>(std::count_if(team.squad.begin() + 1, team.squad.end(), IsPlayerNumber));
 }
 
 int SlotOfRow(const TeamRecord& team, int row)
@@ -49,7 +46,7 @@ int SlotOfRow(const TeamRecord& team, int row)
     if (row < 0)
         return 0;
     for (int slot = 1; slot <= SquadSize; ++slot) {
-        if (team.squad[slot] != 0 && row-- == 0)
+        if (IsPlayerNumber(team.squad[slot]) && row-- == 0)
             return slot;
     }
     return 0;
@@ -89,6 +86,19 @@ bool IsInSquad(const Game& game, int team, std::int16_t player)
         return false;
     const Squad& squad = game.Teams[team].squad;
     return std::find(squad.begin() + 1, squad.end(), player) != squad.end();
+}
+
+std::int16_t PresentClub(const Game& game, std::int16_t player)
+{
+    std::int16_t club = 0;
+    if (!IsPlayerNumber(player))
+        return club;
+    const int lastTeam = LastTeamToScan(game);
+    for (int team = 1; team <= lastTeam; ++team) {
+        if (IsInSquad(game, team, player))
+            club = static_cast<std::int16_t>(team);
+    }
+    return club;
 }
 
 std::int16_t DeleteFromSquad(Game& game, int team, int slot)

@@ -8,7 +8,8 @@
 // a team with n players has them in places 1 to n, in list order, and 0 in the
 // rest, so that a row of the squad list and a place agree. A squad read from a
 // file may have gaps; the helpers below count rows over the filled places only,
-// as the squad list does.
+// as the squad list does. A number that names no player (below 1 or above
+// 2000) is no player: it takes no row and counts as a free place.
 
 // Whether `team` is a team of the table (1 to 500).
 bool IsTeamIndex(int team);
@@ -31,6 +32,10 @@ std::int16_t DetachFromSquads(Game& game, std::int16_t player);
 
 // Whether the squad of `team` holds `player`.
 bool IsInSquad(const Game& game, int team, std::int16_t player);
+
+// The team whose squad holds `player`, 0 if none does. If several do, the
+// highest-numbered one, as the search window names his present club.
+std::int16_t PresentClub(const Game& game, std::int16_t player);
 
 // Deletes the player at `slot` from the squad of `team`: he keeps his record
 // but belongs to no team any more. Gives his number (0 for an empty place).

@@ -185,17 +185,37 @@ TEST_F(SquadTest, DeletingLeavesThePlayerWithoutATeam)
 
 TEST_F(SquadTest, NumbersOutsideTheTablesAreNeverTransferred)
 {
+    // The squad list shows player 5 alone, as its first row: the other two
+    // numbers name no player and count as free places.
     TeamRecord& t = b.Team(1, "Odd");
     t.squad[1] = 2500;
     t.squad[2] = -3;
     t.squad[3] = 5;
+    EXPECT_EQ(SquadCount(t), 1);
     const Replacement r = ReplaceInSquad(game, 1, 0, 9);
-    EXPECT_EQ(r.replaced, 2500);
-    EXPECT_EQ(t.squad[1], 9);
-    EXPECT_EQ(DetachFromSquads(game, 0), 0);
-    EXPECT_EQ(AddToSquad(game, 0, 9), 0);
+    EXPECT_EQ(r.replaced, 5);
+    EXPECT_THAT(Places(t), ElementsAre(2500, -3, 9));
+    EXPECT_EQ(DetachFromSquads(game, 2500), 0);
+    EXPECT_EQ(PresentClub(game, -3), 0);
+    // An add packs the players to the front and takes the first free place.
+    EXPECT_EQ(AddToSquad(game, 1, 10), 0);
+    EXPECT_THAT(Places(t), ElementsAre(9, 10, -3));
+    EXPECT_EQ(AddToSquad(game, 0, 11), 0);
     EXPECT_EQ(AddToSquad(game, 1, 2001), 0);
-    EXPECT_THAT(Places(t), ElementsAre(9, -3, 5));
+    EXPECT_THAT(Places(t), ElementsAre(9, 10, -3));
+}
+
+TEST_F(SquadTest, ThePresentClubIsTheHighestTeamWhoseSquadHoldsHim)
+{
+    b.Team(2, "Low", {5, 6});
+    b.Team(5, "High", {7, 5});
+    game.Players[6].teamNumber = 5;  // the record's team plays no part
+    EXPECT_EQ(PresentClub(game, 5), 5);
+    EXPECT_EQ(PresentClub(game, 6), 2);
+    EXPECT_EQ(PresentClub(game, 8), 0);
+    // Teams past TeamCount are not looked at.
+    game.Teams[8].squad[1] = 8;
+    EXPECT_EQ(PresentClub(game, 8), 0);
 }
 
 }  // namespace
