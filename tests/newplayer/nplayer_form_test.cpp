@@ -139,10 +139,12 @@ TEST_F(NewPlayerWindow, EveryOpeningStartsFromTheDefaults)
         EXPECT_EQ(form.Combo4[BowlsCombo]->currentText(), "Right Handed");
         EXPECT_EQ(form.Combo4[FieldsAtCombo]->currentText(), "WK");
         for (TextBox* box : form.Text1) {
-            if (box)
+            if (box) {
                 EXPECT_EQ(box->Text(), "");
+            }
         }
-        EXPECT_EQ(QApplication::focusWidget(), form.Command1);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+        EXPECT_EQ(QApplication::focusWidget(), form.Command1) << "the focus starts on OK";
 
         // Change everything, then leave with Cancel.
         form.Combo3->setCurrentIndex(5);
@@ -185,7 +187,8 @@ TEST_F(NewPlayerWindow, ARefusedCommitKeepsTheWindowAndItsEntries)
 
 TEST_F(NewPlayerWindow, AGoodCommitJoinsTheSquadAndCloses)
 {
-    main.List1->SetText("Quill");
+    main.List1->SetText(main.List1->List(1));
+    ASSERT_EQ(main.Label3->text(), "2");
     bool closed = false;
     SetModalDriver([&](QDialog& shown) {
         NPlayerForm& form = AsNewPlayer(shown);
