@@ -27,6 +27,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
         expected.playerNumber = static_cast<std::int16_t>(i);  // empty slots get their number on save
         Require(reloaded.Players[i] == expected, "every saved player reads back the same");
     }
+    for (int i = loaded.PlayerCount + 1; i <= MaxPlayers; ++i)
+        Require(reloaded.Players[i] == PlayerRecord{}, "a saved file fills no slot past its count");
     Require(WritePlayers(reloaded) == saved, "the saved file is a fixed point");
     return 0;
 }

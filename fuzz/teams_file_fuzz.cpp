@@ -24,6 +24,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     Require(reloaded.TeamCount == loaded.TeamCount, "the count survives a save");
     for (int i = 1; i <= LoadedTeamCount(loaded); ++i)
         Require(reloaded.Teams[i] == loaded.Teams[i], "every saved team reads back the same");
+    // The pass over the closing empty lines is the last slot a load may touch.
+    for (int i = reloaded.TeamCount; i <= MaxTeams; ++i)
+        Require(reloaded.Teams[i] == TeamRecord{}, "a saved file fills no slot past its count");
     Require(WriteTeams(reloaded) == saved, "the saved file is a fixed point");
     return 0;
 }
