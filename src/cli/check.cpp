@@ -1,5 +1,10 @@
 #include <algorithm>
 #include <ostream>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+#include <tuple>
 
 #include "cli/commands.h"
 #include "cli/game_folder.h"
@@ -16,12 +21,29 @@ constexpr std::string_view Usage =
     "Errors are what the game or the editor would misread: a player in two squads\n"
     "or twice in one, a squad naming a player who does not exist, a name the files\n"
     "cannot carry, more than 2000 players or 500 teams, two records with one number,\n"
-    "records the load never reaches. Warnings: a teamNumber that disagrees with the\n"
-    "squad holding the player, a squad with gaps, a code outside its list, a skill\n"
-    "outside its range, a team in no listed country, an empty surname, a birth date\n"
-    "that cannot be. Errors come first, then warnings, then the count.\n"
+    "a number line that holds no number, records the load never reaches. Warnings:\n"
+    "a teamNumber that disagrees with the squad holding the player, a squad with\n"
+    "gaps, a code outside its list, a skill outside its range, a team in no listed\n"
+    "country, an empty surname, a birth date that cannot be, a name line without\n"
+    "its closing \"#\". Errors come first, then warnings, then the count.\n"
     "  --json   one JSON object a line instead, the count last\n"
     "Exit 0 when there is no error, 1 when there is, 2 when the folder can't be read.\n";
+
+// The values of a record that the load reads out of step are whatever lines
+// land there; warnings about them would only bury the error that explains them.
+// Adds the problems of the loaded game to those of the files.
+void AddGameProblems(std::vector<Problem>& fromFiles, const std::vector<Problem>& inGame)
+{
+    std::set<std::pair<std::string, int>> misread;
+    for (const Problem& problem : fromFiles) {
+        if (problem.severity == Severity::Error && problem.field != "end of file")
+            misread.insert({problem.file, problem.record});
+    }
+    fromFiles.insert(fromFiles.end(), inGame.begin(), inGame.end());
+    std::erase_if(fromFiles, [&misread](const Problem& problem) {
+        return problem.severity == Severity::Warning && misread.contains({problem.file, problem.record});
+    });
+}
 
 int RunCheck(const CommandLine& line, std::ostream& out, std::ostream& err)
 {
@@ -34,10 +56,14 @@ int RunCheck(const CommandLine& line, std::ostream& out, std::ostream& err)
     }
 
     std::vector<Problem> problems = ProblemsInPlayersFile(*playersBytes);
-    for (auto& found : {ProblemsInTeamsFile(*teamsBytes), ProblemsInGame(*loaded.game)})
-        problems.insert(problems.end(), found.begin(), found.end());
-    std::stable_sort(problems.begin(), problems.end(),
-                     [](const Problem& a, const Problem& b) { return a.severity < b.severity; });
+    const std::vector<Problem> teamsFile = ProblemsInTeamsFile(*teamsBytes);
+    problems.insert(problems.end(), teamsFile.begin(), teamsFile.end());
+    const std::vector<Problem> inGame = ProblemsInGame(*loaded.game);
+    AddGameProblems(problems, inGame);
+    // Errors first; within each, players.dat before teams.dat, in record order.
+    std::stable_sort(problems.begin(), problems.end(), [](const Problem& a, const Problem& b) {
+        return std::tuple(a.severity, a.file, a.record) < std::tuple(b.severity, b.file, b.record);
+    });
 
     const auto errors = std::count_if(problems.begin(), problems.end(),
                                       [](const Problem& p) { return p.severity == Severity::Error; });

@@ -1,6 +1,7 @@
 #include "cli/differences.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "cli/json.h"
 #include "cli/record_fields.h"
@@ -22,6 +23,14 @@ std::string PlayerTitle(const Game& game, int number)
 std::string TeamTitle(const Game& game, int number)
 {
     return "team " + std::to_string(number) + " (" + Utf8FromCp1252(game.Teams[number].teamName) + ")";
+}
+
+// A coded value with its word, "2 (England)", so that a person need not look it up.
+template <class Field>
+std::string Coded(const Field& field, int value)
+{
+    const auto word = field.codes ? field.codes->WordFor(value) : std::nullopt;
+    return std::to_string(value) + (word ? " (" + std::string(*word) + ")" : "");
 }
 
 class Comparer {
@@ -55,8 +64,7 @@ private:
             const int to = b.*field.member;
             if (from != to)
                 Add({"changed", file, number, std::string(field.name), std::to_string(from), std::to_string(to),
-                     title + ": " + std::string(field.name) + " " + std::to_string(from) + " -> " +
-                         std::to_string(to)});
+                     title + ": " + std::string(field.name) + " " + Coded(field, from) + " -> " + Coded(field, to)});
         }
     }
 
@@ -101,27 +109,40 @@ private:
                  TeamTitle(before_, number) + " removed"});
     }
 
-    // A player's team is the first squad that holds him.
+    // Teams that held a player before and not after, and the other way round,
+    // are paired off as moves; what is left over joined or left a squad.
     void CompareSquads()
     {
         const auto holdersBefore = TeamsHoldingEachPlayer(before_);
         const auto holdersAfter = TeamsHoldingEachPlayer(after_);
         const int count = std::max(LoadedPlayerCount(before_), LoadedPlayerCount(after_));
         for (int number = 1; number <= count; ++number) {
-            const int from = holdersBefore[number].empty() ? 0 : holdersBefore[number].front();
-            const int to = holdersAfter[number].empty() ? 0 : holdersAfter[number].front();
-            if (from == to)
-                continue;
+            const std::vector<int> left = TeamsMissingFrom(holdersBefore[number], holdersAfter[number]);
+            const std::vector<int> joined = TeamsMissingFrom(holdersAfter[number], holdersBefore[number]);
             const Game& named = number <= LoadedPlayerCount(after_) ? after_ : before_;
-            std::string text = PlayerTitle(named, number);
-            if (from == 0)
-                text += " joined " + TeamTitle(after_, to);
-            else if (to == 0)
-                text += " left " + TeamTitle(before_, from);
-            else
-                text += " moved from " + TeamTitle(before_, from) + " to " + TeamTitle(after_, to);
-            Add({"moved", "players.dat", number, "squad", std::to_string(from), std::to_string(to), text});
+            for (std::size_t i = 0; i < std::max(left.size(), joined.size()); ++i) {
+                const int from = i < left.size() ? left[i] : 0;
+                const int to = i < joined.size() ? joined[i] : 0;
+                std::string text = PlayerTitle(named, number);
+                if (from == 0)
+                    text += " joined " + TeamTitle(after_, to);
+                else if (to == 0)
+                    text += " left " + TeamTitle(before_, from);
+                else
+                    text += " moved from " + TeamTitle(before_, from) + " to " + TeamTitle(after_, to);
+                Add({"moved", "players.dat", number, "squad", std::to_string(from), std::to_string(to), text});
+            }
         }
+    }
+
+    // The teams of `teams` that `others` lacks, counting a team once for each place.
+    static std::vector<int> TeamsMissingFrom(std::vector<int> teams, std::vector<int> others)
+    {
+        std::sort(teams.begin(), teams.end());
+        std::sort(others.begin(), others.end());
+        std::vector<int> missing;
+        std::set_difference(teams.begin(), teams.end(), others.begin(), others.end(), std::back_inserter(missing));
+        return missing;
     }
 
     const Game& before_;

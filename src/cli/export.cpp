@@ -94,6 +94,11 @@ int RunExport(const CommandLine& line, std::ostream& out, std::ostream& err)
         err << "kolta-data export: cannot read " << UnreadFiles(loaded) << '\n';
         return ExitFailed;
     }
+    if (filter.team && (*filter.team < 1 || *filter.team > LoadedTeamCount(*loaded.game))) {
+        err << "kolta-data export: there is no team " << *filter.team << "; teams.dat holds teams 1 to "
+            << LoadedTeamCount(*loaded.game) << '\n';
+        return ExitFailed;
+    }
     const std::filesystem::path folder(line.positional[1]);
     std::error_code error;
     std::filesystem::create_directories(folder, error);

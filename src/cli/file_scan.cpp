@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "cli/problems.h"
 #include "cli/record_fields.h"
@@ -25,11 +27,11 @@ void AddError(std::vector<Problem>& problems, const char* file, int record, std:
 }
 
 // A number field as the player reader takes it: empty gives 0.
-std::optional<int> NumberIn(const std::optional<std::string>& field)
+std::optional<int> NumberIn(const std::string& field)
 {
-    if (!field || field->empty())
+    if (field.empty())
         return 0;
-    return TextAsNumber(*field);
+    return TextAsNumber(field);
 }
 
 std::string PlayerLineName(int line)
@@ -79,6 +81,48 @@ void FindUncarriableLines(std::string_view bytes, const char* file, int linesPer
     }
 }
 
+enum class LineKind { Dropped, Name, Number };
+
+LineKind PlayerLineKind(int line)
+{
+    return line <= 1 ? LineKind::Dropped : line <= 3 ? LineKind::Name : LineKind::Number;
+}
+
+LineKind TeamLineKind(int line)
+{
+    if (line == 1 || line == 2)
+        return LineKind::Name;
+    return (line >= 3 && line <= 6) || line >= TeamHeaderLines ? LineKind::Number : LineKind::Dropped;
+}
+
+// A number line that is no 16-bit number leaves its field as it was, and a
+// name line without its closing "#" loses a character of the name instead.
+void CheckRecordLines(const std::vector<std::string>& lines, const char* file, int record,
+                      LineKind (*kindOf)(int), std::string (*lineName)(int), std::vector<Problem>& problems)
+{
+    for (int line = 0; line < static_cast<int>(lines.size()); ++line) {
+        const std::string& text = lines[line];
+        if (text.empty())
+            continue;
+        const LineKind kind = kindOf(line);
+        if (kind == LineKind::Name && text.back() != '#')
+            problems.push_back({Severity::Warning, file, record, lineName(line),
+                                "\"" + Utf8FromCp1252(text) + "\" does not end in \"#\", so it is read as \"" +
+                                    Utf8FromCp1252(text.substr(0, text.size() - 1)) + "\""});
+        if (kind == LineKind::Number && !TextAsNumber(text))
+            AddError(problems, file, record, lineName(line),
+                     "\"" + Utf8FromCp1252(text) + "\" is no 16-bit number, so the field keeps whatever it held");
+    }
+}
+
+std::vector<std::string> ReadRecord(FieldReader& reader, int lineCount)
+{
+    std::vector<std::string> lines(lineCount);
+    for (auto& line : lines)
+        line = reader.ReadText().value_or(std::string{});
+    return lines;
+}
+
 // Whatever the reader leaves unread after the record that ended its loop.
 void FindRecordsAfterEnd(FieldReader& reader, const char* file, int record, std::vector<Problem>& problems)
 {
@@ -105,17 +149,17 @@ std::vector<Problem> ProblemsInPlayersFile(std::string_view bytes)
     int highest = 0;
     int loaded = 0;
     while (!reader.AtEnd()) {
-        const auto text = reader.ReadText();
-        for (int line = 1; line < LinesPerPlayer; ++line)
-            reader.ReadText();
+        const std::vector<std::string> lines = ReadRecord(reader, LinesPerPlayer);
         ++place;
-        const auto number = NumberIn(text);
+        const auto number = NumberIn(lines[0]);
         if (!number || *number < 0 || *number > MaxPlayers) {
             AddError(problems, PlayersFile, place, "playerNumber",
-                     "record " + std::to_string(place) + " of the file is numbered \"" + Utf8FromCp1252(*text) +
+                     "record " + std::to_string(place) + " of the file is numbered \"" + Utf8FromCp1252(lines[0]) +
                          "\", which has no place among players 1 to 2000: the load passes over it");
             continue;
         }
+        if (*number != 0)
+            CheckRecordLines(lines, PlayersFile, *number, PlayerLineKind, PlayerLineName, problems);
         if (*number == 0) {
             FindRecordsAfterEnd(reader, PlayersFile, previous, problems);
             break;
@@ -154,13 +198,20 @@ std::vector<Problem> ProblemsInTeamsFile(std::string_view bytes)
     FieldReader reader(bytes);
     std::array<int, MaxTeams + 1> placeOf{};
     for (int place = 1;; ++place) {
-        std::array<std::string, TeamHeaderLines> header;
-        for (auto& line : header)
-            line = reader.ReadText().value_or(std::string{});
-        for (int squadPlace = 1; squadPlace <= SquadSize; ++squadPlace)
-            reader.ReadText();
-        if (header[TeamHeaderLines - 1].empty()) {
-            FindRecordsAfterEnd(reader, TeamsFile, place - 1, problems);
+        const std::vector<std::string> lines = ReadRecord(reader, LinesPerTeam);
+        if (lines[TeamHeaderLines - 1].empty()) {
+            const auto filled = [](const std::string& line) { return !line.empty(); };
+            // The closing pass reads ten lines past the 20 empty ones as squad places.
+            const auto squadLines = lines.begin() + TeamHeaderLines;
+            if (std::any_of(lines.begin() + 1, squadLines, filled))
+                AddError(problems, TeamsFile, place, "line 10",
+                         "is empty, which the load takes for the end of the file: this team is read but not "
+                         "counted, so a save drops it and everything after it");
+            else if (const auto after = std::find_if(squadLines, lines.end(), filled); after != lines.end())
+                AddError(problems, TeamsFile, place - 1, "end of file",
+                         "\"" + Utf8FromCp1252(*after) + "\" and what follows stand after the end sign and are not read");
+            else
+                FindRecordsAfterEnd(reader, TeamsFile, place - 1, problems);
             break;
         }
         if (place > MaxTeams) {
@@ -169,11 +220,12 @@ std::vector<Problem> ProblemsInTeamsFile(std::string_view bytes)
                      "after it are not read");
             break;
         }
-        if (!header[0].empty() && header[0] != "0" && place > 1)
+        CheckRecordLines(lines, TeamsFile, place, TeamLineKind, TeamLineName, problems);
+        if (!lines[0].empty() && lines[0] != "0" && place > 1)
             AddError(problems, TeamsFile, place - 1, "squad",
                      "the record runs on past its 30 lines (a squad of more than 20 places, or a comma in a "
                      "name), so the team after it is read out of place");
-        const auto number = TextAsNumber(header[7]);
+        const auto number = TextAsNumber(lines[7]);
         if (number && *number >= 1 && *number <= MaxTeams) {
             if (placeOf[*number] != 0)
                 AddError(problems, TeamsFile, place, "teamNumber",

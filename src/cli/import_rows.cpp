@@ -116,7 +116,8 @@ public:
             if (TrimBlanks(row[i]) != word)
                 Fault(line, WordColumn(field.name) + " " + Shown(row[i]) + " does not match " +
                                 std::string(field.name) + " " + std::to_string(code) +
-                                (word.empty() ? "" : " (" + word + ")") + ": the number is what is taken");
+                                (word.empty() ? "" : " (" + word + ")") +
+                                ": the number is what counts, so change both or empty the word");
         }
         return faults_.size() == faultsBefore;
     }
@@ -178,6 +179,11 @@ private:
             return;
         }
         auto bytes = Cp1252FromUtf8(cell);
+        if (!bytes && !IsUtf8(cell)) {
+            Fault(line, name + " " + Shown(Utf8FromCp1252(cell)) +
+                            " is not UTF-8 text: save the file as UTF-8 CSV");
+            return;
+        }
         if (!bytes) {
             Fault(line, name + " " + Shown(cell) + " holds a character that the game's files (Windows-1252) cannot store");
             return;
@@ -297,6 +303,21 @@ std::map<int, int> ImportTeams(Game& game, const CsvTable& table, std::vector<Ro
     return import.Lines();
 }
 
+// The editor's squad commands set a player's teamNumber along with the squad,
+// so a player the rows moved follows his new squad, unless his own row set
+// his teamNumber too.
+void FollowSquadMoves(const Game& before, Game& after)
+{
+    const auto holdersBefore = TeamsHoldingEachPlayer(before);
+    const auto holdersAfter = TeamsHoldingEachPlayer(after);
+    for (int number = 1; number <= LoadedPlayerCount(after); ++number) {
+        PlayerRecord& player = after.Players[number];
+        if (holdersBefore[number] == holdersAfter[number] || player.teamNumber != before.Players[number].teamNumber)
+            continue;
+        player.teamNumber = static_cast<std::int16_t>(holdersAfter[number].empty() ? 0 : holdersAfter[number].front());
+    }
+}
+
 std::tuple<std::string, int, std::string> ErrorKey(const Problem& problem)
 {
     return {problem.file, problem.record, problem.field};
@@ -335,8 +356,10 @@ std::vector<RowFault> ApplyImport(Game& game, const ImportTables& tables)
         playerLines = ImportPlayers(game, *tables.players, faults);
     if (tables.teams)
         teamLines = ImportTeams(game, *tables.teams, faults);
-    if (faults.empty())
+    if (faults.empty()) {
+        FollowSquadMoves(*before, game);
         FindNewErrors(*before, game, teamLines, playerLines, faults);
+    }
     std::stable_sort(faults.begin(), faults.end(), [](const RowFault& a, const RowFault& b) {
         return std::tie(a.file, a.line) < std::tie(b.file, b.line);
     });

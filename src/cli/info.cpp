@@ -21,13 +21,18 @@ void PrintSummary(const Game& game, std::ostream& out)
 {
     const auto holders = TeamsHoldingEachPlayer(game);
     int inSquad = 0;
+    int emptySlots = 0;  // numbers below PlayerCount that no record of the file had
     for (int player = 1; player <= LoadedPlayerCount(game); ++player) {
-        if (!holders[player].empty())
+        if (game.Players[player].playerNumber == 0)
+            ++emptySlots;
+        else if (!holders[player].empty())
             ++inSquad;
     }
     out << "Players in a squad: " << inSquad << '\n'
-        << "Players without a team: " << LoadedPlayerCount(game) - inSquad << '\n'
-        << "Teams: " << LoadedTeamCount(game) << '\n'
+        << "Players without a team: " << LoadedPlayerCount(game) - inSquad - emptySlots << '\n';
+    if (emptySlots > 0)
+        out << "Empty player slots (saved as blank players): " << emptySlots << '\n';
+    out << "Teams: " << LoadedTeamCount(game) << '\n'
         << "Teams per country:\n";
 
     std::array<int, Combo1CountryList.size()> perCountry{};

@@ -60,6 +60,15 @@ std::string Utf8FromCp1252(std::string_view bytes)
     return out;
 }
 
+bool IsUtf8(std::string_view text)
+{
+    for (std::size_t pos = 0; pos < text.size();) {
+        if (!NextCodePoint(text, pos))
+            return false;
+    }
+    return true;
+}
+
 std::optional<std::string> Cp1252FromUtf8(std::string_view text)
 {
     std::u16string units;

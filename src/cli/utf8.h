@@ -7,5 +7,7 @@
 // The game's files hold Windows-1252; spreadsheets, terminals and JSON speak UTF-8.
 std::string Utf8FromCp1252(std::string_view bytes);
 
+bool IsUtf8(std::string_view text);
+
 // Nothing when `text` is no valid UTF-8 or holds a character Windows-1252 lacks.
 std::optional<std::string> Cp1252FromUtf8(std::string_view text);
