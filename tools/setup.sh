@@ -1,5 +1,5 @@
-# Shared by run.sh and test.sh: installs what a fresh Debian machine lacks and
-# builds the project into build/. Source it; it defines nothing else.
+# Shared by run.sh, test.sh, fuzz.sh and bench.sh: installs what a fresh Debian
+# machine lacks and builds the project. Source it; it defines nothing else.
 set -euo pipefail
 
 KOLTA_ROOT="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
@@ -23,4 +23,33 @@ kolta_install_missing() {
 kolta_build() {
   cmake -S "$KOLTA_ROOT" -B "$KOLTA_BUILD" -G Ninja "$@" >/dev/null
   cmake --build "$KOLTA_BUILD" -j "$(nproc)"
+}
+
+# The fuzz targets need clang and its fuzzer runtime, which Debian ships apart.
+kolta_fuzz_packages=(clang libclang-rt-dev)
+
+# One fuzz target for each seed corpus folder: fuzz/corpus/NAME feeds NAME_fuzz.
+kolta_fuzz_targets() {
+  local corpus
+  for corpus in "$KOLTA_ROOT"/fuzz/corpus/*/; do
+    basename "$corpus"
+  done
+}
+
+# Whether clang and its fuzzer runtime are here, installing them if they can be.
+kolta_fuzz_available() {
+  local missing=0
+  for pkg in "${kolta_fuzz_packages[@]}"; do
+    dpkg -s "$pkg" >/dev/null 2>&1 || missing=1
+  done
+  [ "$missing" -eq 0 ] && return 0
+  (kolta_install_missing "${kolta_fuzz_packages[@]}") && command -v clang++ >/dev/null
+}
+
+# Builds the fuzz targets into $1 with clang.
+kolta_build_fuzz() {
+  local dir="$1" targets=()
+  for name in $(kolta_fuzz_targets); do targets+=("${name}_fuzz"); done
+  CC=clang CXX=clang++ cmake -S "$KOLTA_ROOT" -B "$dir" -G Ninja -DKOLTA_FUZZ=ON -DKOLTA_BUILD_GUI=OFF >/dev/null
+  cmake --build "$dir" -j "$(nproc)" --target "${targets[@]}"
 }
