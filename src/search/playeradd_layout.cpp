@@ -1,6 +1,8 @@
 #include <QLabel>
 #include <QPushButton>
+#include <algorithm>
 #include <string_view>
+#include <vector>
 
 #include "data/code_lists.h"
 #include "forms/combo_box.h"
@@ -126,14 +128,18 @@ void PlayerAddForm::BuildPanel(FittedLayout& at)
     caption(12, "Potential", {RightCaptions, 4440, CaptionWidth, 255});
     textBox(PotentialBox, {RightValues, 4440, ValueWidth, 255});
 
-    // The panel only shows: nothing in it takes input.
-    for (TextBox* box : Text1) {
-        if (box)
-            box->setEnabled(false);
+    // The panel only shows: nothing in it takes input. Its values still read
+    // as plainly as those of the main window.
+    QPalette readable = palette();
+    for (QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText})
+        readable.setColor(QPalette::Disabled, role, readable.color(QPalette::Active, role));
+    std::vector<QWidget*> values{Combo3[0]};
+    values.insert(values.end(), Combo4.begin(), Combo4.begin() + FieldsAtCombo + 1);
+    std::copy_if(Text1.begin(), Text1.end(), std::back_inserter(values), [](TextBox* box) { return box; });
+    for (QWidget* value : values) {
+        value->setEnabled(false);
+        value->setPalette(readable);
     }
-    Combo3[0]->setEnabled(false);
-    for (int index = BatPositionCombo; index <= FieldsAtCombo; ++index)
-        Combo4[index]->setEnabled(false);
 
     // The candidate's number is kept out of sight, as is its caption.
     Label2[0] = new QLabel(QStringLiteral("Player number"), this);
