@@ -100,17 +100,17 @@ void MainForm::BuildTeamColumn(FittedLayout& at, QWidget* area)
     lblteamno = MakeLabel(at, area, QStringLiteral("123"), QRect(1440, 960, 1515, 255), true);
     lblteamno->setAlignment(Qt::AlignCenter);
 
-    Label2[14] = MakeLabel(at, area, QStringLiteral("Team Name"), QRect(120, 1320, 1215, 285), true);
+    Label2[14] = MakeLabel(at, area, QStringLiteral("Team Name"), QRect(120, 1320, 1215, 255), true);
     Text1[TeamNameBox] = at.Put(new TextBox(area), QRect(1440, 1320, 1515, 285));
-    Label2[17] = MakeLabel(at, area, QStringLiteral("Abbr."), QRect(120, 1680, 1215, 285), true);
+    Label2[17] = MakeLabel(at, area, QStringLiteral("Abbr."), QRect(120, 1680, 1215, 255), true);
     Text1[AbbreviationBox] = at.Put(new TextBox(area), QRect(1440, 1680, 1515, 285));
     Label2[16] = MakeLabel(at, area, QStringLiteral("Home Country"), QRect(120, 2040, 1215, 315), true);
     Combo4[TeamCountryCombo] = MakeCodeList(at, area, TeamCountryList, QRect(1440, 2040, 1515, 315));
-    Label2[18] = MakeLabel(at, area, QStringLiteral("Reputation"), QRect(120, 2460, 1215, 285), true);
+    Label2[18] = MakeLabel(at, area, QStringLiteral("Reputation"), QRect(120, 2460, 1215, 255), true);
     Text1[ReputationBox] = at.Put(new TextBox(area), QRect(1440, 2460, 1515, 285));
-    Label2[19] = MakeLabel(at, area, QStringLiteral("Wealth"), QRect(120, 2820, 1215, 285), true);
+    Label2[19] = MakeLabel(at, area, QStringLiteral("Wealth"), QRect(120, 2820, 1215, 255), true);
     Text1[WealthBox] = at.Put(new TextBox(area), QRect(1440, 2820, 1515, 285));
-    Label2[20] = MakeLabel(at, area, QStringLiteral("Support"), QRect(120, 3180, 1215, 285), true);
+    Label2[20] = MakeLabel(at, area, QStringLiteral("Support"), QRect(120, 3180, 1215, 255), true);
     Text1[SupportBox] = at.Put(new TextBox(area), QRect(1440, 3180, 1515, 285));
 
     Image1 = at.Put(new PictureBox(QPixmap(kolta::artwork::Banner), area), QRect(240, 3600, 2535, 615));
