@@ -253,54 +253,55 @@ bool CsvReadable(const CsvTable& table, const char* file, std::vector<RowFault>&
     return true;
 }
 
-std::map<int, int> ImportPlayers(Game& game, const CsvTable& table, std::vector<RowFault>& faults)
+// Walks the rows of one table into `records` (Players or Teams, indexed by
+// number); `existing` records can be edited and the rest start blank.
+// `counted` raises the table's counter for a record that came through whole.
+template <class Record, class Import, std::size_t Slots>
+std::map<int, int> ImportRecords(Import& import, const CsvTable& table, const char* file,
+                                 std::array<Record, Slots>& records, int existing, const char* what,
+                                 std::vector<RowFault>& faults, const auto& counted)
 {
-    TableImport import(PlayersCsv, PlayerKeyColumn, PlayerTextFields, PlayerNumberFields, false, faults);
-    if (!CsvReadable(table, PlayersCsv, faults) || !import.ReadHeader(table))
+    if (!CsvReadable(table, file, faults) || !import.ReadHeader(table))
         return {};
-    const int existing = LoadedPlayerCount(game);
     int next = existing + 1;
     for (std::size_t r = 1; r < table.rows.size(); ++r) {
         const CsvRow& row = table.rows[r];
         const int line = table.lineNumbers[r];
         if (BlankRow(row) || !RowFits(import, row, line))
             continue;
-        const auto number = import.RowNumber(row, line, existing, next, MaxPlayers, "player");
+        const auto number = import.RowNumber(row, line, existing, next, static_cast<int>(Slots) - 1, what);
         if (!number)
             continue;
-        PlayerRecord record = *number <= existing ? game.Players[*number] : PlayerRecord{};
-        if (!import.ApplyCells(row, line, record, nullptr))
+        Record record = *number <= existing ? records[*number] : Record{};
+        Squad* squad = nullptr;
+        if constexpr (std::is_same_v<Record, TeamRecord>)
+            squad = &record.squad;
+        if (!import.ApplyCells(row, line, record, squad))
             continue;
-        record.playerNumber = static_cast<std::int16_t>(*number);
-        game.Players[*number] = std::move(record);
-        game.PlayerCount = std::max<std::int16_t>(game.PlayerCount, static_cast<std::int16_t>(*number));
+        records[*number] = std::move(record);
+        counted(static_cast<std::int16_t>(*number));
     }
     return import.Lines();
+}
+
+std::map<int, int> ImportPlayers(Game& game, const CsvTable& table, std::vector<RowFault>& faults)
+{
+    TableImport import(PlayersCsv, PlayerKeyColumn, PlayerTextFields, PlayerNumberFields, false, faults);
+    return ImportRecords(import, table, PlayersCsv, game.Players, LoadedPlayerCount(game), "player", faults,
+                         [&game](std::int16_t number) {
+                             game.Players[number].playerNumber = number;
+                             game.PlayerCount = std::max(game.PlayerCount, number);
+                         });
 }
 
 std::map<int, int> ImportTeams(Game& game, const CsvTable& table, std::vector<RowFault>& faults)
 {
     TableImport import(TeamsCsv, TeamKeyColumn, TeamTextFields, TeamNumberFields, true, faults);
-    if (!CsvReadable(table, TeamsCsv, faults) || !import.ReadHeader(table))
-        return {};
-    const int existing = LoadedTeamCount(game);
-    int next = existing + 1;
-    for (std::size_t r = 1; r < table.rows.size(); ++r) {
-        const CsvRow& row = table.rows[r];
-        const int line = table.lineNumbers[r];
-        if (BlankRow(row) || !RowFits(import, row, line))
-            continue;
-        const auto number = import.RowNumber(row, line, existing, next, MaxTeams, "team");
-        if (!number)
-            continue;
-        TeamRecord record = *number <= existing ? game.Teams[*number] : TeamRecord{};
-        if (!import.ApplyCells(row, line, record, &record.squad))
-            continue;
-        record.teamNumber = static_cast<std::int16_t>(*number);
-        game.Teams[*number] = std::move(record);
-        game.TeamCount = std::max<std::int16_t>(game.TeamCount, static_cast<std::int16_t>(*number + 2));
-    }
-    return import.Lines();
+    return ImportRecords(import, table, TeamsCsv, game.Teams, LoadedTeamCount(game), "team", faults,
+                         [&game](std::int16_t number) {
+                             game.Teams[number].teamNumber = number;
+                             game.TeamCount = std::max(game.TeamCount, static_cast<std::int16_t>(number + 2));
+                         });
 }
 
 // The editor's squad commands set a player's teamNumber along with the squad,
