@@ -10,7 +10,7 @@
 #include "forms/message_box.h"
 #include "forms/modal.h"
 #include "forms/text_box.h"
-#include "forms/twips.h"
+#include "mainwindow/fitted_layout.h"
 #include "mainwindow/main_form.h"
 #include "options/help_form.h"
 
@@ -28,13 +28,17 @@ constexpr int CaptionWidth = 1335;
 constexpr int Backspace = 8;
 
 template <std::size_t N>
-ComboBox* MakeCodeList(QWidget* parent, const std::array<std::string_view, N>& words, QRect rect)
+ComboBox* MakeCodeList(FittedLayout& at, QWidget* form, const std::array<std::string_view, N>& words, QRect rect)
 {
-    auto* box = new ComboBox(parent);
-    box->setGeometry(rect);
+    auto* box = at.Put(new ComboBox(form), rect, true);
     for (std::string_view word : words)
         box->AddItem(FromGame(word));
     return box;
+}
+
+QPushButton* MakeButton(FittedLayout& at, QWidget* form, const QString& caption, QRect rect)
+{
+    return at.Put(new QPushButton(caption, form), rect, true);
 }
 
 void ShowOutcome(NewPlayerOutcome outcome)
@@ -68,54 +72,53 @@ NPlayerForm::NPlayerForm(Game& game, MainForm& main, QWidget* parent)
 {
     setObjectName(QStringLiteral("nplayer"));
     setWindowTitle(QStringLiteral("New Player"));
-    setFixedSize(TwipSize(AreaWidth, AreaHeight));
+    FittedLayout at(this, {AreaWidth, AreaHeight});
 
     // Built in tab order, so that the focus starts on OK.
-    Command1 = new QPushButton(QStringLiteral("OK"), this);
-    Command1->setGeometry(TwipRect(1200, 3180, 1395, 375));
+    Command1 = MakeButton(at, this, QStringLiteral("OK"), QRect(1200, 3180, 1395, 375));
     Command1->setDefault(true);
 
-    AddCaption(QStringLiteral("Player Name"), TwipRect(LeftCaptions, 240, CaptionWidth, 315));
-    AddTextBox(InitialsBox, TwipRect(1680, 240, 435, 315), 0);
-    AddTextBox(SurnameBox, TwipRect(2160, 240, 1275, 315), 0);
+    AddCaption(at, QStringLiteral("Player Name"), QRect(LeftCaptions, 240, CaptionWidth, 315));
+    AddTextBox(at, InitialsBox, QRect(1680, 240, 435, 315), 0);
+    AddTextBox(at, SurnameBox, QRect(2160, 240, 1275, 315), 0);
 
-    AddCaption(QStringLiteral("Date of birth"), TwipRect(LeftCaptions, 660, CaptionWidth, 255));
-    AddTextBox(DayBox, TwipRect(1680, 660, 375, 255), 2);
-    AddCaption(QStringLiteral("/"), TwipRect(2100, 660, 135, 255));
-    AddTextBox(MonthBox, TwipRect(2280, 660, 375, 255), 2);
-    AddCaption(QStringLiteral("/"), TwipRect(2700, 660, 135, 255));
-    AddTextBox(YearBox, TwipRect(2880, 660, 555, 255), 4);
+    AddCaption(at, QStringLiteral("Date of birth"), QRect(LeftCaptions, 660, CaptionWidth, 255));
+    AddTextBox(at, DayBox, QRect(1680, 660, 375, 255), 2);
+    AddCaption(at, QStringLiteral("/"), QRect(2100, 660, 135, 255));
+    AddTextBox(at, MonthBox, QRect(2280, 660, 375, 255), 2);
+    AddCaption(at, QStringLiteral("/"), QRect(2700, 660, 135, 255));
+    AddTextBox(at, YearBox, QRect(2880, 660, 555, 255), 4);
 
-    AddCaption(QStringLiteral("Home Country"), TwipRect(LeftCaptions, 1020, CaptionWidth, 315));
-    Combo3 = MakeCodeList(this, CountryList, TwipRect(1680, 1020, 1755, 315));
-    AddCaption(QStringLiteral("Bat position"), TwipRect(LeftCaptions, 1440, CaptionWidth, 315));
-    Combo4[BatPositionCombo] = MakeCodeList(this, BatPositionList, TwipRect(1680, 1440, 1755, 315));
-    AddCaption(QStringLiteral("Bats"), TwipRect(LeftCaptions, 1860, CaptionWidth, 315));
-    Combo4[BatsCombo] = MakeCodeList(this, HandList, TwipRect(1680, 1860, 1755, 315));
-    AddCaption(QStringLiteral("Bat skill"), TwipRect(LeftCaptions, 2280, CaptionWidth, 255));
-    AddTextBox(BatSkillBox, TwipRect(1680, 2280, 1695, 255), 2);
-    AddCaption(QStringLiteral("Bat aggr."), TwipRect(LeftCaptions, 2640, CaptionWidth, 255));
-    AddTextBox(BatAggressionBox, TwipRect(1680, 2640, 1695, 255), 2);
+    AddCaption(at, QStringLiteral("Home Country"), QRect(LeftCaptions, 1020, CaptionWidth, 315));
+    Combo3 = MakeCodeList(at, this, CountryList, QRect(1680, 1020, 1755, 315));
+    AddCaption(at, QStringLiteral("Bat position"), QRect(LeftCaptions, 1440, CaptionWidth, 315));
+    Combo4[BatPositionCombo] = MakeCodeList(at, this, BatPositionList, QRect(1680, 1440, 1755, 315));
+    AddCaption(at, QStringLiteral("Bats"), QRect(LeftCaptions, 1860, CaptionWidth, 315));
+    Combo4[BatsCombo] = MakeCodeList(at, this, HandList, QRect(1680, 1860, 1755, 315));
+    AddCaption(at, QStringLiteral("Bat skill"), QRect(LeftCaptions, 2280, CaptionWidth, 255));
+    AddTextBox(at, BatSkillBox, QRect(1680, 2280, 1695, 255), 2);
+    AddCaption(at, QStringLiteral("Bat aggr."), QRect(LeftCaptions, 2640, CaptionWidth, 255));
+    AddTextBox(at, BatAggressionBox, QRect(1680, 2640, 1695, 255), 2);
 
-    AddCaption(QStringLiteral("Bowl Type"), TwipRect(RightCaptions, 300, CaptionWidth, 315));
-    Combo4[BowlTypeCombo] = MakeCodeList(this, BowlTypeList, TwipRect(4920, 300, 1695, 315));
-    AddCaption(QStringLiteral("Bowls"), TwipRect(RightCaptions, 720, CaptionWidth, 315));
-    Combo4[BowlsCombo] = MakeCodeList(this, HandList, TwipRect(4920, 720, 1695, 315));
-    AddCaption(QStringLiteral("Bowl Skill"), TwipRect(RightCaptions, 1140, CaptionWidth, 255));
-    AddTextBox(BowlSkillBox, TwipRect(4920, 1140, 1695, 255), 2);
-    AddCaption(QStringLiteral("Bowl Economy"), TwipRect(RightCaptions, 1500, CaptionWidth, 255));
-    AddTextBox(BowlEconomyBox, TwipRect(4920, 1500, 1695, 255), 2);
-    AddCaption(QStringLiteral("Field ability"), TwipRect(RightCaptions, 1860, CaptionWidth, 255));
-    AddTextBox(FieldAbilityBox, TwipRect(4920, 1860, 1695, 255), 2);
-    AddCaption(QStringLiteral("Fields at"), TwipRect(RightCaptions, 2220, CaptionWidth, 315));
-    Combo4[FieldsAtCombo] = MakeCodeList(this, FieldPositionList, TwipRect(4920, 2220, 1695, 315));
-    AddCaption(QStringLiteral("Potential"), TwipRect(RightCaptions, 2640, CaptionWidth, 255));
-    AddTextBox(PotentialBox, TwipRect(4920, 2640, 1695, 255), 2);
+    AddCaption(at, QStringLiteral("Bowl Type"), QRect(RightCaptions, 300, CaptionWidth, 315));
+    Combo4[BowlTypeCombo] = MakeCodeList(at, this, BowlTypeList, QRect(4920, 300, 1695, 315));
+    AddCaption(at, QStringLiteral("Bowls"), QRect(RightCaptions, 720, CaptionWidth, 315));
+    Combo4[BowlsCombo] = MakeCodeList(at, this, HandList, QRect(4920, 720, 1695, 315));
+    AddCaption(at, QStringLiteral("Bowl Skill"), QRect(RightCaptions, 1140, CaptionWidth, 255));
+    AddTextBox(at, BowlSkillBox, QRect(4920, 1140, 1695, 255), 2);
+    AddCaption(at, QStringLiteral("Bowl Economy"), QRect(RightCaptions, 1500, CaptionWidth, 255));
+    AddTextBox(at, BowlEconomyBox, QRect(4920, 1500, 1695, 255), 2);
+    AddCaption(at, QStringLiteral("Field ability"), QRect(RightCaptions, 1860, CaptionWidth, 255));
+    AddTextBox(at, FieldAbilityBox, QRect(4920, 1860, 1695, 255), 2);
+    AddCaption(at, QStringLiteral("Fields at"), QRect(RightCaptions, 2220, CaptionWidth, 315));
+    Combo4[FieldsAtCombo] = MakeCodeList(at, this, FieldPositionList, QRect(4920, 2220, 1695, 315));
+    AddCaption(at, QStringLiteral("Potential"), QRect(RightCaptions, 2640, CaptionWidth, 255));
+    AddTextBox(at, PotentialBox, QRect(4920, 2640, 1695, 255), 2);
 
-    Command2 = new QPushButton(QStringLiteral("Cancel"), this);
-    Command2->setGeometry(TwipRect(3000, 3180, 1395, 375));
-    Command3 = new QPushButton(QStringLiteral("Help"), this);
-    Command3->setGeometry(TwipRect(4800, 3180, 1395, 375));
+    Command2 = MakeButton(at, this, QStringLiteral("Cancel"), QRect(3000, 3180, 1395, 375));
+    Command3 = MakeButton(at, this, QStringLiteral("Help"), QRect(4800, 3180, 1395, 375));
+
+    at.Apply();
 
     connect(Command1, &QPushButton::clicked, this, &NPlayerForm::Command1_Click);
     connect(Command2, &QPushButton::clicked, this, &NPlayerForm::Command2_Click);
@@ -125,10 +128,9 @@ NPlayerForm::NPlayerForm(Game& game, MainForm& main, QWidget* parent)
     Form_Load();
 }
 
-TextBox* NPlayerForm::AddTextBox(int index, QRect rect, int maxLength)
+TextBox* NPlayerForm::AddTextBox(FittedLayout& at, int index, QRect rect, int maxLength)
 {
-    auto* box = new TextBox(this);
-    box->setGeometry(rect);
+    auto* box = at.Put(new TextBox(this), rect);
     if (maxLength > 0)
         box->setMaxLength(maxLength);
     box->SetKeyFilter([this, index](int& keyAscii) { Text1_KeyPress(index, keyAscii); });
@@ -138,10 +140,9 @@ TextBox* NPlayerForm::AddTextBox(int index, QRect rect, int maxLength)
     return box;
 }
 
-void NPlayerForm::AddCaption(const QString& caption, QRect rect)
+void NPlayerForm::AddCaption(FittedLayout& at, const QString& caption, QRect rect)
 {
-    auto* label = new QLabel(caption, this);
-    label->setGeometry(rect);
+    auto* label = at.Put(new QLabel(caption, this), rect, true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 

@@ -8,6 +8,7 @@
 #include "newplayer/new_player_check.h"
 
 class ComboBox;
+class FittedLayout;
 class MainForm;
 class QLabel;
 class QPushButton;
@@ -43,8 +44,8 @@ public:
     QPushButton* Command3 = nullptr;
 
 private:
-    TextBox* AddTextBox(int index, QRect rect, int maxLength);
-    void AddCaption(const QString& caption, QRect rect);
+    TextBox* AddTextBox(FittedLayout& at, int index, QRect rect, int maxLength);
+    void AddCaption(FittedLayout& at, const QString& caption, QRect rect);
 
     Game& game_;
     MainForm& main_;

@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "forms/twips.h"
+#include "mainwindow/fitted_layout.h"
 
 namespace {
 
@@ -36,24 +36,24 @@ HelpForm::HelpForm(QWidget* parent)
 {
     setObjectName(QStringLiteral("Help1"));
     setWindowTitle(QStringLiteral("Help"));
-    setFixedSize(TwipSize(AreaWidth, AreaHeight));
+    FittedLayout at(this, {AreaWidth, AreaHeight});
 
-    Label1 = new QLabel(QStringLiteral("The ranges for the different player statistics are as follows:"), this);
-    Label1->setGeometry(TwipRect(120, 120, 1875, 855));
+    Label1 = at.Put(new QLabel(QStringLiteral("The ranges for the different player statistics are as follows:"), this),
+                    QRect(120, 120, 1875, 855));
     Label1->setWordWrap(true);
     Label1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 
     for (std::size_t row = 0; row < Rows.size(); ++row) {
         const int top = FirstRowTop + static_cast<int>(row) * RowStep;
-        Label2[row] = new QLabel(QString::fromLatin1(Rows[row].skill), this);
-        Label2[row]->setGeometry(TwipRect(120, top, 1275, RowHeight));
-        Label3[row] = new QLabel(QString::fromLatin1(Rows[row].range), this);
-        Label3[row]->setGeometry(TwipRect(1440, top, 615, RowHeight));
+        Label2[row] = at.Put(new QLabel(QString::fromLatin1(Rows[row].skill), this),
+                             QRect(120, top, 1275, RowHeight), true);
+        Label3[row] = at.Put(new QLabel(QString::fromLatin1(Rows[row].range), this),
+                             QRect(1440, top, 615, RowHeight), true);
     }
 
-    Command1 = new QPushButton(QStringLiteral("OK"), this);
-    Command1->setGeometry(TwipRect(420, 3300, 1275, 375));
+    Command1 = at.Put(new QPushButton(QStringLiteral("OK"), this), QRect(420, 3300, 1275, 375), true);
     Command1->setDefault(true);
+    at.Apply();
     connect(Command1, &QPushButton::clicked, this, &HelpForm::Command1_Click);
 }
 

@@ -7,7 +7,7 @@
 
 #include "data/setting_file.h"
 #include "forms/message_box.h"
-#include "forms/twips.h"
+#include "mainwindow/fitted_layout.h"
 #include "options/folder_lists.h"
 
 namespace {
@@ -20,18 +20,19 @@ const QString TeamsFileName = QStringLiteral("teams.dat");
 const QString PlayersFileName = QStringLiteral("players.dat");
 
 template <typename Control>
-Control* Place(Control* control, const char* name, QRect twipRect)
+Control* Place(FittedLayout& at, Control* control, const char* name, QRect twips, bool mustFit = false)
 {
     control->setObjectName(QString::fromLatin1(name));
-    control->setGeometry(twipRect);
-    return control;
+    return at.Put(control, twips, mustFit);
 }
 
-QLabel* MakeLabel(QWidget* form, const char* name, const QString& caption, QRect rect)
+// A caption of one line must fit its width; a longer one wraps inside its box.
+QLabel* MakeLabel(FittedLayout& at, QWidget* form, const char* name, const QString& caption, QRect twips,
+                  bool wraps)
 {
-    auto* label = Place(new QLabel(caption, form), name, rect);
+    auto* label = Place(at, new QLabel(caption, form), name, twips, !wraps);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    label->setWordWrap(true);
+    label->setWordWrap(wraps);
     return label;
 }
 
@@ -52,23 +53,24 @@ OptionsForm::OptionsForm(Game& game, SettingPlaces places, QWidget* parent)
 {
     setObjectName(QStringLiteral("opt1"));
     setWindowTitle(QStringLiteral("Options"));
-    setFixedSize(TwipSize(AreaWidth, AreaHeight));
+    FittedLayout at(this, {AreaWidth, AreaHeight});
 
-    Label2[1] = MakeLabel(this, "Label2(1)", QStringLiteral("Set your Default KOLTA directory :-"),
-                          TwipRect(180, 180, 3735, 315));
+    Label2[1] = MakeLabel(at, this, "Label2(1)", QStringLiteral("Set your Default KOLTA directory :-"),
+                          QRect(180, 180, 3735, 315), false);
     Label2[0] = MakeLabel(
-        this, "Label2(0)",
+        at, this, "Label2(0)",
         QStringLiteral("Please note that the files Players.dat and teams.dat must be present in the directory."),
-        TwipRect(180, 480, 3735, 435));
+        QRect(180, 480, 3735, 435), true);
 
-    Drive1 = Place(new DriveList(this), "Drive1", TwipRect(180, 960, 1935, 315));
-    Dir1 = Place(new DirList(this), "Dir1", TwipRect(180, 1380, 2295, 2340));
-    File1 = Place(new FileList(this), "File1", TwipRect(2640, 1380, 2055, 2430));
+    Drive1 = Place(at, new DriveList(this), "Drive1", QRect(180, 960, 1935, 315));
+    Dir1 = Place(at, new DirList(this), "Dir1", QRect(180, 1380, 2295, 2340));
+    File1 = Place(at, new FileList(this), "File1", QRect(2640, 1380, 2055, 2430));
     File1->SetPattern(QStringLiteral("*.dat"));
 
-    Command1 = Place(new QPushButton(QStringLiteral("OK"), this), "Command1", TwipRect(1620, 3960, 1455, 375));
-    Command2 = Place(new QPushButton(QStringLiteral("OK"), this), "Command2", TwipRect(1620, 3960, 1455, 375));
+    Command1 = Place(at, new QPushButton(QStringLiteral("OK"), this), "Command1", QRect(1620, 3960, 1455, 375), true);
+    Command2 = Place(at, new QPushButton(QStringLiteral("OK"), this), "Command2", QRect(1620, 3960, 1455, 375), true);
     Command2->hide();
+    at.Apply();
 
     connect(Drive1, &DriveList::Change, this, &OptionsForm::Drive1_Change);
     connect(Dir1, &DirList::Change, this, &OptionsForm::Dir1_Change);
