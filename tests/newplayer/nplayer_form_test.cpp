@@ -1,5 +1,6 @@
 #include "newplayer/nplayer_form.h"
 
+#include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <vector>
 
 #include "forms/beep.h"
 #include "forms/combo_box.h"
@@ -124,6 +126,26 @@ TEST_F(NewPlayerWindow, NameBoxesTakeAnyKeyTheFilesCanStore)
     EXPECT_EQ(BeepCount() - beeps, 2);
 }
 
+TEST_F(NewPlayerWindow, TabRunsDownTheLeftColumnThenTheRight)
+{
+    NPlayerForm form(*game, main);
+    const std::vector<QWidget*> expected{
+        form.Command1,           form.Text1[InitialsBox],      form.Text1[SurnameBox],
+        form.Text1[DayBox],      form.Text1[MonthBox],         form.Text1[YearBox],
+        form.Combo3,             form.Combo4[BatPositionCombo], form.Combo4[BatsCombo],
+        form.Text1[BatSkillBox], form.Text1[BatAggressionBox], form.Combo4[BowlTypeCombo],
+        form.Combo4[BowlsCombo], form.Text1[BowlSkillBox],     form.Text1[BowlEconomyBox],
+        form.Text1[FieldAbilityBox], form.Combo4[FieldsAtCombo], form.Text1[PotentialBox],
+        form.Command2,           form.Command3,
+    };
+    std::vector<QWidget*> order{form.Command1};
+    for (QWidget* w = form.Command1->nextInFocusChain(); w != form.Command1; w = w->nextInFocusChain()) {
+        if (w->focusPolicy() & Qt::TabFocus)
+            order.push_back(w);
+    }
+    EXPECT_EQ(order, expected);
+}
+
 TEST_F(NewPlayerWindow, EveryOpeningStartsFromTheDefaults)
 {
     int openings = 0;
@@ -209,6 +231,42 @@ TEST_F(NewPlayerWindow, AGoodCommitJoinsTheSquadAndCloses)
     EXPECT_EQ(main.List1->ItemData(FirstSquadSize), 5);
     EXPECT_EQ(main.List1->ListIndex(), -1);
     EXPECT_EQ(main.Label3->text(), "2") << "the player shown before stays shown";
+}
+
+// Pasting skips the key filter; the length limit still holds, and OK judges
+// what was pasted like anything typed.
+TEST_F(NewPlayerWindow, PastedTextIsTakenAndJudgedAtOk)
+{
+    const auto pasteInto = [](TextBox* box, const QString& text) {
+        box->clear();
+        QApplication::clipboard()->setText(text);
+        box->paste();
+    };
+    SetModalDriver([&](QDialog& shown) {
+        NPlayerForm& form = AsNewPlayer(shown);
+        TypeGoodPlayer(form);
+        const int beeps = BeepCount();
+        pasteInto(form.Text1[BatSkillBox], "-5");
+        EXPECT_EQ(form.Text1[BatSkillBox]->Text(), "-5");
+        EXPECT_EQ(BeepCount(), beeps);
+        form.Command1->click();
+        EXPECT_TRUE(form.isVisible()) << "a negative skill is refused";
+
+        pasteInto(form.Text1[BatSkillBox], "6e1");
+        EXPECT_EQ(form.Text1[BatSkillBox]->Text(), "6e") << "two characters at most";
+        pasteInto(form.Text1[BatSkillBox], "+9");
+        pasteInto(form.Text1[PotentialBox], ".5");
+        pasteInto(form.Text1[YearBox], "19821");
+        EXPECT_EQ(form.Text1[YearBox]->Text(), "1982");
+        form.Command1->click();
+    });
+    OpenNewPlayerWindow(*game, main);
+
+    EXPECT_EQ(ShownMessages().size(), 1u);
+    EXPECT_EQ(game->PlayerCount, 5);
+    EXPECT_EQ(game->Players[5].batSkill, 9);
+    EXPECT_EQ(game->Players[5].potential, 0) << "a half goes to the even number";
+    EXPECT_EQ(game->Players[5].birthYear, 1982);
 }
 
 TEST_F(NewPlayerWindow, HelpOpensOverTheWindowAndLeavesItAsItWas)
