@@ -46,6 +46,13 @@ std::string WriteTemporary(const fs::path& temporary, std::string_view bytes)
     return reason;
 }
 
+fs::path WrittenCopy(const std::string& path)
+{
+    fs::path copy(path);
+    copy += ".saving";
+    return copy;
+}
+
 }  // namespace
 
 std::optional<std::string> ReadWholeFile(const std::string& path)
@@ -82,30 +89,43 @@ FileResult CheckWritable(const std::string& path)
     return FileResult::Success(path);
 }
 
-FileResult ReplaceFile(const std::string& path, std::string_view bytes)
+FileResult WriteBeside(const std::string& path, std::string_view bytes)
 {
-    const fs::path target(path);
     if (FileResult writable = CheckWritable(path); !writable.ok())
         return writable;
-
-    fs::path temporary = target;
-    temporary += ".saving";
-    if (std::string reason = WriteTemporary(temporary, bytes); !reason.empty()) {
-        std::error_code ignored;
-        fs::remove(temporary, ignored);
+    if (std::string reason = WriteTemporary(WrittenCopy(path), bytes); !reason.empty()) {
+        DropWritten(path);
         return Failure(path, reason);
     }
+    return FileResult::Success(path);
+}
 
+FileResult MoveOver(const std::string& path)
+{
+    const fs::path target(path);
+    const fs::path copy = WrittenCopy(path);
     std::error_code error;
     if (fs::exists(target, error))
-        fs::permissions(temporary, fs::status(target, error).permissions(), error);
-    fs::rename(temporary, target, error);
+        fs::permissions(copy, fs::status(target, error).permissions(), error);
+    fs::rename(copy, target, error);
     if (error) {
-        std::error_code ignored;
-        fs::remove(temporary, ignored);
+        DropWritten(path);
         return Failure(path, error.message());
     }
     return FileResult::Success(path);
+}
+
+void DropWritten(const std::string& path)
+{
+    std::error_code ignored;
+    fs::remove(WrittenCopy(path), ignored);
+}
+
+FileResult ReplaceFile(const std::string& path, std::string_view bytes)
+{
+    if (FileResult written = WriteBeside(path, bytes); !written.ok())
+        return written;
+    return MoveOver(path);
 }
 
 FileResult KeepBackup(const std::string& path)
@@ -113,9 +133,13 @@ FileResult KeepBackup(const std::string& path)
     std::error_code error;
     if (!fs::exists(path, error))
         return FileResult::Success(path);
+    // Copied beside and moved over like any save, so that a copy cut short
+    // never replaces a good one from an earlier session.
     const std::string backup = path + ".bak";
-    fs::copy_file(path, backup, fs::copy_options::overwrite_existing, error);
-    if (error)
+    fs::copy_file(path, WrittenCopy(backup), fs::copy_options::overwrite_existing, error);
+    if (error) {
+        DropWritten(backup);
         return Failure(backup, error.message());
-    return FileResult::Success(backup);
+    }
+    return MoveOver(backup);
 }

@@ -26,5 +26,12 @@ FileResult CheckWritable(const std::string& path);
 // is refused here too.
 FileResult ReplaceFile(const std::string& path, std::string_view bytes);
 
+// ReplaceFile in two halves, for files that must change together: write each
+// beside its target, and only when all are written move each over. Until its
+// move the old file is untouched, and DropWritten takes the copy back.
+FileResult WriteBeside(const std::string& path, std::string_view bytes);
+FileResult MoveOver(const std::string& path);
+void DropWritten(const std::string& path);
+
 // Copies `path` to `path` + ".bak"; a missing file needs no copy.
 FileResult KeepBackup(const std::string& path);

@@ -23,7 +23,17 @@ FileResult SaveGame(Game& game)
         }
         game.BackupsKept = true;
     }
-    if (FileResult players = WritePlayersFile(game); !players.ok())
+    // Squads and players name each other, so a new players.dat must not stand
+    // beside an old teams.dat: both are written in full before either moves.
+    if (FileResult players = WriteBeside(game.PlayersPath, WritePlayers(game)); !players.ok())
         return players;
-    return WriteTeamsFile(game);
+    if (FileResult teams = WriteBeside(game.TeamsPath, WriteTeams(game)); !teams.ok()) {
+        DropWritten(game.PlayersPath);
+        return teams;
+    }
+    if (FileResult players = MoveOver(game.PlayersPath); !players.ok()) {
+        DropWritten(game.TeamsPath);
+        return players;
+    }
+    return MoveOver(game.TeamsPath);
 }

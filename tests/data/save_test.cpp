@@ -142,7 +142,7 @@ TEST_F(Save, AVanishedFolderIsReportedAndNotMadeAgain)
 
 // A write that fails on the way, after the checks: the temporary file cannot
 // be made because a folder stands in its place.
-TEST_F(Save, AFailedWriteLeavesThatFileWholeAndTheTeamsAfterIt)
+TEST_F(Save, AFailedWriteLeavesBothFilesWhole)
 {
     fs::create_directory(dir_ / "players.dat.saving");
     game_->Players[1].surname = "Changed";
@@ -157,7 +157,7 @@ TEST_F(Save, AFailedWriteLeavesThatFileWholeAndTheTeamsAfterIt)
     fs::create_directory(dir_ / "teams.dat.saving");
     const FileResult teams = SaveGame(*game_);
     EXPECT_EQ(teams.path, Teams().string());
-    EXPECT_EQ(Bytes(Players()), WritePlayers(*game_));
+    EXPECT_EQ(Bytes(Players()), players_);
     EXPECT_EQ(Bytes(Teams()), teams_);
 }
 
