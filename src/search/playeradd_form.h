@@ -80,5 +80,5 @@ private:
 
     Game& game_;
     MainForm& main_;
-    int barFullWidth_ = 0;  // pixels for the bar's design width
+    int barFullWidth_ = 0;  // pixels of the bar as laid out
 };

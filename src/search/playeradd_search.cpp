@@ -10,8 +10,8 @@
 
 namespace {
 
-// The design width of the bar, in twips; the sort counts a full bar as 2500.
-constexpr double BarDesignTwips = 2505.0;
+// The bar as laid out, in twips; the sort counts a full bar as 2500.
+constexpr double BarLaidOutTwips = 2505.0;
 
 }  // namespace
 
@@ -48,6 +48,6 @@ void PlayerAddForm::SortWithBar()
 
 void PlayerAddForm::SetBarWidth(double widthTwips)
 {
-    const int pixels = static_cast<int>(std::lround(widthTwips / BarDesignTwips * barFullWidth_));
+    const int pixels = static_cast<int>(std::lround(widthTwips / BarLaidOutTwips * barFullWidth_));
     Shape2->resize(pixels, Shape2->height());
 }

@@ -41,7 +41,7 @@ void SearchAndPick(PlayerAddForm& form, const QString& surname)
     ClickRow(*form.List1, int(at - rows.begin()));
 }
 
-TEST_F(SearchWindowTest, EachOpeningStartsFromTheDesignWithEveryClub)
+TEST_F(SearchWindowTest, EachOpeningStartsAfreshWithEveryClub)
 {
     const auto checkCommon = [this](PlayerAddForm& form) {
         ASSERT_EQ(form.Combo2->ListCount(), 5);  // no double rows from an earlier opening
