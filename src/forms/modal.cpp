@@ -20,7 +20,10 @@ void PlaceOver(QDialog& form, QWidget* owner)
         form.adjustSize();
     QScreen* screen = owner ? owner->screen() : QGuiApplication::primaryScreen();
     const QRect area = screen ? screen->availableGeometry() : QRect();
-    const QRect around = owner ? owner->window()->frameGeometry() : area;
+    // An owner not shown yet (the main window while it asks for the game's
+    // directory) has no place of its own: centre on the screen instead.
+    const bool ownerShown = owner && owner->window()->isVisible();
+    const QRect around = ownerShown ? owner->window()->frameGeometry() : area;
     // A window that has not been shown yet has no frame, and the title bar
     // and borders the system adds later would push its centre down and right.
     // Take them to be as wide as the owner's, as the owner already has its own.
