@@ -9,8 +9,10 @@ std::optional<std::string> NameProblem(std::string_view name)
         return "it contains a comma";
     if (name.find_first_of("\r\n") != std::string_view::npos)
         return "it contains a line break";
-    const auto first = name.find_first_not_of(' ');
-    if (first != std::string_view::npos && name[first] == '"')
+    // The reader skips blanks before a value, so they would be gone on the next load.
+    if (name.starts_with(' '))
+        return "it begins with a blank";
+    if (name.starts_with('"'))
         return "it begins with a double quote";
     return std::nullopt;
 }

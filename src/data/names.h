@@ -7,8 +7,9 @@
 #include "data/game.h"
 
 // The files hold names as bare text with no quoting, so a comma would end a
-// name early, a leading double quote would swallow the lines after it and a
-// line break would put the rest of the name on a line of its own.
+// name early, a leading double quote would swallow the lines after it, a
+// line break would put the rest of the name on a line of its own and leading
+// blanks would be skipped when the name is read back.
 // Nothing when `name` can be stored; otherwise what is wrong with it.
 std::optional<std::string> NameProblem(std::string_view name);
 

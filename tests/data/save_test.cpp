@@ -173,6 +173,7 @@ TEST_F(Save, ANameTheFilesCannotHoldStopsTheSaveAndIsNamed)
         {[](Game& g) { g.Players[2].surname = "Smith, J"; }, false, "player 2", "surname"},
         {[](Game& g) { g.Players[3].initials = "A\r\nB"; }, false, "player 3", "initials"},
         {[](Game& g) { g.Teams[2].teamName = " \"Rovers"; }, true, "team 2", "team name"},
+        {[](Game& g) { g.Players[1].surname = " Smith"; }, false, "player 1", "surname"},
         {[](Game& g) { g.Teams[1].abbreviation = "A,B"; }, true, "team 1", "abbreviation"},
     };
     for (const Case& c : cases) {
