@@ -76,15 +76,4 @@ TEST_F(MainLayout, TheWindowKeepsItsSize)
     EXPECT_EQ(main->List1->geometry(), list);
 }
 
-TEST_F(MainLayout, TheChoosingControlsAndTheNamesAreBold)
-{
-    Open();
-    for (QWidget* bold : std::vector<QWidget*>{main->List1, main->Combo1, main->Combo2, main->Text1[SurnameBox],
-                                               main->Text1[InitialsBox], main->lblteamno, main->Label2[1],
-                                               main->Label2[15], main->Label2[22]})
-        EXPECT_TRUE(bold->font().bold()) << bold->metaObject()->className();
-    for (QWidget* plain : std::vector<QWidget*>{main->Text1[BatSkillBox], main->Combo3, main->Text1[TeamNameBox]})
-        EXPECT_FALSE(plain->font().bold()) << plain->metaObject()->className();
-}
-
 }  // namespace
