@@ -15,7 +15,7 @@
 #include "forms/list_box.h"
 #include "forms/picture_box.h"
 #include "forms/text_box.h"
-#include "mainwindow/fitted_layout.h"
+#include "forms/fitted_layout.h"
 #include "options/artwork.h"
 
 namespace {

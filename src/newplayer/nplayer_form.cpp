@@ -10,7 +10,7 @@
 #include "forms/message_box.h"
 #include "forms/modal.h"
 #include "forms/text_box.h"
-#include "mainwindow/fitted_layout.h"
+#include "forms/fitted_layout.h"
 #include "mainwindow/main_form.h"
 #include "options/help_form.h"
 

@@ -5,7 +5,7 @@
 #include <QPixmap>
 #include <QPushButton>
 
-#include "mainwindow/fitted_layout.h"
+#include "forms/fitted_layout.h"
 #include "options/artwork.h"
 
 namespace {

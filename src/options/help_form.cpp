@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "mainwindow/fitted_layout.h"
+#include "forms/fitted_layout.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include "data/setting_file.h"
 #include "forms/message_box.h"
-#include "mainwindow/fitted_layout.h"
+#include "forms/fitted_layout.h"
 #include "options/folder_lists.h"
 
 namespace {

@@ -10,7 +10,7 @@
 #include "forms/list_box.h"
 #include "forms/shape.h"
 #include "forms/text_box.h"
-#include "mainwindow/fitted_layout.h"
+#include "forms/fitted_layout.h"
 #include "search/playeradd_form.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "mainwindow/fitted_layout.h"
+#include "forms/fitted_layout.h"
 
 #include <QWidget>
 #include <algorithm>
