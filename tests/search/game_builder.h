@@ -1,9 +1,9 @@
 #pragma once
 
 #include <cstdint>
-#include <initializer_list>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "data/game.h"
 
@@ -33,7 +33,7 @@ struct GameBuilder {
 
     // A team with `players` in its first places; every listed player's
     // teamNumber follows, as a loaded game would have it.
-    TeamRecord& Team(int number, std::string name, std::initializer_list<int> players = {})
+    TeamRecord& Team(int number, std::string name, const std::vector<int>& players = {})
     {
         TeamRecord& t = game->Teams[number];
         t.teamNumber = static_cast<std::int16_t>(number);
@@ -51,7 +51,14 @@ struct GameBuilder {
     }
 };
 
-#include <vector>
+// Player numbers first, first + 1, ... : `count` of them.
+inline std::vector<int> PlayerRun(int first, int count)
+{
+    std::vector<int> numbers;
+    for (int n = first; n < first + count; ++n)
+        numbers.push_back(n);
+    return numbers;
+}
 
 // The places of a squad up to its last filled one; all places behind are 0.
 inline std::vector<int> Places(const TeamRecord& team)

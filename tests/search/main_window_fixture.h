@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -24,6 +25,11 @@ inline constexpr int Bayside = 2;
 inline constexpr int Kiwis = 3;
 inline constexpr int Newlands = 4;
 
+inline void Click(QPushButton* button)
+{
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
 // Clicks a row of a list as a person would.
 inline void ClickRow(ListBox& list, int row)
 {
@@ -34,16 +40,38 @@ inline void ClickRow(ListBox& list, int row)
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(item).center());
 }
 
+inline std::vector<QString> Rows(const ListBox& list)
+{
+    std::vector<QString> rows;
+    for (int row = 0; row < list.ListCount(); ++row)
+        rows.push_back(list.List(row));
+    return rows;
+}
+
+// Presses Search in the search window.
+inline void Search(PlayerAddForm& form)
+{
+    Click(form.Command3);
+}
+
+// Searches with the filters as they stand and picks the candidate with that surname.
+inline void SearchAndPick(PlayerAddForm& form, const QString& surname)
+{
+    Search(form);
+    const auto rows = Rows(*form.List1);
+    const auto at = std::find(rows.begin(), rows.end(), surname);
+    ASSERT_NE(at, rows.end()) << surname.toStdString();
+    ClickRow(*form.List1, int(at - rows.begin()));
+}
+
 class MainWindowTest : public ::testing::Test {
 protected:
     MainWindowTest()
     {
         // Players 1 to 40, named P0001 and so on, with initials A.
         b.Players(40);
-        game.Players[1].surname = "Venn";
-        game.Players[1].initials = "K";
-        game.Players[5].surname = "Quill";
-        game.Players[5].initials = "S T";
+        b.Player(1, "Venn", "K");
+        b.Player(5, "Quill", "S T");
         b.Team(Harbour, "Harbour CC", {1, 2, 3}).homeCountry = 1;
         b.Team(Bayside, "Bayside", {4, 5}).homeCountry = 1;
         b.Team(Kiwis, "Kiwis XI", {6, 7}).homeCountry = 4;
@@ -61,55 +89,33 @@ protected:
         SetModalDriver({});
     }
 
-    // Presses `button` of the main window; `work` drives the search window if
-    // one opens. Tells whether one opened.
-    bool Press(QPushButton* button, std::function<void(PlayerAddForm&)> work = {})
-    {
-        bool opened = false;
-        SetModalDriver([&](QDialog& form) {
-            opened = true;
-            if (work)
-                work(dynamic_cast<PlayerAddForm&>(form));
-        });
-        QTest::mouseClick(button, Qt::LeftButton);
-        SetModalDriver({});
-        return opened;
-    }
-
-    // Presses `button` and gives the name of the window it opened, if any.
-    QString OpenedBy(QPushButton* button)
+    // Presses `button` of the main window and gives the name of the window it
+    // opened, "" if none; `work` drives the search window if that opens.
+    QString Press(QPushButton* button, std::function<void(PlayerAddForm&)> work = {})
     {
         QString opened;
-        SetModalDriver([&](QDialog& form) { opened = form.objectName(); });
-        QTest::mouseClick(button, Qt::LeftButton);
+        SetModalDriver([&](QDialog& form) {
+            opened = form.objectName();
+            if (auto* search = dynamic_cast<PlayerAddForm*>(&form); search && work)
+                work(*search);
+        });
+        Click(button);
         SetModalDriver({});
         return opened;
     }
 
     // The texts, or the titles, of the messages shown so far, in order.
-    static std::vector<QString> Texts()
+    static std::vector<QString> Texts() { return Shown(&ShownMessage::text); }
+    static std::vector<QString> Titles() { return Shown(&ShownMessage::title); }
+    static std::vector<QString> Shown(QString ShownMessage::*part)
     {
-        std::vector<QString> texts;
+        std::vector<QString> parts;
         for (const ShownMessage& m : ShownMessages())
-            texts.push_back(m.text);
-        return texts;
-    }
-    static std::vector<QString> Titles()
-    {
-        std::vector<QString> titles;
-        for (const ShownMessage& m : ShownMessages())
-            titles.push_back(m.title);
-        return titles;
+            parts.push_back(m.*part);
+        return parts;
     }
 
-    // The rows of the main window's squad list.
-    std::vector<QString> SquadRows() const
-    {
-        std::vector<QString> rows;
-        for (int row = 0; row < main->List1->ListCount(); ++row)
-            rows.push_back(main->List1->List(row));
-        return rows;
-    }
+    std::vector<QString> SquadRows() const { return Rows(*main->List1); }
 
     GameBuilder b;
     Game& game = *b.game;

