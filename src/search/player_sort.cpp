@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "data/cp1252.h"
 #include "search/search_filters.h"
@@ -88,12 +89,13 @@ void PlaceRows(WorkingTable& rows, SortEntries<Key>& entries, int first, int las
     }
 }
 
+// `keyOf` gives the key of a row by its number.
 template <typename Key, typename KeyOf, typename Before>
 void SortBy(WorkingTable& rows, int first, int last, KeyOf keyOf, Before before, const SortProgress& progress)
 {
     SortEntries<Key> entries;
     for (int row = first; row <= last; ++row)
-        entries[row] = {keyOf(rows[row]), row};
+        entries[row] = {keyOf(row), row};
     CocktailSort(entries, first, last, before, progress);
     PlaceRows(rows, entries, first, last);
 }
@@ -135,12 +137,33 @@ bool SurnameBefore(const Surname& a, const Surname& b)
     return CharacterCode(static_cast<unsigned char>(*inA)) < CharacterCode(static_cast<unsigned char>(*inB));
 }
 
+// The sweeps compare about two million pairs at full size, too many to walk
+// and decode surnames each time. So the surnames are ranked once by a quick
+// sort, and the sweeps compare ranks: same order, and equal surnames share one.
+void SortBySurname(WorkingTable& rows, int first, int last, const SortProgress& progress)
+{
+    std::vector<std::pair<Surname, int>> byName;
+    for (int row = first; row <= last; ++row)
+        byName.emplace_back(SurnameOf(rows[row]), row);
+    std::sort(byName.begin(), byName.end(), [](const auto& a, const auto& b) { return SurnameBefore(a.first, b.first); });
+    std::array<int, MaxPlayers + 1> rankOfRow{};
+    int rank = 0;
+    for (std::size_t i = 0; i < byName.size(); ++i) {
+        if (i > 0 && SurnameBefore(byName[i - 1].first, byName[i].first))
+            ++rank;
+        rankOfRow[byName[i].second] = rank;
+    }
+    SortBy<int>(
+        rows, first, last, [&rankOfRow](int row) { return rankOfRow[row]; }, [](int a, int b) { return a < b; },
+        progress);
+}
+
 // Skills sort the highest first.
 void SortBySkill(WorkingTable& rows, int first, int last, std::int16_t PlayerRecord::*skill,
                  const SortProgress& progress)
 {
     SortBy<std::int16_t>(
-        rows, first, last, [skill](const PlayerRecord& r) { return r.*skill; },
+        rows, first, last, [&rows, skill](int row) { return rows[row].*skill; },
         [](std::int16_t a, std::int16_t b) { return a > b; }, progress);
 }
 
@@ -152,7 +175,7 @@ void SortRows(WorkingTable& rows, int first, int last, SortKey key, const SortPr
     last = std::min(last, MaxPlayers);
     switch (key) {
     case SortKey::Surname:
-        return SortBy<Surname>(rows, first, last, SurnameOf, SurnameBefore, progress);
+        return SortBySurname(rows, first, last, progress);
     case SortKey::BatSkill:
         return SortBySkill(rows, first, last, &PlayerRecord::batSkill, progress);
     case SortKey::BatAggression:
