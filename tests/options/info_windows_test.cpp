@@ -59,8 +59,6 @@ QUrl BesideProgram(const QString& name)
 TEST(HelpWindow, ListsTheRangesTheNewPlayerChecksUse)
 {
     HelpForm help;
-    EXPECT_EQ(help.windowTitle(), "Help");
-    EXPECT_EQ(help.Label1->text(), "The ranges for the different player statistics are as follows:");
     const char* skills[] = {"Bat Skill", "Bat Aggression", "Bowl Skill", "Bowl Econ.", "Field Skill", "Potential"};
     for (std::size_t row = 0; row < StatRanges.size(); ++row) {
         SCOPED_TRACE(skills[row]);
@@ -70,7 +68,6 @@ TEST(HelpWindow, ListsTheRangesTheNewPlayerChecksUse)
         EXPECT_LT(help.Label2[row]->geometry().right(), help.Label3[row]->geometry().left())
             << "the skill and its range do not touch";
     }
-
     help.show();
     help.Command1->click();
     EXPECT_FALSE(help.isVisible());
@@ -83,10 +80,6 @@ TEST_F(InfoWindows, AboutOpensFromTheMenuAndClosesOnEnterOrEscape)
         SetModalDriver([&](QDialog& shown) {
             auto& about = dynamic_cast<AboutForm&>(shown);
             EXPECT_EQ(about.parentWidget(), &main);
-            EXPECT_EQ(about.windowTitle(), "About");
-            EXPECT_EQ(about.lblTitle->text(), "KOLTA Team Editor  ");
-            EXPECT_EQ(about.lblVersion->text(), "Version  1.0.0");
-            EXPECT_EQ(about.Label2->text(), "Credits :");
             EXPECT_FALSE(about.Image1->pixmap().isNull());
             ASSERT_TRUE(QTest::qWaitForWindowActive(&about));
             QTest::keyClick(QApplication::focusWidget(), key);
@@ -127,29 +120,26 @@ TEST_F(InfoWindows, EachClickOnAPictureOpensItsPageAgain)
     EXPECT_TRUE(ShownMessages().empty());
 }
 
-TEST_F(InfoWindows, ABrowserThatWillNotStartIsToldAndTheEditorGoesOn)
-{
-    browserStarts = false;
-    main.Image2_Click();
-    ASSERT_EQ(ShownMessages().size(), 1u);
-    EXPECT_EQ(ShownMessages()[0].flags, MbInformation);
-    const QString page = QDir::toNativeSeparators(BesideProgram("file-formats.html").toLocalFile());
-    EXPECT_TRUE(ShownMessages()[0].text.contains(page));
-
-    browserStarts = true;
-    main.Image1_Click();
-    EXPECT_EQ(opened.size(), 2u);
-    EXPECT_EQ(ShownMessages().size(), 1u);
-}
-
-TEST_F(InfoWindows, AMissingPageIsToldWithoutStartingABrowser)
+// A page that is missing or a browser that will not start is told, and the
+// editor goes on.
+TEST_F(InfoWindows, APageThatCannotBeShownIsTold)
 {
     QTemporaryDir elsewhere;
     const QString missing = elsewhere.filePath("guide.html");
     OpenWebPage(QUrl::fromLocalFile(missing));
     EXPECT_TRUE(opened.empty());
-    ASSERT_EQ(ShownMessages().size(), 1u);
+    browserStarts = false;
+    main.Image2_Click();
+    ASSERT_EQ(ShownMessages().size(), 2u);
     EXPECT_TRUE(ShownMessages()[0].text.contains(QDir::toNativeSeparators(missing)));
+    const QString page = QDir::toNativeSeparators(BesideProgram("file-formats.html").toLocalFile());
+    EXPECT_TRUE(ShownMessages()[1].text.contains(page));
+    EXPECT_EQ(ShownMessages()[1].flags, MbInformation);
+
+    browserStarts = true;
+    main.Image1_Click();
+    EXPECT_EQ(opened.size(), 2u);
+    EXPECT_EQ(ShownMessages().size(), 2u);
 }
 
 }  // namespace
