@@ -106,8 +106,32 @@ std::optional<double> TextAsDecimal(std::string_view text)
     return negative ? -value : value;
 }
 
+namespace {
+
+// Nearly every number in the game's files is a bare whole number of a few
+// digits; those are read straight, without a detour through a double.
+std::optional<std::int16_t> BareWholeNumber(std::string_view text)
+{
+    const bool negative = !text.empty() && text.front() == '-';
+    if (negative || (!text.empty() && text.front() == '+'))
+        text.remove_prefix(1);
+    if (text.empty() || text.size() > 5 || !std::all_of(text.begin(), text.end(), IsDigit))
+        return std::nullopt;
+    int value = 0;
+    for (char digit : text)
+        value = value * 10 + (digit - '0');
+    value = negative ? -value : value;
+    if (value < -32768 || value > 32767)
+        return std::nullopt;
+    return static_cast<std::int16_t>(value);
+}
+
+}  // namespace
+
 std::optional<std::int16_t> TextAsNumber(std::string_view text)
 {
+    if (const auto whole = BareWholeNumber(text))
+        return whole;
     const std::optional<double> value = TextAsDecimal(text);
     if (!value)
         return std::nullopt;
