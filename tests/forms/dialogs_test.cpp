@@ -51,20 +51,14 @@ struct OuterForm : QDialog {
 
 TEST_F(Dialogs, MessagesAreRecordedAndAnsweredByTheTest)
 {
-    std::vector<QString> asked;
-    SetMessageAnswerer([&](const ShownMessage& message) {
-        asked.push_back(message.text);
-        return message.flags & MbYesNoCancel ? IdNo : IdOk;
-    });
+    SetMessageAnswerer([](const ShownMessage& message) { return message.flags & MbYesNoCancel ? IdNo : IdOk; });
     EXPECT_EQ(MsgBox("Save changes?", MbYesNoCancel | MbExclamation, "Exit"), IdNo);
     EXPECT_EQ(MsgBox("Squad full", MbInformation, "Add"), IdOk);
-
     ASSERT_EQ(ShownMessages().size(), 2u);
     EXPECT_EQ(ShownMessages()[0].text, "Save changes?");
     EXPECT_EQ(ShownMessages()[0].flags, 51);
     EXPECT_EQ(ShownMessages()[0].title, "Exit");
-    EXPECT_EQ(asked, (std::vector<QString>{"Save changes?", "Squad full"}));
-
+    EXPECT_EQ(ShownMessages()[1].text, "Squad full");
     ClearShownMessages();
     EXPECT_TRUE(ShownMessages().empty());
 }
@@ -83,26 +77,6 @@ TEST_F(Dialogs, RealBoxesAnswerWithTheKeysPressed)
     EXPECT_EQ(ShownMessages()[2].flags, 20);
 }
 
-TEST_F(Dialogs, DriverWorksTheFormAndItsResultComesBack)
-{
-    QWidget owner;
-    owner.setGeometry(100, 100, 600, 400);
-    owner.show();
-    QPoint centreSeen;
-    bool modalSeen = false;
-    SetModalDriver([&](QDialog& form) {
-        centreSeen = form.frameGeometry().center();
-        modalSeen = form.isModal() && form.parentWidget() == &owner;
-        form.accept();
-    });
-    QDialog form;
-    form.resize(200, 100);
-    EXPECT_EQ(ShowModal(form, &owner), QDialog::Accepted);
-    EXPECT_TRUE(modalSeen);
-    EXPECT_LE((centreSeen - owner.frameGeometry().center()).manhattanLength(), 2);
-    EXPECT_TRUE(form.isWindow());
-}
-
 TEST_F(Dialogs, AFormTheDriverLeavesOpenIsClosed)
 {
     SetModalDriver([](QDialog&) {});
@@ -117,35 +91,32 @@ TEST_F(Dialogs, AFormTheDriverLeavesOpenIsClosed)
     EXPECT_EQ(ShowModal(stubborn, nullptr), QDialog::Rejected);
 }
 
-TEST_F(Dialogs, ModalFormsNest)
+TEST_F(Dialogs, DriverWorksNestedFormsAndTheirResultsComeBack)
 {
+    QWidget owner;
+    owner.setGeometry(100, 100, 600, 400);
+    owner.show();
+    SetMessageAnswerer([](const ShownMessage&) { return IdYes; });
     std::vector<QString> driven;
+    QPoint centreSeen;
     SetModalDriver([&](QDialog& form) {
         driven.push_back(form.objectName());
+        EXPECT_TRUE(form.isModal() && form.isVisible());
         if (form.objectName() == "outer") {
+            EXPECT_EQ(form.parentWidget(), &owner);
+            centreSeen = form.frameGeometry().center();
             static_cast<OuterForm&>(form).open->click();
             form.accept();
         } else {
-            EXPECT_TRUE(form.isVisible());
-            form.done(5);
+            form.done(MsgBox("Replace him?", MbYesNo, "Replace"));   // a question from inside a form
         }
     });
     OuterForm outer;
-    EXPECT_EQ(ShowModal(outer, nullptr), QDialog::Accepted);
-    EXPECT_EQ(outer.innerResult, 5);
+    outer.resize(200, 100);
+    EXPECT_EQ(ShowModal(outer, &owner), QDialog::Accepted);
+    EXPECT_LE((centreSeen - owner.frameGeometry().center()).manhattanLength(), 2);
+    EXPECT_TRUE(outer.isWindow());
+    EXPECT_EQ(outer.innerResult, IdYes);
     EXPECT_EQ(driven, (std::vector<QString>{"outer", "inner"}));
     EXPECT_EQ(outer.inner.parentWidget(), &outer);
-}
-
-TEST_F(Dialogs, MessageFromInsideADrivenForm)
-{
-    SetMessageAnswerer([](const ShownMessage&) { return IdYes; });
-    int answer = 0;
-    SetModalDriver([&](QDialog& form) {
-        answer = MsgBox("Replace him?", MbYesNo, "Replace");
-        form.accept();
-    });
-    QDialog form;
-    ShowModal(form, nullptr);
-    EXPECT_EQ(answer, IdYes);
 }

@@ -2,14 +2,10 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QTest>
 
 #include "data/players_file.h"
 #include "data/setting_file.h"
 #include "data/teams_file.h"
-#include "forms/combo_box.h"
-#include "forms/list_box.h"
-#include "forms/text_box.h"
 #include "options/options_form.h"
 
 EditorTest::EditorTest()
@@ -34,41 +30,17 @@ EditorTest::~EditorTest()
 GameBuilder EditorTest::SmallWorld()
 {
     GameBuilder b;
-    PlayerRecord& quill = b.Player(1, "Quillfeather", "H R");
-    quill.homeCountry = 29;  // the second "Namibia"
-    quill.batPosition = 1;
-    quill.bats = 1;
-    quill.bowlType = 7;
-    quill.bowls = 0;
-    quill.fieldsAt = 2;
-    quill.birthDay = 3;
-    quill.birthMonth = 11;
-    quill.birthYear = 1980;
-    quill.batSkill = 52;
-    quill.batAggression = 7;
-    quill.bowlSkill = -4;
-    quill.bowlEconomy = 0;
-    quill.fieldAbility = 38;
-    quill.potential = 16;
-    quill.carriedValue = 99;
-
-    PlayerRecord& ormsby = b.Player(2, "Ormsby", "");
-    ormsby.homeCountry = 0;   // no entry: nothing is chosen
-    ormsby.batPosition = 7;   // past the end of the list
-    ormsby.bats = 0;
-    ormsby.bowlType = 1;
-    ormsby.bowls = 1;
-    ormsby.fieldsAt = 4;
-    ormsby.birthYear = 1975;
-    ormsby.batSkill = 12;
-
-    PlayerRecord& vanterpool = b.Player(3, "Vanterpool", "T");
-    vanterpool.homeCountry = 13;  // the first "Namibia"
-    vanterpool.batPosition = 6;
-    vanterpool.bowlType = 9;
-    vanterpool.fieldsAt = 1;
-    vanterpool.batSkill = 30;
-
+    // Home country 29 is the second "Namibia", 13 the first; 0 and a batting
+    // position of 7 have no entry in their lists.
+    b.game->Players[1] = {.playerNumber = 1, .initials = "H R", .surname = "Quillfeather", .birthDay = 3,
+                          .birthMonth = 11, .birthYear = 1980, .homeCountry = 29, .batPosition = 1, .bats = 1,
+                          .batSkill = 52, .batAggression = 7, .bowlType = 7, .bowls = 0, .bowlSkill = -4,
+                          .bowlEconomy = 0, .fieldAbility = 38, .fieldsAt = 2, .potential = 16, .carriedValue = 99};
+    b.game->Players[2] = {.playerNumber = 2, .initials = "", .surname = "Ormsby", .birthYear = 1975,
+                          .homeCountry = 0, .batPosition = 7, .bats = 0, .batSkill = 12, .bowlType = 1, .bowls = 1,
+                          .fieldsAt = 4};
+    b.game->Players[3] = {.playerNumber = 3, .initials = "T", .surname = "Vanterpool", .homeCountry = 13,
+                          .batPosition = 6, .batSkill = 30, .bowlType = 9, .fieldsAt = 1};
     b.Player(4, "Ashgrove", "K").homeCountry = 1;
     b.Player(5, "Brindle", "P J").homeCountry = 2;
     b.Player(6, "Calloway", "W").homeCountry = 8;
@@ -118,28 +90,12 @@ std::unique_ptr<Game> EditorTest::ReadBack() const
     return read;
 }
 
-std::vector<QString> EditorTest::MessageTexts() const
+std::vector<QString> EditorTest::MessageTexts()
 {
     std::vector<QString> texts;
     for (const ShownMessage& message : ShownMessages())
         texts.push_back(message.text);
     return texts;
-}
-
-std::vector<QString> EditorTest::SquadRows() const
-{
-    std::vector<QString> rows;
-    for (int row = 0; row < main->List1->ListCount(); ++row)
-        rows.push_back(main->List1->List(row));
-    return rows;
-}
-
-std::vector<QString> EditorTest::TeamEntries() const
-{
-    std::vector<QString> entries;
-    for (int entry = 0; entry < main->Combo2->ListCount(); ++entry)
-        entries.push_back(main->Combo2->List(entry));
-    return entries;
 }
 
 void EditorTest::Retype(int box, const QString& text)

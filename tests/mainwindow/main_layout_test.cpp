@@ -1,15 +1,10 @@
 // The window as the user meets it: where the Tab key goes, whether every
 // caption can be read, and that the window keeps its size.
 
-#include <QLabel>
 #include <QPushButton>
-#include <QTest>
 
 #include "editor_fixture.h"
-#include "forms/combo_box.h"
-#include "forms/list_box.h"
 #include "forms/picture_box.h"
-#include "forms/text_box.h"
 
 namespace {
 
@@ -35,7 +30,7 @@ TEST_F(MainLayout, TabClimbsThePlayerColumnFirstAndComesBackRound)
     }
 }
 
-TEST_F(MainLayout, EveryCaptionFitsAndNoControlsOverlap)
+TEST_F(MainLayout, EveryCaptionFitsNoControlsOverlapAndTheSizeIsFixed)
 {
     Open();
     std::vector<QWidget*> placed;
@@ -62,18 +57,13 @@ TEST_F(MainLayout, EveryCaptionFitsAndNoControlsOverlap)
                 << placed[a]->geometry().y() << " and " << placed[b]->metaObject()->className() << " "
                 << placed[b]->geometry().x() << "," << placed[b]->geometry().y();
     }
-}
 
-TEST_F(MainLayout, TheWindowKeepsItsSize)
-{
-    Open();
+    // The window keeps its size, so nothing can be pushed out of place.
     EXPECT_FALSE(main->windowFlags() & Qt::WindowMaximizeButtonHint);
     const QSize size = main->size();
-    const QRect list = main->List1->geometry();
     main->resize(size * 2);
     QTest::qWait(20);
     EXPECT_EQ(main->size(), size);
-    EXPECT_EQ(main->List1->geometry(), list);
 }
 
 }  // namespace
