@@ -28,20 +28,15 @@ struct Clicks {
     }
 };
 
-// A visible, focused window so that QTest input reaches the control.
-template <typename Control>
-struct Shown {
-    QWidget window;
-    Control* control = new Control(&window);
-    Shown()
-    {
-        control->setGeometry(0, 0, 200, 150);
-        window.resize(220, 170);
-        window.show();
-        control->setFocus();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
-    }
-};
+// Shows the control as a window of its own and focuses it, so that QTest
+// input reaches it.
+void ShowFocused(QWidget& control)
+{
+    control.resize(200, 150);
+    control.show();
+    control.setFocus();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&control));
+}
 
 }  // namespace
 
@@ -95,8 +90,8 @@ TYPED_TEST(ListControl, SetTextChoosesTheFirstExactMatchAndClicksEvenWhenChosen)
 
 TYPED_TEST(ListControl, ArrowKeyOrTypedLetterClicksOnce)
 {
-    Shown<TypeParam> shown;
-    TypeParam& control = *shown.control;
+    TypeParam control;
+    ShowFocused(control);
     Fill(control, {"Kent", "Essex", "Surrey"});
     control.SetText("Kent");
     Clicks clicks(control);
@@ -118,8 +113,8 @@ TEST(ComboBox, PickingFromThePopupClicksEvenForTheSameRow)
 
 TEST(ListBox, MouseClickOnARowClicksOnce)
 {
-    Shown<ListBox> shown;
-    ListBox& list = *shown.control;
+    ListBox list;
+    ShowFocused(list);
     Fill(list, {"Atherton", "Gooch", "Gower"});
     Clicks clicks(list);
     const auto centre = [&](int row) { return list.visualItemRect(list.item(row)).center(); };
@@ -135,8 +130,8 @@ TEST(ListBox, MouseClickOnARowClicksOnce)
 
 TEST(ListBox, HandlerMayRebuildTheListItClicked)
 {
-    Shown<ListBox> shown;
-    ListBox& list = *shown.control;
+    ListBox list;
+    ShowFocused(list);
     Fill(list, {"Atherton", "Gooch"});
     int clicks = 0;
     QObject::connect(&list, &ListBox::Click, [&] {

@@ -67,7 +67,7 @@ TEST_F(TextBoxTest, KeyFilterMayReplaceOrRefuseTheKey)
     EXPECT_EQ(BeepCount() - before, 2);   // a refused key beeps and changes nothing
 }
 
-TEST_F(TextBoxTest, TextRuleJudgesTypingAndPasting)
+TEST_F(TextBoxTest, TextRuleJudgesTypingPastingAndTypingOverASelection)
 {
     box.SetTextRule([](const QString& text) { return !text.contains(','); });
     box.setText("Smith");
@@ -96,10 +96,8 @@ TEST_F(TextBoxTest, TextRuleJudgesTypingAndPasting)
     box.setMaxLength(4);
     Paste("Gatting");
     EXPECT_EQ(box.Text(), "Gatt");
-}
 
-TEST_F(TextBoxTest, TextRuleCannotBeDodgedBySelectingAndTyping)
-{
+    // Selecting and typing over cannot dodge the rule.
     box.SetTextRule([](const QString& text) { return text.size() != 1; });
     box.setText("abc");
     box.selectAll();

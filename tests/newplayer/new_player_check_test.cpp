@@ -23,21 +23,10 @@ std::unique_ptr<Game> SmallGame()
     return std::move(b.game);
 }
 
+// Names, date of birth, then the six skills in the order of the Help window.
 NewPlayerEntries GoodEntries()
 {
-    NewPlayerEntries e;
-    e.initials = "R J";
-    e.surname = "Ashdown";
-    e.birthDay = "14";
-    e.birthMonth = "7";
-    e.birthYear = "1979";
-    e.batSkill = "45";
-    e.batAggression = "12";
-    e.bowlSkill = "20";
-    e.bowlEconomy = "8";
-    e.fieldAbility = "25";
-    e.potential = "10";
-    return e;
+    return {"R J", "Ashdown", "14", "7", "1979", "45", "12", "20", "8", "25", "10"};
 }
 
 }  // namespace
@@ -118,41 +107,33 @@ TEST(NewPlayerCommit, GivesTheNextNumberAndFillsTheRecord)
     EXPECT_EQ(game->Players[6], expected);
     EXPECT_EQ(Places(game->Teams[Club]), (std::vector<int>{1, 2, 6}));
 
-    // The first entry of every list gives code 1, or 0 for the two hands.
-    ASSERT_EQ(CommitNewPlayer(*game, Club, GoodEntries()), NewPlayerOutcome::Added);
-    const PlayerRecord& p = game->Players[7];
-    EXPECT_EQ(std::vector<int>({p.homeCountry, p.batPosition, p.bats, p.bowlType, p.bowls, p.fieldsAt}),
-              std::vector<int>({1, 1, 0, 1, 0, 1}));
-}
-
-TEST(NewPlayerCommit, ADateBeyondTheGamesNumbersKeepsWhatTheSlotHeld)
-{
-    auto game = SmallGame();
-    game->Players[6].birthYear = 1990;
-    NewPlayerEntries e = GoodEntries();
+    // The first entry of every list gives code 1, or 0 for the two hands. A
+    // date beyond the game's 16-bit numbers keeps what the slot held.
+    game->Players[7].birthYear = 1990;
+    e = GoodEntries();
     e.birthYear = "1e9";
     e.birthDay = "-5";
     ASSERT_EQ(CommitNewPlayer(*game, Club, e), NewPlayerOutcome::Added);
-    EXPECT_EQ(game->Players[6].birthYear, 1990);
-    EXPECT_EQ(game->Players[6].birthDay, -5);
+    const PlayerRecord& p = game->Players[7];
+    EXPECT_EQ(std::vector<int>({p.homeCountry, p.batPosition, p.bats, p.bowlType, p.bowls, p.fieldsAt}),
+              std::vector<int>({1, 1, 0, 1, 0, 1}));
+    EXPECT_EQ(p.birthYear, 1990);
+    EXPECT_EQ(p.birthDay, -5);
 }
 
 TEST(NewPlayerCommit, RefusalsLeaveTheGameAsItWas)
 {
+    using Outcome = NewPlayerOutcome;
     const struct {
         const char* what;
         void (*prepare)(Game&, int& team, NewPlayerEntries&);
-        NewPlayerOutcome outcome;
+        Outcome outcome;
     } refusals[] = {
-        {"bad entries", [](Game&, int&, NewPlayerEntries& e) { e.fieldAbility = "9"; },
-         NewPlayerOutcome::BadEntries},
-        {"full table", [](Game& g, int&, NewPlayerEntries&) { g.PlayerCount = MaxPlayers; },
-         NewPlayerOutcome::TableFull},
-        {"no team", [](Game&, int& team, NewPlayerEntries&) { team = 0; }, NewPlayerOutcome::NoTeam},
-        {"past the last team", [](Game&, int& team, NewPlayerEntries&) { team = MaxTeams + 1; },
-         NewPlayerOutcome::NoTeam},
-        {"full squad", [](Game& g, int&, NewPlayerEntries&) { g.Teams[Club].squad.fill(40); },
-         NewPlayerOutcome::SquadFull},
+        {"bad entries", [](Game&, int&, NewPlayerEntries& e) { e.fieldAbility = "9"; }, Outcome::BadEntries},
+        {"full table", [](Game& g, int&, NewPlayerEntries&) { g.PlayerCount = MaxPlayers; }, Outcome::TableFull},
+        {"no team", [](Game&, int& team, NewPlayerEntries&) { team = 0; }, Outcome::NoTeam},
+        {"past the last team", [](Game&, int& team, NewPlayerEntries&) { team = MaxTeams + 1; }, Outcome::NoTeam},
+        {"full squad", [](Game& g, int&, NewPlayerEntries&) { g.Teams[Club].squad.fill(40); }, Outcome::SquadFull},
     };
     for (const auto& r : refusals) {
         SCOPED_TRACE(r.what);

@@ -70,13 +70,14 @@ TEST_F(PlayerSortTest, EveryKeyKeepsEqualRowsInTheirOrder)
                                                   &PlayerRecord::bowlSkill,   &PlayerRecord::bowlEconomy,
                                                   &PlayerRecord::fieldAbility, &PlayerRecord::potential};
     for (int key = 0; key < SortKeyCount; ++key) {
-        for (int count : {2, 3, 7, 40, 257}) {
+        for (int count : {2, 3, 7, 257, MaxPlayers}) {
             SCOPED_TRACE(testing::Message() << "key " << key << ", " << count << " rows");
             std::vector<PlayerRecord> rows;
             for (int row = 1; row <= count; ++row) {
                 PlayerRecord& r = Row(row, std::string(1, letters[random() % letters.size()]) +
                                                (random() % 2 ? "x" : ""));
-                r.initials = std::to_string(row);
+                // Long enough to live on the heap, so a copy rather than a move would show.
+                r.initials = "initials-long-enough-to-live-on-the-heap-" + std::to_string(row);
                 for (auto field : skills)
                     r.*field = static_cast<std::int16_t>(random() % 5 - 2);
                 rows.push_back(r);
@@ -133,26 +134,6 @@ TEST_F(PlayerSortTest, RowsBehindTheFirstBlankAndUnknownKeysLeaveTheOrder)
     SortResults(*game, 0, Recorder());
     EXPECT_THAT(Surnames(), ElementsAre("B", "C"));
     EXPECT_EQ(game->FieldMatches[4].surname, "A");
-}
-
-TEST_F(PlayerSortTest, AReversedFullTableSortsAndKeepsEveryText)
-{
-    // Long names, so that a copy rather than a move would still show in the result.
-    const std::string longText = "-long-enough-to-live-on-the-heap-";
-    for (int row = 1; row <= MaxPlayers; ++row) {
-        PlayerRecord& r = Row(row, "Surname" + longText + std::to_string(row));
-        r.initials = "Initials" + longText + std::to_string(row);
-        r.potential = static_cast<std::int16_t>(row);
-    }
-    SortResults(*game, static_cast<int>(SortKey::Potential), Recorder());
-    for (int row = 1; row <= MaxPlayers; ++row) {
-        const PlayerRecord& r = game->FieldMatches[row];
-        ASSERT_EQ(r.potential, MaxPlayers + 1 - row);
-        ASSERT_EQ(r.surname, "Surname" + longText + std::to_string(r.potential));
-        ASSERT_EQ(r.initials, "Initials" + longText + std::to_string(r.potential));
-    }
-    EXPECT_EQ(widths.size(), 1000u);
-    EXPECT_TRUE(std::is_sorted(widths.begin(), widths.end()));
 }
 
 }  // namespace

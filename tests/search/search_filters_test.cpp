@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <vector>
 
 #include "game_builder.h"
@@ -11,19 +12,14 @@ using ::testing::IsEmpty;
 
 namespace {
 
-// Player numbers of the rows in use of the last table, in order.
-std::vector<int> Found(const Game& game)
+// Runs the filters and gives the player numbers of the last table's rows in use.
+std::vector<int> Search(Game& game, const SearchFilters& filters)
 {
+    RunFilters(game, filters);
     std::vector<int> numbers;
     for (int row = 1; row <= RowsInUse(game.FieldMatches); ++row)
         numbers.push_back(game.FieldMatches[row].playerNumber);
     return numbers;
-}
-
-std::vector<int> Search(Game& game, const SearchFilters& filters)
-{
-    RunFilters(game, filters);
-    return Found(game);
 }
 
 class SearchFiltersTest : public ::testing::Test {
@@ -34,17 +30,12 @@ protected:
     // Six players with distinct codes in every field the filters read.
     void SetUp() override
     {
-        struct Codes {
-            std::int16_t country, bat, bowl, field;
-        };
-        const Codes codes[] = {{1, 1, 1, 1}, {2, 2, 7, 2}, {13, 3, 7, 3},
-                               {29, 1, 9, 4}, {1, 6, 2, 1}, {2, 1, 7, 1}};
-        for (int n = 1; n <= 6; ++n) {
-            PlayerRecord& p = b.Player(n, "S" + std::to_string(n));
-            p.homeCountry = codes[n - 1].country;
-            p.batPosition = codes[n - 1].bat;
-            p.bowlType = codes[n - 1].bowl;
-            p.fieldsAt = codes[n - 1].field;
+        // Country, batting position, bowling type, fielding position.
+        const std::int16_t codes[][4] = {{1, 1, 1, 1}, {2, 2, 7, 2}, {13, 3, 7, 3},
+                                         {29, 1, 9, 4}, {1, 6, 2, 1}, {2, 1, 7, 1}};
+        for (const auto& c : codes) {
+            PlayerRecord& p = b.Player(game.PlayerCount + 1, "S" + std::to_string(game.PlayerCount + 1));
+            std::tie(p.homeCountry, p.batPosition, p.bowlType, p.fieldsAt) = std::tie(c[0], c[1], c[2], c[3]);
         }
     }
 };
