@@ -32,7 +32,7 @@ TEST_F(Navigation, ACountryWithoutTeamsKeepsTheTeamAndPlayerShown)
     EXPECT_EQ(BoxText(SurnameBox), "Quillfeather");
 }
 
-TEST_F(Navigation, EveryCountryListsItsOwnTeamsAndEndsOnTheirFirstPlayer)
+TEST_F(Navigation, CountriesListTheirOwnTeamsAndTeamsTheirOwnPlayers)
 {
     Open();
     // The West Indies entry gathers the teams of code 8.
@@ -50,28 +50,22 @@ TEST_F(Navigation, EveryCountryListsItsOwnTeamsAndEndsOnTheirFirstPlayer)
             EXPECT_NE(entry, "Nairobi Nomads");
     }
 
-    // Picking the country that is already chosen starts it afresh.
+    // A picked team is shown with no player chosen; the empty place in its
+    // squad takes no row.
     main->Combo1->SetText("Australia");
-    QTest::keyClick(main->Combo2, Qt::Key_Down);
-    main->Combo1->SetText("Australia");
-    EXPECT_EQ(main->Combo2->ListIndex(), 0);
-    EXPECT_EQ(main->List1->ListIndex(), 0);
-    EXPECT_EQ(main->Label3->text(), "1");
-}
-
-TEST_F(Navigation, PickingATeamShowsItAndChoosesNoPlayer)
-{
-    Open();
     QTest::keyClick(main->Combo2, Qt::Key_Down);
     EXPECT_EQ(main->lblteamno->text(), "2");
     EXPECT_EQ(BoxText(TeamNameBox), "Darwin Dingoes");
-    EXPECT_EQ(BoxText(ReputationBox), "40");
-
-    // The empty place between the two players takes no row.
     EXPECT_EQ(Rows(*main->List1), (std::vector<QString>{"K Ashgrove", "P J Brindle"}));
     EXPECT_EQ(main->List1->ItemData(1), 5);
     EXPECT_EQ(main->List1->ListIndex(), -1);
     EXPECT_EQ(main->Label3->text(), "1");   // the player of the other team stays
+
+    // Picking the country that is already chosen starts it afresh.
+    main->Combo1->SetText("Australia");
+    EXPECT_EQ(main->Combo2->ListIndex(), 0);
+    EXPECT_EQ(main->List1->ListIndex(), 0);
+    EXPECT_EQ(main->Label3->text(), "1");
 }
 
 }  // namespace

@@ -81,31 +81,25 @@ TEST_F(Saving, UpdateCtrlSAndF1WorkWhicheverControlHasTheFocus)
     EXPECT_EQ(MessageTexts(), std::vector<QString>{Saved});
 }
 
-struct ExitCase {
-    int answer;
-    bool closes;
-    bool saves;
-};
-
-class ExitAnswer : public Saving, public ::testing::WithParamInterface<ExitCase> {};
+// The answer to the question on leaving, whether the window closes and whether it saves.
+class ExitAnswer : public Saving, public ::testing::WithParamInterface<std::tuple<int, bool, bool>> {};
 
 TEST_P(ExitAnswer, DoesWhatItSays)
 {
-    const ExitCase c = GetParam();
-    Answer({c.answer, IdOk});
+    const auto [answer, closes, saves] = GetParam();
+    Answer({answer, IdOk});
     main->exit->trigger();
-    ASSERT_FALSE(ShownMessages().empty());
+    ASSERT_EQ(ShownMessages().size(), saves ? 2u : 1u);
     EXPECT_EQ(ShownMessages()[0].text, SaveQuestion);
     EXPECT_EQ(ShownMessages()[0].title, "Saving..");
     EXPECT_EQ(ShownMessages()[0].flags, 51);
-    EXPECT_EQ(ShownMessages().size(), c.saves ? 2u : 1u);
-    EXPECT_EQ(main->isVisible(), !c.closes);
-    EXPECT_TRUE(c.saves ? EditsSaved() : FilesUnchanged());
+    EXPECT_EQ(main->isVisible(), !closes);
+    EXPECT_TRUE(saves ? EditsSaved() : FilesUnchanged());
 }
 
 INSTANTIATE_TEST_SUITE_P(Saving, ExitAnswer,
-                         ::testing::Values(ExitCase{IdCancel, false, false}, ExitCase{IdNo, true, false},
-                                           ExitCase{IdYes, true, true}));
+                         ::testing::Values(std::tuple(IdCancel, false, false), std::tuple(IdNo, true, false),
+                                           std::tuple(IdYes, true, true)));
 
 TEST_F(Saving, TheCloseBoxEndsWithoutAQuestion)
 {

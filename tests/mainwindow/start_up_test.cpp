@@ -88,9 +88,7 @@ TEST(SettingPlaces, TheFileBesideTheProgramComesFirst)
     ASSERT_TRUE(QDir().mkpath(root.filePath(QStringLiteral("bin"))));
     EXPECT_EQ(places.PathToRead(), user);   // nothing written yet
     EXPECT_EQ(places.PathToWrite(), beside);
-    QFile file(beside);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.close();
+    ASSERT_TRUE(QFile(beside).open(QIODevice::WriteOnly));
     EXPECT_EQ(places.PathToRead(), beside);
 
     // A program folder that cannot take the file sends it to the user's
