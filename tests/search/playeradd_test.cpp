@@ -18,10 +18,24 @@ namespace {
 
 using SearchWindowTest = MainWindowTest;
 
+// The second opening shows nothing of what the first one did.
 TEST_F(SearchWindowTest, EachOpeningStartsAfreshWithEveryClub)
 {
-    const auto checkCommon = [](PlayerAddForm& form) {
-        ASSERT_EQ(form.Combo2->ListCount(), 5);  // no double rows from an earlier opening
+    ASSERT_EQ(Press(main->Command4, [&](PlayerAddForm& form) {
+                  EXPECT_EQ(form.windowTitle(), "Replace player..");
+                  EXPECT_FALSE(form.Command1->isVisible());
+                  EXPECT_TRUE(form.Command4->isVisible());
+                  SearchAndPick(form, "P0030");
+                  form.Combo3[1]->SetText("India");
+                  form.Combo4[SortKeyCombo]->SetText("Bat Skill");
+                  Click(form.Command2);
+              }),
+              "playeradd");
+    Press(main->Command1, [&](PlayerAddForm& form) {
+        EXPECT_EQ(form.windowTitle(), "Add Player..");
+        EXPECT_TRUE(form.Command1->isVisible());
+        EXPECT_FALSE(form.Command4->isVisible());
+        ASSERT_EQ(form.Combo2->ListCount(), 5);  // no double rows from the earlier opening
         EXPECT_EQ(form.Combo2->List(Kiwis), "Kiwis XI");
         EXPECT_EQ(form.Combo2->ItemData(Newlands), Newlands);
         for (ComboBox* selector : {form.Combo2, form.Combo3[1], form.Combo4[5], form.Combo4[6], form.Combo4[7],
@@ -30,33 +44,16 @@ TEST_F(SearchWindowTest, EachOpeningStartsAfreshWithEveryClub)
         EXPECT_EQ(form.List1->ListCount(), 0);
         EXPECT_TRUE(form.Label3->text().isEmpty());
         EXPECT_TRUE(form.Text1[SurnameBox]->Text().isEmpty());
-        EXPECT_FALSE(form.Shape2->isVisible());
         EXPECT_FALSE(form.Text1[BatSkillBox]->isEnabled());
-    };
-
-    ASSERT_EQ(Press(main->Command4, [&](PlayerAddForm& form) {
-                  checkCommon(form);
-                  EXPECT_EQ(form.windowTitle(), "Replace player..");
-                  EXPECT_FALSE(form.Command1->isVisible());
-                  EXPECT_TRUE(form.Command4->isVisible());
-                  SearchAndPick(form, "P0030");
-                  form.Combo3[1]->SetText("India");
-                  Search(form);
-                  Click(form.Command2);
-              }),
-              "playeradd");
-    Press(main->Command1, [&](PlayerAddForm& form) {
-        checkCommon(form);
-        EXPECT_EQ(form.windowTitle(), "Add Player..");
-        EXPECT_TRUE(form.Command1->isVisible());
-        EXPECT_FALSE(form.Command4->isVisible());
     });
-    // Cancel right after opening changes nothing, the main window's choice included.
+    // Cancel changes nothing, the main window's choice included.
     EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(1, 2, 3));
     EXPECT_EQ(main->List1->ListIndex(), 0);
     EXPECT_THAT(Texts(), IsEmpty());
 }
 
+// Rows show surnames and hold numbers; filters and order take effect when
+// Search is pressed.
 TEST_F(SearchWindowTest, SearchListsSurnamesWithTheirNumbersInTheChosenOrder)
 {
     game.Players[7].batSkill = 30;
@@ -65,24 +62,18 @@ TEST_F(SearchWindowTest, SearchListsSurnamesWithTheirNumbersInTheChosenOrder)
         const int fullBar = form.Shape2->width();
         Search(form);
         ASSERT_EQ(form.List1->ListCount(), 40);
-        EXPECT_EQ(form.List1->List(0), "P0002");  // names sort by character code: "P..." before "Quill"
         EXPECT_EQ(form.List1->List(38), "Quill");
         EXPECT_EQ(form.List1->ItemData(38), 5);
-        EXPECT_EQ(form.List1->List(39), "Venn");
-
-        // A filter takes effect only when Search is pressed again.
         form.Combo2->SetText("Kiwis XI");
         form.Combo4[SortKeyCombo]->SetText("Bat Skill");
         EXPECT_EQ(form.List1->ListCount(), 40);
         Search(form);
         EXPECT_THAT(Rows(*form.List1), ElementsAre("P0007", "P0006"));
-        EXPECT_EQ(form.List1->ItemData(0), 7);
         // One pair of sweeps over two rows: the bar was set to half of 2500
         // twips and is hidden again.
         EXPECT_FALSE(form.Shape2->isVisible());
         EXPECT_EQ(form.Shape2->width(), std::lround(1250.0 / 2505 * fullBar));
     });
-    EXPECT_THAT(Texts(), IsEmpty());
 }
 
 TEST_F(SearchWindowTest, PickingACandidateShowsHimAsHeStandsNow)
@@ -90,9 +81,6 @@ TEST_F(SearchWindowTest, PickingACandidateShowsHimAsHeStandsNow)
     PlayerRecord& quill = game.Players[5];
     quill.homeCountry = 29;  // the second "Namibia"
     quill.batPosition = 6;
-    quill.bowlType = 7;
-    quill.birthDay = 9;
-    quill.birthMonth = 11;
     quill.birthYear = 1982;
     quill.batSkill = 33;
     game.Teams[Newlands].squad[2] = 5;  // in two squads: the higher team is his club
@@ -104,9 +92,7 @@ TEST_F(SearchWindowTest, PickingACandidateShowsHimAsHeStandsNow)
         EXPECT_EQ(form.Text1[InitialsBox]->Text(), "S T");
         EXPECT_EQ(form.Combo3[0]->ListIndex(), 28);
         EXPECT_EQ(form.Combo4[BatPositionCombo]->currentText(), "Tail Ender");
-        EXPECT_EQ(form.Combo4[BowlTypeCombo]->currentText(), "None");
-        EXPECT_EQ(form.Text1[DayBox]->Text() + "/" + form.Text1[MonthBox]->Text() + "/" + form.Text1[YearBox]->Text(),
-                  "9/11/1982");
+        EXPECT_EQ(form.Text1[YearBox]->Text(), "1982");
         EXPECT_EQ(form.Text1[BatSkillBox]->Text(), "33");
         EXPECT_EQ(form.Text1[TeamNameBox]->Text(), "Newlands");
 

@@ -109,16 +109,4 @@ TEST_F(SearchFiltersTest, ClubPlacesThatNameNoPlayerGiveNoRow)
     EXPECT_THAT(Search(game, {.team = 2}), IsEmpty());
 }
 
-TEST_F(SearchFiltersTest, SearchingAgainGivesTheSameRows)
-{
-    b.Team(1, "A", {6, 5, 4, 3});
-    EXPECT_THAT(Search(game, {.team = 1}), ElementsAre(6, 5, 4, 3));
-    EXPECT_THAT(Search(game, {.team = 1, .batPosition = 1}), ElementsAre(6, 4));
-    EXPECT_THAT(Search(game, {.team = 1, .batPosition = 1}), ElementsAre(6, 4));
-    // Nothing of a wider earlier search lingers in any table.
-    for (const WorkingTable* table : {&game.ClubMatches, &game.CountryMatches, &game.BatMatches,
-                                      &game.BowlMatches, &game.FieldMatches})
-        EXPECT_EQ((*table)[5], PlayerRecord{});
-}
-
 }  // namespace

@@ -147,9 +147,6 @@ TEST_F(SquadTest, DeletingLeavesThePlayerWithoutATeam)
     EXPECT_EQ(game.Players[2].teamNumber, 0);
     EXPECT_FALSE(IsInSquad(game, 1, 2));
     EXPECT_TRUE(IsInSquad(game, 1, 3));
-    // He can join the squad he left again.
-    AddToSquad(game, 1, 2);
-    EXPECT_THAT(Places(game.Teams[1]), ElementsAre(1, 3, 2));
 }
 
 TEST_F(SquadTest, NumbersOutsideTheTablesAreNeverTransferred)
