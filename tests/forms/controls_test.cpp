@@ -140,9 +140,7 @@ TEST(PictureBox, LeftReleaseInsideClicks)
     QPixmap picture(8, 8);
     picture.fill(Qt::darkGreen);
     PictureBox box(picture);
-    box.resize(40, 40);
-    box.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&box));
+    ShowFocused(box);
     QSignalSpy clicks(&box, &PictureBox::Click);
     QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(20, 20));
     QTest::mouseClick(&box, Qt::RightButton, {}, QPoint(20, 20));
