@@ -21,13 +21,23 @@ enum PlayerLine {
     BowlEconomyLine, FieldAbilityLine, FieldsAtLine, PotentialLine, CarriedValueLine,
 };
 // Lines of a team record.
-enum TeamLine { TeamNameLine = 2, AbbreviationLine, TeamCountryLine, ReputationLine, TeamNumberLine = 8 };
+enum TeamLine { TeamNameLine = 2, AbbreviationLine, TeamCountryLine, ReputationLine };
 
 // A player every check accepts: valid codes, values inside their ranges.
 inline Lines PlayerRecordLines(int number, const std::string& surname = "Mardle", int team = 0)
 {
     return {std::to_string(number), "#", "R J#", surname + "#", "12", "5", "1980", "2", std::to_string(team),
             "3", "0", "30", "10", "7", "1", "12", "6", "25", "3", "11", "0"};
+}
+
+// Players 1, 2, ... named Arlow, Brenick, ..., each in the team given for him (0: none).
+inline Lines Players(const std::vector<int>& teams)
+{
+    static const char* const surnames[] = {"Arlow", "Brenick", "Corvane", "Dunmore", "Elkin", "Farrow", "Garnet"};
+    Lines lines;
+    for (std::size_t i = 0; i < teams.size(); ++i)
+        lines = Cat(lines, PlayerRecordLines(static_cast<int>(i) + 1, surnames[i], teams[i]));
+    return lines;
 }
 
 inline Lines TeamRecordLines(const std::string& name, int number, const std::vector<int>& squad = {},
@@ -40,11 +50,17 @@ inline Lines TeamRecordLines(const std::string& name, int number, const std::vec
     return lines;
 }
 
-// `record` with line `line` (from 1) replaced.
-inline Lines With(Lines record, int line, const std::string& text)
+// `lines` with line `line` (from 1) replaced.
+inline Lines With(Lines lines, int line, const std::string& text)
 {
-    record.at(line - 1) = text;
-    return record;
+    lines.at(line - 1) = text;
+    return lines;
+}
+
+// Line `line` of player `number` among players 1, 2, ... written in a row.
+constexpr int OfPlayer(int number, int line)
+{
+    return (number - 1) * 21 + line;
 }
 
 // The files of a player file and a team file, each with its closing empty lines.
@@ -99,17 +115,13 @@ protected:
     void TearDown() override
     {
         std::error_code ignored;
-        for (const fs::path& dir : made_)
-            fs::remove_all(dir, ignored);
+        fs::remove_all(root_, ignored);
     }
 
     fs::path NewFolder(const std::string& name)
     {
-        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-        const fs::path dir = fs::temp_directory_path() / ("kolta-cli-" + std::string(test->name()) + "-" + name +
-                                                          "-" + std::to_string(std::random_device{}()));
+        const fs::path dir = root_ / (name + std::to_string(++folders_));
         fs::create_directories(dir);
-        made_.push_back(dir);
         return dir;
     }
 
@@ -122,13 +134,29 @@ protected:
         return dir;
     }
 
-    fs::path SampleCopy(const std::string& name = "sample")
+    // A game folder of these records, each file closed as the game closes it.
+    fs::path GameOf(const Lines& players, const Lines& teams, const std::string& name = "game")
     {
-        const fs::path dir = NewFolder(name);
+        return GameFolder(PlayersBytes(players), TeamsBytes(teams), name);
+    }
+
+    fs::path SampleCopy()
+    {
+        const fs::path dir = NewFolder("sample");
         fs::copy(KOLTA_SAMPLE, dir, fs::copy_options::recursive);
         return dir;
     }
 
+    // Exports `game` into a new folder and returns that folder.
+    fs::path Export(const fs::path& game)
+    {
+        const fs::path csv = NewFolder("csv");
+        const ToolRun run = RunTool({"export", game, csv});
+        EXPECT_EQ(run.code, 0) << run.err;
+        return csv;
+    }
+
 private:
-    std::vector<fs::path> made_;
+    const fs::path root_ = fs::temp_directory_path() / ("kolta-cli-" + std::to_string(std::random_device{}()));
+    int folders_ = 0;
 };

@@ -1,3 +1,7 @@
+#include <functional>
+#include <ranges>
+#include <span>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -5,131 +9,261 @@
 #include "data/players_file.h"
 #include "data/teams_file.h"
 
-using testing::AllOf;
+using testing::ElementsAreArray;
 using testing::HasSubstr;
-using testing::Not;
+using testing::IsEmpty;
 
 namespace {
 
+// The rows of a CSV file, without their line ends.
+Lines CsvRows(const std::string& csv)
+{
+    Lines rows;
+    for (std::size_t start = 0, end; (end = csv.find("\r\n", start)) != std::string::npos; start = end + 2)
+        rows.push_back(csv.substr(start, end - start));
+    return rows;
+}
+
 class ExportImport : public CliTest {
 protected:
-    // A copy of `game` in which every value and name of every record differs.
+    // A copy of `game` in which every value, name and squad of every record differs.
     fs::path ScrambledCopy(const fs::path& game)
     {
         auto loaded = NewGame();
         ReadPlayers(*loaded, FileBytes(game / "players.dat"));
         ReadTeams(*loaded, FileBytes(game / "teams.dat"));
-        for (int i = 1; i <= loaded->PlayerCount; ++i) {
-            PlayerRecord& player = loaded->Players[i];
-            player.initials += "Q";
-            player.surname = "Zz" + player.surname;
-            for (std::int16_t* field : {&player.birthDay, &player.birthMonth, &player.birthYear, &player.homeCountry,
-                                        &player.teamNumber, &player.batPosition, &player.bats, &player.batSkill,
-                                        &player.batAggression, &player.bowlType, &player.bowls, &player.bowlSkill,
-                                        &player.bowlEconomy, &player.fieldAbility, &player.fieldsAt,
-                                        &player.potential, &player.carriedValue})
+        for (PlayerRecord& p : std::span(loaded->Players).subspan(1, loaded->PlayerCount)) {
+            p.initials += "Q";
+            p.surname = "Zz" + p.surname;
+            for (std::int16_t* field : {&p.birthDay, &p.birthMonth, &p.birthYear, &p.homeCountry, &p.teamNumber,
+                                        &p.batPosition, &p.bats, &p.batSkill, &p.batAggression, &p.bowlType,
+                                        &p.bowls, &p.bowlSkill, &p.bowlEconomy, &p.fieldAbility, &p.fieldsAt,
+                                        &p.potential, &p.carriedValue})
                 ++*field;
         }
-        for (int i = 1; i <= LoadedTeamCount(*loaded); ++i) {
-            TeamRecord& team = loaded->Teams[i];
-            team.teamName += " Old";
-            team.abbreviation = "X" + team.abbreviation;
-            for (std::int16_t* field : {&team.homeCountry, &team.reputation, &team.wealth, &team.support})
+        for (TeamRecord& t : std::span(loaded->Teams).subspan(1, LoadedTeamCount(*loaded))) {
+            t.teamName += " Old";
+            t.abbreviation = "X" + t.abbreviation;
+            for (std::int16_t* field : {&t.homeCountry, &t.reputation, &t.wealth, &t.support})
                 ++*field;
-            std::reverse(team.squad.begin() + 1, team.squad.end());
+            std::reverse(t.squad.begin() + 1, t.squad.end());
         }
         return GameFolder(WritePlayers(*loaded), WriteTeams(*loaded), "scrambled");
     }
 
-    // Exports `from`, imports the CSV files into `into`, and expects the files of both to agree byte for byte.
-    void ExpectRoundTrip(const fs::path& from, const fs::path& into)
+    // Imports the export of `game` into a scrambled copy of it, which must come out byte for byte the same.
+    void ExpectRoundTrip(const fs::path& game, const fs::path& csv)
     {
-        const fs::path csv = NewFolder("csv");
-        ASSERT_EQ(RunTool({"export", from.string(), csv.string()}).code, 0);
-        const ToolRun imported = RunTool({"import", into.string(), csv.string()});
+        const fs::path into = ScrambledCopy(game);
+        const std::string scrambled = FileBytes(into / "players.dat");
+        const ToolRun imported = RunTool({"import", into, csv});
         ASSERT_EQ(imported.code, 0) << imported.err;
-        EXPECT_EQ(FileBytes(into / "players.dat"), FileBytes(from / "players.dat"));
-        EXPECT_EQ(FileBytes(into / "teams.dat"), FileBytes(from / "teams.dat"));
+        EXPECT_EQ(FileBytes(into / "players.dat"), FileBytes(game / "players.dat"));
+        EXPECT_EQ(FileBytes(into / "teams.dat"), FileBytes(game / "teams.dat"));
+        EXPECT_EQ(FileBytes(into / "players.dat.bak"), scrambled);
     }
 };
 
 TEST_F(ExportImport, SampleGameComesBackByteForByte)
 {
     const fs::path sample = SampleCopy();
-    const fs::path scrambled = ScrambledCopy(sample);
-    const std::string scrambledPlayers = FileBytes(scrambled / "players.dat");
-    ExpectRoundTrip(sample, scrambled);
-    // The save kept what it replaced.
-    EXPECT_EQ(FileBytes(scrambled / "players.dat.bak"), scrambledPlayers);
-    EXPECT_EQ(RunTool({"check", scrambled.string()}).code, 0);
+    const fs::path csv = Export(sample);
+    const ToolRun unchanged = RunTool({"import", sample, csv});
+    EXPECT_EQ(unchanged.code, 0);
+    EXPECT_EQ(unchanged.out, "Nothing to change.\n");
+    EXPECT_FALSE(fs::exists(sample / "players.dat.bak"));
+    ExpectRoundTrip(sample, csv);
 }
 
 TEST_F(ExportImport, WindowsNamesComeBackByteForByte)
 {
     // é, €, the undefined 0x81, Ÿ, a double quote and a "#" inside a name, a
     // blank at the end of a surname, no initials.
-    const Lines players =
-        Cat(With(PlayerRecordLines(1, "Ch\xE9ron \x80", 1), InitialsLine, "\x81\x9F#"),
-            With(PlayerRecordLines(2, "Mac\"Dee#Two ", 1), InitialsLine, "#"),
-            PlayerRecordLines(3, "O'Rourke"));
+    const Lines players = Cat(With(PlayerRecordLines(1, "Ch\xE9ron \x80", 1), InitialsLine, "\x81\x9F#"),
+                              With(PlayerRecordLines(2, "Mac\"Dee#Two ", 1), InitialsLine, "#"),
+                              PlayerRecordLines(3, "O'Rourke"));
     const Lines teams = With(With(TeamRecordLines("Z\xFCrich Zebras", 1, {1, 2}), AbbreviationLine, "Z\xDF#"),
                              ReputationLine, "-7");
-    const fs::path game = GameFolder(PlayersBytes(players), TeamsBytes(teams));
-
-    const fs::path csv = NewFolder("csv");
-    ASSERT_EQ(RunTool({"export", game.string(), csv.string()}).code, 0);
+    const fs::path game = GameOf(players, teams);
+    const fs::path csv = Export(game);
     const std::string playersCsv = FileBytes(csv / "players.csv");
     EXPECT_THAT(playersCsv, HasSubstr("1,\xC2\x81\xC5\xB8,Ch\xC3\xA9ron \xE2\x82\xAC,"));
     EXPECT_THAT(playersCsv, HasSubstr("2,,\"Mac\"\"Dee#Two \","));
     EXPECT_THAT(FileBytes(csv / "teams.csv"), HasSubstr("1,Z\xC3\xBCrich Zebras,Z\xC3\x9F,2,England,-7,"));
-
-    const Lines blanked = Cat(PlayerRecordLines(1, "A", 1), PlayerRecordLines(2, "B", 1), PlayerRecordLines(3));
-    const fs::path into = GameFolder(PlayersBytes(blanked), TeamsBytes(TeamRecordLines("Y", 1, {1, 2})), "into");
-    ExpectRoundTrip(game, into);
-}
-
-TEST_F(ExportImport, AnUnchangedImportWritesNothing)
-{
-    const fs::path game = SampleCopy();
-    const fs::path csv = NewFolder("csv");
-    ASSERT_EQ(RunTool({"export", game.string(), csv.string()}).code, 0);
-    const ToolRun run = RunTool({"import", game.string(), csv.string()});
-    EXPECT_EQ(run.code, 0);
-    EXPECT_EQ(run.out, "Nothing to change.\n");
-    EXPECT_FALSE(fs::exists(game / "players.dat.bak"));
+    ExpectRoundTrip(game, csv);
 }
 
 TEST_F(ExportImport, ExportOfOneTeamOrCountry)
 {
-    const Lines players = Cat(PlayerRecordLines(1, "Arlow", 2), With(PlayerRecordLines(2, "Brenick", 1), NationLine, "3"),
-                              With(PlayerRecordLines(3, "Corvane", 2), NationLine, "3"), PlayerRecordLines(4, "Dunmore"));
-    const Lines teams = Cat(TeamRecordLines("Ashby", 1, {2}, 3), TeamRecordLines("Bexley", 2, {3, 1}));
-    const fs::path game = GameFolder(PlayersBytes(players), TeamsBytes(teams));
+    const Lines players = With(With(Players({2, 1, 2, 0}), OfPlayer(2, NationLine), "3"), OfPlayer(3, NationLine), "3");
+    const fs::path game = GameOf(players, Cat(TeamRecordLines("Ashby", 1, {2}, 3), TeamRecordLines("Bexley", 2, {3, 1})));
+    // The numbers that start the rows of both files.
     const auto exported = [&](const std::string& option, const std::string& value) {
         const fs::path csv = NewFolder("csv");
-        const ToolRun run = RunTool({"export", option, value, game.string(), csv.string()});
-        EXPECT_EQ(run.code, 0) << run.err;
-        return std::pair(FileBytes(csv / "players.csv"), FileBytes(csv / "teams.csv"));
+        EXPECT_EQ(RunTool({"export", option, value, game, csv}).code, 0);
+        std::string numbers;
+        for (const char* file : {"players.csv", "teams.csv"}) {
+            for (const std::string& row : CsvRows(FileBytes(csv / file)) | std::views::drop(1))
+                numbers += row.substr(0, row.find(',')) + " ";
+            numbers += "| ";
+        }
+        return numbers;
     };
-    const auto rowsOf = [](const std::string& csv) {
-        std::vector<std::string> keys;
-        for (std::size_t at = csv.find("\r\n"); at + 2 < csv.size(); at = csv.find("\r\n", at + 2))
-            keys.push_back(csv.substr(at + 2, csv.find(',', at + 2) - at - 2));
-        return keys;
-    };
-
-    const auto [teamPlayers, teamTeams] = exported("--team", "2");
-    EXPECT_THAT(rowsOf(teamPlayers), testing::ElementsAre("1", "3"));
-    EXPECT_THAT(rowsOf(teamTeams), testing::ElementsAre("2"));
-    const auto [countryPlayers, countryTeams] = exported("--country", "india");
-    EXPECT_THAT(rowsOf(countryPlayers), testing::ElementsAre("2", "3"));
-    EXPECT_THAT(rowsOf(countryTeams), testing::ElementsAre("1"));
-
+    EXPECT_EQ(exported("--team", "2"), "1 3 | 2 | ");
+    EXPECT_EQ(exported("--country", "india"), "2 3 | 1 | ");
     for (const auto& [option, value] : {std::pair("--team", "3"), std::pair("--country", "Atlantis")}) {
-        const ToolRun refused = RunTool({"export", option, value, game.string(), NewFolder("csv").string()});
+        const ToolRun refused = RunTool({"export", option, value, game, NewFolder("csv")});
         EXPECT_EQ(refused.code, 2) << option;
         EXPECT_THAT(refused.err, HasSubstr(value)) << option;
     }
+}
+
+// Columns of players.csv and teams.csv.
+constexpr int SurnameColumn = 2;
+constexpr int BatSkillColumn = 13;
+constexpr int ReputationColumn = 5;
+constexpr int Squad1Column = 8;
+
+// Cell `column` (from 0) of `row` set to `cell`.
+void Set(std::string& row, int column, const std::string& cell)
+{
+    std::size_t start = 0;
+    for (int i = 0; i < column; ++i)
+        start = row.find(',', start) + 1;
+    row.replace(start, row.find(',', start) - start, cell);
+}
+
+// A game of three players, two in team 1, and the rows of the CSV files exported from it.
+class Import : public CliTest {
+protected:
+    using Edit = std::function<void(Lines& players, Lines& teams)>;
+
+    void SetUp() override
+    {
+        game_ = GameOf(Players({1, 1, 0}), Cat(TeamRecordLines("Ashby", 1, {1, 2}), TeamRecordLines("Bexley", 2)));
+        csv_ = Export(game_);
+        exported_ = {CsvRows(FileBytes(csv_ / "players.csv")), CsvRows(FileBytes(csv_ / "teams.csv"))};
+        dat_ = {FileBytes(game_ / "players.dat"), FileBytes(game_ / "teams.dat")};
+    }
+
+    // Imports the exported rows once `edit` has changed them.
+    ToolRun ImportEdited(const Edit& edit, const std::string& option = "--")
+    {
+        auto [players, teams] = exported_;
+        edit(players, teams);
+        WriteBytes(csv_ / "players.csv", Join(players));
+        WriteBytes(csv_ / "teams.csv", Join(teams));
+        return RunTool({"import", option, game_, csv_});
+    }
+
+    void ExpectGameUntouched() const
+    {
+        EXPECT_EQ(FileBytes(game_ / "players.dat"), dat_.first);
+        EXPECT_EQ(FileBytes(game_ / "teams.dat"), dat_.second);
+        EXPECT_FALSE(fs::exists(game_ / "players.dat.bak"));
+    }
+
+    fs::path game_;
+    fs::path csv_;
+    std::pair<Lines, Lines> exported_;
+    std::pair<std::string, std::string> dat_;
+};
+
+TEST_F(Import, AnyWrongRowRefusesTheWholeImportAndIsListedByItsLine)
+{
+    struct Case {
+        Import::Edit edit;
+        std::vector<std::string> places;
+        std::string says;
+    };
+    const std::vector<Case> cases{
+        {[](Lines& p, Lines&) {
+             Set(p[1], BatSkillColumn, "55");  // a good edit that must not land either
+             Set(p[2], BatSkillColumn, "40000");
+         },
+         {"players.csv:3"}, "batSkill \"40000\""},
+        {[](Lines& p, Lines& t) {
+             p.push_back(p[3]);
+             Set(p.back(), 0, "7");  // skips number 4
+             p.push_back(p[3]);
+             Set(p.back(), 0, "2001");  // beyond the table
+             p.push_back("9,too,few");
+             Set(p[1], SurnameColumn, "\"Ar,low\"");
+             Set(p[2], BatSkillColumn, "4.5");
+             Set(p[3], SurnameColumn, "\xFF\xFE");  // no UTF-8
+             t.push_back(t[2]);
+             Set(t.back(), 0, "501");
+             Set(t[2], ReputationColumn, "x");
+         },
+         {"players.csv:2", "players.csv:3", "players.csv:4", "players.csv:5", "players.csv:6", "players.csv:7",
+          "teams.csv:3", "teams.csv:4"},
+         "nothing was changed (8 faults)"},
+        {[](Lines& p, Lines&) {
+             p[0] += ",shoeSize";
+             for (std::size_t row = 1; row < p.size(); ++row)
+                 p[row] += ",44";
+         },
+         {"players.csv:1"}, "shoeSize"},
+        {[](Lines&, Lines& t) {
+             t[0] += ",squad21";
+             t[1] += ",3";
+             t[2] += ",0";
+         },
+         {"teams.csv:2"}, "squad21"},
+        // Player 1 put into team 2 without leaving team 1.
+        {[](Lines&, Lines& t) { Set(t[2], Squad1Column, "1"); }, {"teams.csv:2", "teams.csv:3"},
+         "also stands in the squad of team 1"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.says);
+        const ToolRun run = ImportEdited(c.edit);
+        EXPECT_EQ(run.code, 1);
+        std::vector<std::string> places;  // "players.csv:4" for each fault listed
+        std::istringstream err(run.err);
+        for (std::string line; std::getline(err, line);) {
+            if (line.find(".csv:") != std::string::npos)
+                places.push_back(line.substr(0, line.find(": ")));
+        }
+        EXPECT_THAT(places, ElementsAreArray(c.places)) << run.err;
+        EXPECT_THAT(run.err, HasSubstr(c.says));
+        EXPECT_THAT(run.out, IsEmpty());
+        ExpectGameUntouched();
+    }
+}
+
+TEST_F(Import, DryRunListsTheChangesAndSavesNothing)
+{
+    const ToolRun run = ImportEdited([](Lines& p, Lines&) { Set(p[2], SurnameColumn, "Brenwick"); }, "--dry-run");
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_EQ(run.out, "player 2 (R J Brenwick): surname \"Brenick\" -> \"Brenwick\"\n"
+                       "Dry run: nothing was saved (1 changes).\n");
+    ExpectGameUntouched();
+}
+
+TEST_F(Import, NewPlayersTakeTheNextNumbersAndFollowTheirSquads)
+{
+    const ToolRun run = ImportEdited([](Lines& p, Lines& t) {
+        p.push_back(p[3]);
+        Set(p.back(), 0, "");
+        Set(p.back(), SurnameColumn, "Dunmore");
+        p.push_back(p[3]);
+        Set(p.back(), 0, "5");
+        Set(p.back(), SurnameColumn, "Elkin");
+        // Team 1 goes from 1, 2 to 1, 4; team 2 from nobody to 3, 2.
+        Set(t[1], Squad1Column + 1, "4");
+        Set(t[2], Squad1Column, "3");
+        Set(t[2], Squad1Column + 1, "2");
+    });
+    ASSERT_EQ(run.code, 0) << run.err;
+    for (const char* line : {"player 4 (R J Dunmore) added\n", "player 5 (R J Elkin) added\n",
+                             "player 2 (R J Brenick): teamNumber 1 -> 2\n",
+                             "player 2 (R J Brenick) moved from team 1 (Ashby) to team 2 (Bexley)\n",
+                             "player 3 (R J Corvane): teamNumber 0 -> 2\n",
+                             "player 4 (R J Dunmore) joined team 1 (Ashby)\n"})
+        EXPECT_THAT(run.out, HasSubstr(line));
+    EXPECT_EQ(FileBytes(game_ / "teams.dat.bak"), dat_.second);
+    EXPECT_EQ(RunTool({"check", game_}).out, "0 errors, 0 warnings\n");
+    EXPECT_THAT(RunTool({"info", game_}).out, HasSubstr("PlayerCount=5\nTeamCount=4\n"));
 }
 
 }  // namespace
