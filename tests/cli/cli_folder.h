@@ -74,20 +74,20 @@ inline std::string TeamsBytes(const Lines& records)
     return Join(Cat(records, EmptyLines(20)));
 }
 
+// The lines of a text, without their line ends (LF or CR LF).
+inline Lines SplitLines(const std::string& text)
+{
+    Lines lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);)
+        lines.push_back(line.ends_with('\r') ? line.substr(0, line.size() - 1) : line);
+    return lines;
+}
+
 struct ToolRun {
     int code = -1;
     std::string out;
     std::string err;
-
-    // The output as lines, without their line ends.
-    std::vector<std::string> OutLines() const
-    {
-        std::vector<std::string> lines;
-        std::istringstream in(out);
-        for (std::string line; std::getline(in, line);)
-            lines.push_back(line);
-        return lines;
-    }
 };
 
 inline ToolRun RunTool(const std::vector<std::string>& args)

@@ -27,7 +27,7 @@ TEST_F(Diff, RecordByRecordAndFieldByField)
 
     const ToolRun run = RunTool({"diff", before, after});
     EXPECT_EQ(run.code, 1);
-    EXPECT_THAT(run.OutLines(),
+    EXPECT_THAT(SplitLines(run.out),
                 ElementsAre("player 2 (R J Brenick): teamNumber 1 -> 2",
                             "player 3 (R J Corvane): teamNumber 1 -> 0",
                             "player 4 (R J Dunmoore): surname \"Dunmore\" -> \"Dunmoore\"",
@@ -40,13 +40,10 @@ TEST_F(Diff, RecordByRecordAndFieldByField)
                             "player 2 (R J Brenick) moved from team 1 (Ashby) to team 2 (Bexley)",
                             "player 3 (R J Corvane) left team 1 (Ashby)"));
 
-    const auto json = RunTool({"diff", "--json", before, after}).OutLines();
+    const Lines json = SplitLines(RunTool({"diff", "--json", before, after}).out);
     ASSERT_EQ(json.size(), 11u);
-    EXPECT_EQ(json[1], R"({"change":"changed","file":"players.dat","record":3,"field":"teamNumber","from":"1","to":"0",)"
-                       R"j("text":"player 3 (R J Corvane): teamNumber 1 -> 0"})j");
     EXPECT_EQ(json[9], R"({"change":"moved","file":"players.dat","record":2,"field":"squad","from":"1","to":"2",)"
                        R"j("text":"player 2 (R J Brenick) moved from team 1 (Ashby) to team 2 (Bexley)"})j");
-
     EXPECT_THAT(RunTool({"diff", after, before}).out, HasSubstr("player 7 (R J Garnet) removed\n"));
 }
 

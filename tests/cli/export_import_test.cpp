@@ -1,13 +1,11 @@
 #include <functional>
 #include <ranges>
-#include <span>
+#include <set>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "cli_folder.h"
-#include "data/players_file.h"
-#include "data/teams_file.h"
 
 using testing::ElementsAreArray;
 using testing::HasSubstr;
@@ -15,40 +13,22 @@ using testing::IsEmpty;
 
 namespace {
 
-// The rows of a CSV file, without their line ends.
-Lines CsvRows(const std::string& csv)
-{
-    Lines rows;
-    for (std::size_t start = 0, end; (end = csv.find("\r\n", start)) != std::string::npos; start = end + 2)
-        rows.push_back(csv.substr(start, end - start));
-    return rows;
-}
-
 class ExportImport : public CliTest {
 protected:
-    // A copy of `game` in which every value, name and squad of every record differs.
+    // A copy of `game` in which every name and number of every record differs, squads included.
     fs::path ScrambledCopy(const fs::path& game)
     {
-        auto loaded = NewGame();
-        ReadPlayers(*loaded, FileBytes(game / "players.dat"));
-        ReadTeams(*loaded, FileBytes(game / "teams.dat"));
-        for (PlayerRecord& p : std::span(loaded->Players).subspan(1, loaded->PlayerCount)) {
-            p.initials += "Q";
-            p.surname = "Zz" + p.surname;
-            for (std::int16_t* field : {&p.birthDay, &p.birthMonth, &p.birthYear, &p.homeCountry, &p.teamNumber,
-                                        &p.batPosition, &p.bats, &p.batSkill, &p.batAggression, &p.bowlType,
-                                        &p.bowls, &p.bowlSkill, &p.bowlEconomy, &p.fieldAbility, &p.fieldsAt,
-                                        &p.potential, &p.carriedValue})
-                ++*field;
-        }
-        for (TeamRecord& t : std::span(loaded->Teams).subspan(1, LoadedTeamCount(*loaded))) {
-            t.teamName += " Old";
-            t.abbreviation = "X" + t.abbreviation;
-            for (std::int16_t* field : {&t.homeCountry, &t.reputation, &t.wealth, &t.support})
-                ++*field;
-            std::reverse(t.squad.begin() + 1, t.squad.end());
-        }
-        return GameFolder(WritePlayers(*loaded), WriteTeams(*loaded), "scrambled");
+        // Lines of each record left alone: numbers and lines the load drops.
+        const auto scramble = [](const std::string& bytes, std::size_t recordLines, std::set<std::size_t> kept) {
+            Lines lines = SplitLines(bytes);
+            for (std::size_t i = 0; i < lines.size(); ++i) {
+                if (!lines[i].empty() && !kept.contains(i % recordLines))
+                    lines[i] = std::isdigit(lines[i].back()) ? std::to_string(std::stoi(lines[i]) + 1) : "Q" + lines[i];
+            }
+            return Join(lines);
+        };
+        return GameFolder(scramble(FileBytes(game / "players.dat"), 21, {0, 1}),
+                          scramble(FileBytes(game / "teams.dat"), 30, {0, 7, 8, 9}), "scrambled");
     }
 
     // Imports the export of `game` into a scrambled copy of it, which must come out byte for byte the same.
@@ -96,14 +76,15 @@ TEST_F(ExportImport, WindowsNamesComeBackByteForByte)
 TEST_F(ExportImport, ExportOfOneTeamOrCountry)
 {
     const Lines players = With(With(Players({2, 1, 2, 0}), OfPlayer(2, NationLine), "3"), OfPlayer(3, NationLine), "3");
-    const fs::path game = GameOf(players, Cat(TeamRecordLines("Ashby", 1, {2}, 3), TeamRecordLines("Bexley", 2, {3, 1})));
+    const fs::path game =
+        GameOf(players, Cat(TeamRecordLines("Ashby", 1, {2}, 3), TeamRecordLines("Bexley", 2, {3, 1})));
     // The numbers that start the rows of both files.
     const auto exported = [&](const std::string& option, const std::string& value) {
         const fs::path csv = NewFolder("csv");
         EXPECT_EQ(RunTool({"export", option, value, game, csv}).code, 0);
         std::string numbers;
         for (const char* file : {"players.csv", "teams.csv"}) {
-            for (const std::string& row : CsvRows(FileBytes(csv / file)) | std::views::drop(1))
+            for (const std::string& row : SplitLines(FileBytes(csv / file)) | std::views::drop(1))
                 numbers += row.substr(0, row.find(',')) + " ";
             numbers += "| ";
         }
@@ -111,11 +92,8 @@ TEST_F(ExportImport, ExportOfOneTeamOrCountry)
     };
     EXPECT_EQ(exported("--team", "2"), "1 3 | 2 | ");
     EXPECT_EQ(exported("--country", "india"), "2 3 | 1 | ");
-    for (const auto& [option, value] : {std::pair("--team", "3"), std::pair("--country", "Atlantis")}) {
-        const ToolRun refused = RunTool({"export", option, value, game, NewFolder("csv")});
-        EXPECT_EQ(refused.code, 2) << option;
-        EXPECT_THAT(refused.err, HasSubstr(value)) << option;
-    }
+    EXPECT_EQ(RunTool({"export", "--team", "3", game, NewFolder("csv")}).code, 2);
+    EXPECT_EQ(RunTool({"export", "--country", "Atlantis", game, NewFolder("csv")}).code, 2);
 }
 
 // Columns of players.csv and teams.csv.
@@ -125,12 +103,19 @@ constexpr int ReputationColumn = 5;
 constexpr int Squad1Column = 8;
 
 // Cell `column` (from 0) of `row` set to `cell`.
-void Set(std::string& row, int column, const std::string& cell)
+std::string& Set(std::string& row, int column, const std::string& cell)
 {
     std::size_t start = 0;
     for (int i = 0; i < column; ++i)
         start = row.find(',', start) + 1;
-    row.replace(start, row.find(',', start) - start, cell);
+    return row.replace(start, row.find(',', start) - start, cell);
+}
+
+// A copy of row `from` added after the last, numbered `number`.
+std::string& AddRow(Lines& rows, std::size_t from, const std::string& number)
+{
+    rows.push_back(rows[from]);
+    return Set(rows.back(), 0, number);
 }
 
 // A game of three players, two in team 1, and the rows of the CSV files exported from it.
@@ -142,7 +127,7 @@ protected:
     {
         game_ = GameOf(Players({1, 1, 0}), Cat(TeamRecordLines("Ashby", 1, {1, 2}), TeamRecordLines("Bexley", 2)));
         csv_ = Export(game_);
-        exported_ = {CsvRows(FileBytes(csv_ / "players.csv")), CsvRows(FileBytes(csv_ / "teams.csv"))};
+        exported_ = {SplitLines(FileBytes(csv_ / "players.csv")), SplitLines(FileBytes(csv_ / "teams.csv"))};
         dat_ = {FileBytes(game_ / "players.dat"), FileBytes(game_ / "teams.dat")};
     }
 
@@ -177,39 +162,28 @@ TEST_F(Import, AnyWrongRowRefusesTheWholeImportAndIsListedByItsLine)
         std::string says;
     };
     const std::vector<Case> cases{
-        {[](Lines& p, Lines&) {
-             Set(p[1], BatSkillColumn, "55");  // a good edit that must not land either
-             Set(p[2], BatSkillColumn, "40000");
-         },
+        // The good edit of row 2 must not land either.
+        {[](Lines& p, Lines&) { Set(p[1], BatSkillColumn, "55"); Set(p[2], BatSkillColumn, "40000"); },
          {"players.csv:3"}, "batSkill \"40000\""},
         {[](Lines& p, Lines& t) {
-             p.push_back(p[3]);
-             Set(p.back(), 0, "7");  // skips number 4
-             p.push_back(p[3]);
-             Set(p.back(), 0, "2001");  // beyond the table
+             AddRow(p, 3, "7");  // skips number 4
+             AddRow(p, 3, "2001");
              p.push_back("9,too,few");
              Set(p[1], SurnameColumn, "\"Ar,low\"");
              Set(p[2], BatSkillColumn, "4.5");
              Set(p[3], SurnameColumn, "\xFF\xFE");  // no UTF-8
-             t.push_back(t[2]);
-             Set(t.back(), 0, "501");
+             AddRow(t, 2, "501");
              Set(t[2], ReputationColumn, "x");
          },
          {"players.csv:2", "players.csv:3", "players.csv:4", "players.csv:5", "players.csv:6", "players.csv:7",
           "teams.csv:3", "teams.csv:4"},
          "nothing was changed (8 faults)"},
         {[](Lines& p, Lines&) {
-             p[0] += ",shoeSize";
-             for (std::size_t row = 1; row < p.size(); ++row)
-                 p[row] += ",44";
+             for (std::string& row : p)
+                 row += row.starts_with("playerNumber") ? ",shoeSize" : ",44";
          },
          {"players.csv:1"}, "shoeSize"},
-        {[](Lines&, Lines& t) {
-             t[0] += ",squad21";
-             t[1] += ",3";
-             t[2] += ",0";
-         },
-         {"teams.csv:2"}, "squad21"},
+        {[](Lines&, Lines& t) { t[0] += ",squad21"; t[1] += ",3"; t[2] += ",0"; }, {"teams.csv:2"}, "squad21"},
         // Player 1 put into team 2 without leaving team 1.
         {[](Lines&, Lines& t) { Set(t[2], Squad1Column, "1"); }, {"teams.csv:2", "teams.csv:3"},
          "also stands in the squad of team 1"},
@@ -243,12 +217,8 @@ TEST_F(Import, DryRunListsTheChangesAndSavesNothing)
 TEST_F(Import, NewPlayersTakeTheNextNumbersAndFollowTheirSquads)
 {
     const ToolRun run = ImportEdited([](Lines& p, Lines& t) {
-        p.push_back(p[3]);
-        Set(p.back(), 0, "");
-        Set(p.back(), SurnameColumn, "Dunmore");
-        p.push_back(p[3]);
-        Set(p.back(), 0, "5");
-        Set(p.back(), SurnameColumn, "Elkin");
+        Set(AddRow(p, 3, ""), SurnameColumn, "Dunmore");
+        Set(AddRow(p, 3, "5"), SurnameColumn, "Elkin");
         // Team 1 goes from 1, 2 to 1, 4; team 2 from nobody to 3, 2.
         Set(t[1], Squad1Column + 1, "4");
         Set(t[2], Squad1Column, "3");
