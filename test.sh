@@ -1,17 +1,22 @@
 #!/usr/bin/env bash
-# Sets up a fresh Debian machine, builds, and runs every test; then runs each
-# fuzz target over its seed corpus and a few seconds of new inputs.
+# Sets up a fresh Debian machine, builds, and runs every test; runs them all
+# again built with AddressSanitizer and UndefinedBehaviorSanitizer; then runs
+# each fuzz target over its seed corpus and a few seconds of new inputs.
 source "$(dirname "$0")/tools/setup.sh"
 kolta_install_missing
 kolta_build
 (cd "$KOLTA_BUILD" && ctest --output-on-failure -j "$(nproc)")
+
+sanitized_build="${KOLTA_SANITIZE_BUILD:-$KOLTA_ROOT/build-asan}"
+KOLTA_BUILD="$sanitized_build" kolta_build -DKOLTA_SANITIZE=ON
+(cd "$sanitized_build" && ctest --output-on-failure -j "$(nproc)")
 
 if ! kolta_fuzz_available; then
   echo "clang is not available: the fuzz targets are not run."
   exit 0
 fi
 fuzz_build="${KOLTA_FUZZ_BUILD:-$KOLTA_ROOT/build-fuzz}"
-kolta_build_fuzz "$fuzz_build" >/dev/null
+kolta_build_fuzz "$fuzz_build"
 for name in $(kolta_fuzz_targets); do
   log="$fuzz_build/$name.log"
   work="$fuzz_build/corpus/$name"
