@@ -105,7 +105,6 @@ inline std::string FileBytes(const fs::path& path)
 
 inline void WriteBytes(const fs::path& path, const std::string& bytes)
 {
-    fs::create_directories(path.parent_path());
     ASSERT_TRUE(ReplaceFile(path.string(), bytes).ok()) << path;
 }
 
@@ -126,18 +125,18 @@ protected:
     }
 
     // A game folder holding exactly these bytes.
-    fs::path GameFolder(const std::string& players, const std::string& teams, const std::string& name = "game")
+    fs::path GameFolder(const std::string& players, const std::string& teams)
     {
-        const fs::path dir = NewFolder(name);
+        const fs::path dir = NewFolder("game");
         WriteBytes(dir / "players.dat", players);
         WriteBytes(dir / "teams.dat", teams);
         return dir;
     }
 
     // A game folder of these records, each file closed as the game closes it.
-    fs::path GameOf(const Lines& players, const Lines& teams, const std::string& name = "game")
+    fs::path GameOf(const Lines& players, const Lines& teams)
     {
-        return GameFolder(PlayersBytes(players), TeamsBytes(teams), name);
+        return GameFolder(PlayersBytes(players), TeamsBytes(teams));
     }
 
     fs::path SampleCopy()

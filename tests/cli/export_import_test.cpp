@@ -28,7 +28,7 @@ protected:
             return Join(lines);
         };
         return GameFolder(scramble(FileBytes(game / "players.dat"), 21, {0, 1}),
-                          scramble(FileBytes(game / "teams.dat"), 30, {0, 7, 8, 9}), "scrambled");
+                          scramble(FileBytes(game / "teams.dat"), 30, {0, 7, 8, 9}));
     }
 
     // Imports the export of `game` into a scrambled copy of it, which must come out byte for byte the same.
