@@ -1,15 +1,10 @@
-// The editor's own start, as main.cpp runs it, on a full-size game:
-//   editor_start <game directory>            ends at the first paint
-//   editor_start <game directory> --idle S   stays open S seconds and prints
-//                                            the share of a core it used
-// The game directory is filled with a full-size game first if it holds none.
+// The editor's own start, as main.cpp runs it, on a full-size game, ended at
+// the first paint of the main window:
+//   editor_start <game directory>
+// The game directory is filled with a full-size game first if it holds none,
+// so the first run also makes the files that later runs and the idle figure use.
 #include <QApplication>
-#include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
-#include <QTimer>
-#include <cstdio>
-#include <ctime>
 #include <filesystem>
 #include <memory>
 
@@ -17,17 +12,6 @@
 #include "first_paint.h"
 #include "full_size_game.h"
 #include "mainwindow/main_form.h"
-
-namespace {
-
-double ProcessCpuSeconds()
-{
-    timespec used{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
-    return static_cast<double>(used.tv_sec) + static_cast<double>(used.tv_nsec) / 1e9;
-}
-
-}  // namespace
 
 int main(int argc, char** argv)
 {
@@ -39,7 +23,6 @@ int main(int argc, char** argv)
     const std::string setting = (folder / "editor.dat").string();
     if (!std::filesystem::exists(setting))
         WriteSettingFile(setting, folder.string());
-    const int idleSeconds = argc >= 4 && QByteArray(argv[2]) == "--idle" ? std::atoi(argv[3]) : 0;
 
     QApplication app(argc, argv);
     auto game = std::make_unique<Game>();
@@ -47,22 +30,7 @@ int main(int argc, char** argv)
     MainForm form(*game, SettingPlaces{settingPath, settingPath});
     if (!form.Form_Load())
         return 1;
-    if (idleSeconds == 0) {
-        EndAtFirstPaint(form);
-    } else {
-        QTimer::singleShot(1000, [idleSeconds] {
-            const double cpuBefore = ProcessCpuSeconds();
-            auto* wall = new QElapsedTimer;
-            wall->start();
-            QTimer::singleShot(idleSeconds * 1000, [cpuBefore, wall] {
-                const double cpu = ProcessCpuSeconds() - cpuBefore;
-                std::printf("idle: %.3f s of CPU in %.1f s, %.2f%% of a core\n", cpu,
-                            static_cast<double>(wall->elapsed()) / 1000.0,
-                            100.0 * cpu / (static_cast<double>(wall->elapsed()) / 1000.0));
-                QApplication::quit();
-            });
-        });
-    }
+    EndAtFirstPaint(form);
     form.show();
     return QApplication::exec();
 }
