@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "data/game.h"
@@ -9,12 +10,13 @@
 // The lines of a game file as a test writes them down.
 using Lines = std::vector<std::string>;
 
-// The bytes of a file made of `lines`, each ended by CR LF as the game writes them.
-inline std::string Join(const Lines& lines)
+// The bytes of a file made of the given runs of lines, each line ended by
+// CR LF as the game writes them.
+template <class... Runs>
+std::string Join(const Runs&... runs)
 {
     std::string bytes;
-    for (const std::string& line : lines)
-        bytes += line + "\r\n";
+    ([&] { for (const std::string& line : runs) bytes += line + "\r\n"; }(), ...);
     return bytes;
 }
 
@@ -28,6 +30,14 @@ Lines Cat(Lines first, const More&... more)
 inline Lines EmptyLines(int count)
 {
     return Lines(static_cast<std::size_t>(count), std::string{});
+}
+
+// `lines` with some of them replaced, each given by its line number counted from 1.
+inline Lines Edit(Lines lines, std::initializer_list<std::pair<int, std::string>> changes)
+{
+    for (const auto& [line, text] : changes)
+        lines.at(static_cast<std::size_t>(line - 1)) = text;
+    return lines;
 }
 
 // Game is too large for the stack.

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <string>
+#include <vector>
 
 #include "file_text.h"
 
@@ -19,257 +19,117 @@ Lines Player(std::string number, std::string initials, std::string surname, int 
     return lines;
 }
 
+// What the writer makes of slots `from` to `to` when they never held a player.
+Lines Blanks(int from, int to)
+{
+    Lines lines;
+    for (int n = from; n <= to; ++n)
+        lines = Cat(lines, Lines{std::to_string(n), "#", "#", "#"}, Lines(17, "0"));
+    return lines;
+}
+
 const Lines Terminator = EmptyLines(21);
 
-// Lines 5 to 21 of a record, in file order.
-std::array<int, 17> Numbers(const PlayerRecord& p)
-{
-    return {p.birthDay,  p.birthMonth, p.birthYear,    p.homeCountry, p.teamNumber,   p.batPosition,
-            p.bats,      p.batSkill,   p.batAggression, p.bowlType,   p.bowls,        p.bowlSkill,
-            p.bowlEconomy, p.fieldAbility, p.fieldsAt, p.potential,   p.carriedValue};
-}
-
-std::array<int, 17> NumbersFrom(int first)
-{
-    std::array<int, 17> numbers{};
-    for (int i = 0; i < 17; ++i)
-        numbers[static_cast<std::size_t>(i)] = first + i;
-    return numbers;
-}
-
-PlayerRecord Marked(const char* surname)
-{
-    PlayerRecord player;
-    player.initials = "Q";
-    player.surname = surname;
-    player.batSkill = 99;
-    return player;
-}
-
-TEST(PlayersFile, ReadsTheGamesOwnRecordIntoItsSlot)
+TEST(PlayersFile, ReadsEachLineIntoItsFieldAndTheClosingRecordIntoSlotZero)
 {
     const Lines example{"17", "#", "A J#", "Example#", "21", "3", "1975", "2", "4", "2", "0",
                         "45", "12", "5", "1", "20", "8", "25", "3", "10", "0"};
     auto game = NewGame();
-    ReadPlayers(*game, Join(Cat(example, Terminator)));
-
-    const PlayerRecord& p = game->Players[17];
-    EXPECT_EQ(p.playerNumber, 17);
-    EXPECT_EQ(p.initials, "A J");
-    EXPECT_EQ(p.surname, "Example");
-    EXPECT_EQ(Numbers(p), (std::array<int, 17>{21, 3, 1975, 2, 4, 2, 0, 45, 12, 5, 1, 20, 8, 25, 3, 10, 0}));
+    ReadPlayers(*game, Join(example, Player("0", "Z#", "Zero#", 500)));
+    EXPECT_EQ(game->Players[17], (PlayerRecord{17, "A J", "Example", 21, 3, 1975, 2, 4, 2, 0, 45, 12, 5, 1, 20,
+                                               8, 25, 3, 10, 0}));
     EXPECT_EQ(game->PlayerCount, 17);
+    // Slot 0 takes the numbers of the record that ends the load, never its names.
+    EXPECT_EQ(game->Players[0], (PlayerRecord{0, "", "", 500, 501, 502, 503, 504, 505, 506, 507, 508, 509, 510,
+                                              511, 512, 513, 514, 515, 516}));
 }
 
-TEST(PlayersFile, WritesBackTheFileItReadByteForByte)
+struct Load {
+    std::string what;
+    Lines file;
+    int count;
+    Lines written;  // before the closing lines
+};
+
+// Each file is loaded into a game where an earlier load left PlayerCount 7
+// and player 4 "Q Kept", who shows where a load leaves a slot alone.
+std::vector<Load> Loads()
 {
-    // Windows-1252 letters, a blank before the "#", a "#" inside a name, an
-    // empty name and negative numbers all survive.
-    const std::string file = Join(Cat(Player("1", "A J#", "Br\xE9mont#"), Player("2", "#", "Smith #"),
-                                      Player("3", "K#", "Ha#sh#", -20), Player("4", "\xD6#", "#"),
-                                      Terminator));
-    auto game = NewGame();
-    ReadPlayers(*game, file);
-    EXPECT_EQ(game->PlayerCount, 4);
-    EXPECT_EQ(game->Players[2].surname, "Smith ");
-    EXPECT_EQ(game->Players[3].surname, "Ha#sh");
-    EXPECT_EQ(game->Players[3].birthDay, -20);
-    EXPECT_EQ(WritePlayers(*game), file);
+    const Lines one = Player("1", "A#", "One#"), two = Player("2", "B#", "Two#", 40);
+    const Lines again = Player("2", "X#", "Again#"), three = Player("3", "C#", "Three#");
+    const Lines five = Player("5", "E#", "Five#"), seven = Player("7", "G#", "Seven#");
+    const Lines kept = Edit(Blanks(4, 4), {{3, "Q#"}, {4, "Kept#"}, {12, "99"}});
+    const Lines earlier = Cat(Blanks(1, 3), kept, Blanks(5, 7));
+    const Lines own = Cat(Player("1", "A J#", "Br\xE9mont#"), Player("2", "#", "O\"Brien #"),
+                          Player("3", "K#", "Ha#sh#", -20), Player("4", "\xD6#", "#"));
+    const Lines twoCut(two.begin(), two.begin() + 8);
+    std::vector<Load> loads{
+        {"Windows-1252, blanks inside and at the end of names, '#' and a quote in a name, negatives",
+         Cat(own, Terminator), 4, own},
+        {"what the writer never writes is normalised",
+         Cat(Edit(Player("1", "   A J  #", "Smith#"), {{1, " 001 "}, {2, "anything"}, {5, "007"}, {6, " 3.6 "}}),
+             Terminator),
+         1, Edit(Player("1", "A J#", "Smith#"), {{5, "7"}, {6, "4"}})},
+        {"an empty file stores nothing and leaves the count", {}, 7, earlier},
+        {"a file that begins with an empty line", Cat(Terminator, one, Terminator), 7, earlier},
+        {"the count is not reset: a first number equal to it ends the load", Cat(seven, one, Terminator), 7,
+         Cat(Blanks(1, 3), kept, Blanks(5, 6), seven)},
+        {"3, 5: gaps keep their slot and are written blank", Cat(three, five, Terminator), 5,
+         Cat(Blanks(1, 2), three, kept, five)},
+        {"1, 2, 5, 3: the count is the last number read, not the highest", Cat(one, two, five, three, Terminator),
+         3, Cat(one, two, three)},
+        {"1, 2, 2, 3: a repeated number overwrites and ends the load", Cat(one, two, again, three, Terminator), 2,
+         Cat(one, again)},
+        {"'#' alone empties a name, an empty line leaves it, the last character goes whatever it is",
+         Cat(Player("1", "AB", "Smith"), Player("3", "#", "#"), Player("4", "", ""), Terminator), 4,
+         Cat(Player("1", "A#", "Smit#"), Blanks(2, 2), Player("3", "#", "#"),
+             Edit(Player("4", "", ""), {{3, "Q#"}, {4, "Kept#"}}))},
+        {"a bad number line leaves its field and the load goes on in step",
+         Cat(Edit(Player("4", "D#", "Four#"), {{12, "lots"}, {13, "40000"}}), five, Terminator), 5,
+         Cat(Blanks(1, 3), Edit(Player("4", "D#", "Four#"), {{12, "99"}, {13, "0"}}), five)},
+        {"a file cut inside a record keeps what was read", Cat(one, twoCut), 2, Cat(one, twoCut, Lines(13, "0"))},
+        // Why the editor refuses to save such a name: the comma splits the line
+        // and the record's last number is read as the next record's number.
+        {"a comma in a surname shifts the record and its last line ends the load",
+         Cat(Edit(Player("1", "A#", "Smith, J#"), {{21, "0"}}), two, Terminator), 1,
+         Edit(Player("1", "A#", "Smit#", 9), {{5, "0"}})},
+    };
+    for (int tail : {0, 1, 5})
+        loads.push_back({std::to_string(tail) + " empty lines after the last record", Cat(one, two, EmptyLines(tail)),
+                         2, Cat(one, two)});
+    for (const char* end : {"", "0", " 0 "})
+        loads.push_back({"a number line \"" + std::string(end) + "\" ends the load",
+                         Cat(one, Lines{end}, EmptyLines(20), two), 1, one});
+    for (const char* number : {"-1", "2001", "32767", "40000", "abc", "1e9"})
+        loads.push_back({"a record numbered " + std::string(number) + " is skipped whole",
+                         Cat(one, Player(number, "X#", "Nowhere#", 700), two), 2, Cat(one, two)});
+    return loads;
 }
 
-TEST(PlayersFile, NormalisesWhatTheWriterNeverWrites)
+TEST(PlayersFile, LoadsAndWritesBack)
 {
-    Lines odd = Player("1", "   A J  #", "Smith#");
-    odd[0] = " 001 ";
-    odd[1] = "anything";
-    odd[4] = "007";
-    odd[5] = " 3.6 ";
-    auto game = NewGame();
-    ReadPlayers(*game, Join(Cat(odd, Terminator)));
-
-    Lines normal = Player("1", "A J#", "Smith#");
-    normal[4] = "7";
-    normal[5] = "4";
-    EXPECT_EQ(WritePlayers(*game), Join(Cat(normal, Terminator)));
-}
-
-TEST(PlayersFile, EndsAtTheFirstEmptyOrZeroNumberAndFillsSlotZeroFromIt)
-{
-    for (const char* end : {"", "0", " 0 "}) {
-        auto game = NewGame();
-        Lines stop = Player(end, "Z#", "Zero#", 500);
-        ReadPlayers(*game, Join(Cat(Player("1", "A#", "One#"), stop, Player("2", "B#", "Two#"))));
-        EXPECT_EQ(game->PlayerCount, 1) << "end line \"" << end << "\"";
-        EXPECT_EQ(game->Players[2], PlayerRecord{});
-        // Slot 0 takes the numbers of the closing record but never its names.
-        EXPECT_EQ(Numbers(game->Players[0]), NumbersFrom(500));
-        EXPECT_EQ(game->Players[0].initials, "");
-        EXPECT_EQ(game->Players[0].surname, "");
-    }
-}
-
-TEST(PlayersFile, LoadsTheSameWhateverFollowsTheLastRecord)
-{
-    const Lines body = Cat(Player("1", "A#", "One#"), Player("2", "B#", "Two#", 40));
-    auto whole = NewGame();
-    ReadPlayers(*whole, Join(Cat(body, Terminator)));
-    for (const Lines& tail : {Lines{}, EmptyLines(1), EmptyLines(5)}) {
-        auto game = NewGame();
-        ReadPlayers(*game, Join(Cat(body, tail)));
-        EXPECT_EQ(game->PlayerCount, 2) << tail.size() << " empty lines";
-        EXPECT_EQ(game->Players[1], whole->Players[1]);
-        EXPECT_EQ(game->Players[2], whole->Players[2]);
-        EXPECT_EQ(WritePlayers(*game), WritePlayers(*whole));
-    }
-}
-
-TEST(PlayersFile, EmptyFileOrLeadingEmptyLineStoresNoPlayer)
-{
-    for (const std::string& file : {std::string{}, Join(Cat(EmptyLines(1), Player("1", "A#", "One#")))}) {
+    for (const Load& load : Loads()) {
+        SCOPED_TRACE(load.what);
         auto game = NewGame();
         game->PlayerCount = 7;
-        game->Players[1] = Marked("Kept");
-        ReadPlayers(*game, file);
-        EXPECT_EQ(game->PlayerCount, 7);
-        EXPECT_EQ(game->Players[1], Marked("Kept"));
+        game->Players[4].initials = "Q";
+        game->Players[4].surname = "Kept";
+        game->Players[4].batSkill = 99;
+        ReadPlayers(*game, Join(load.file));
+        EXPECT_EQ(game->PlayerCount, load.count);
+        const std::string written = WritePlayers(*game);
+        EXPECT_EQ(written, Join(load.written, Terminator));
+
+        // No record strays outside the slots it names, and slot 0 never takes a name.
+        EXPECT_EQ(game->Players[0].initials + game->Players[0].surname, "");
+        for (std::size_t slot = 8; slot < game->Players.size(); ++slot)
+            ASSERT_EQ(game->Players[slot], PlayerRecord{}) << "slot " << slot;
+
+        auto again = NewGame();
+        ReadPlayers(*again, written);
+        EXPECT_EQ(again->PlayerCount, load.count);
+        EXPECT_EQ(WritePlayers(*again), written);
     }
-}
-
-TEST(PlayersFile, StoresEachRecordAtItsNumberAndCountsTheLastNumberRead)
-{
-    auto game = NewGame();
-    game->Players[4] = Marked("Between");
-    ReadPlayers(*game, Join(Cat(Player("3", "C#", "Three#"), Player("5", "E#", "Five#"), Terminator)));
-    EXPECT_EQ(game->PlayerCount, 5);
-    EXPECT_EQ(game->Players[4], Marked("Between"));
-    EXPECT_EQ(game->Players[5].surname, "Five");
-
-    // The writer fills the gaps with blank records, so the file is dense from then on.
-    auto fresh = NewGame();
-    ReadPlayers(*fresh, Join(Cat(Player("3", "C#", "Three#"), Player("5", "E#", "Five#"), Terminator)));
-    const auto blank = [](const char* number) { return Cat(Lines{number, "#", "#", "#"}, Lines(17, "0")); };
-    EXPECT_EQ(WritePlayers(*fresh), Join(Cat(blank("1"), blank("2"), Player("3", "C#", "Three#"), blank("4"),
-                                             Player("5", "E#", "Five#"), Terminator)));
-}
-
-TEST(PlayersFile, OutOfOrderNumbersLeaveTheHigherPlayerUnwritten)
-{
-    auto game = NewGame();
-    ReadPlayers(*game, Join(Cat(Player("1", "A#", "One#"), Player("2", "B#", "Two#"), Player("5", "E#", "Five#"),
-                                Player("3", "C#", "Three#"), Terminator)));
-    EXPECT_EQ(game->PlayerCount, 3);
-    EXPECT_EQ(game->Players[5].surname, "Five");
-    EXPECT_EQ(WritePlayers(*game).find("Five#"), std::string::npos);
-}
-
-TEST(PlayersFile, ARepeatedNumberEndsTheLoadAfterOverwriting)
-{
-    auto game = NewGame();
-    ReadPlayers(*game, Join(Cat(Player("1", "A#", "One#"), Player("2", "B#", "Two#"), Player("2", "X#", "Again#"),
-                                Player("3", "C#", "Three#"), Terminator)));
-    EXPECT_EQ(game->PlayerCount, 2);
-    EXPECT_EQ(game->Players[2].surname, "Again");
-    EXPECT_EQ(game->Players[3], PlayerRecord{});
-}
-
-// The count is not reset, so a second file whose first number equals the
-// count left by the first ends after that record.
-TEST(PlayersFile, ASecondLoadComparesWithTheCountOfTheFirst)
-{
-    auto game = NewGame();
-    ReadPlayers(*game, Join(Cat(Player("1", "A#", "One#"), Player("2", "B#", "Two#"), Terminator)));
-    ReadPlayers(*game, Join(Cat(Player("2", "N#", "New#"), Player("3", "C#", "Three#"), Terminator)));
-    EXPECT_EQ(game->PlayerCount, 2);
-    EXPECT_EQ(game->Players[2].surname, "New");
-    EXPECT_EQ(game->Players[3], PlayerRecord{});
-
-    ReadPlayers(*game, Join(Cat(Player("1", "M#", "Other#"), Player("3", "C#", "Three#"), Terminator)));
-    EXPECT_EQ(game->PlayerCount, 3);
-    EXPECT_EQ(game->Players[1].surname, "Other");
-    EXPECT_EQ(game->Players[2].surname, "New");
-}
-
-TEST(PlayersFile, ANameLineOfJustTheMarkEmptiesTheNameAndAnEmptyLineKeepsIt)
-{
-    auto game = NewGame();
-    game->Players[1] = Marked("Old");
-    game->Players[2] = Marked("Old");
-    ReadPlayers(*game, Join(Cat(Player("1", "#", "#"), Player("2", "", ""), Terminator)));
-    EXPECT_EQ(game->Players[1].initials, "");
-    EXPECT_EQ(game->Players[1].surname, "");
-    EXPECT_EQ(game->Players[2].initials, "Q");
-    EXPECT_EQ(game->Players[2].surname, "Old");
-    // The last character goes whatever it is: a line without its mark loses a letter.
-    ReadPlayers(*game, Join(Cat(Player("3", "AB", "Smith"), Terminator)));
-    EXPECT_EQ(game->Players[3].initials, "A");
-    EXPECT_EQ(game->Players[3].surname, "Smit");
-}
-
-TEST(PlayersFile, SkipsARecordWithoutASlotWholeAndReadsOn)
-{
-    for (const char* number : {"-1", "2001", "32767", "40000", "abc", "1e9"}) {
-        auto game = NewGame();
-        ReadPlayers(*game, Join(Cat(Player("1", "A#", "One#"), Player(number, "X#", "Nowhere#", 700),
-                                    Player("2", "B#", "Two#"))));
-        EXPECT_EQ(game->PlayerCount, 2) << "number " << number;
-        EXPECT_EQ(game->Players[2].surname, "Two") << "number " << number;
-        EXPECT_EQ(Numbers(game->Players[2]), NumbersFrom(10)) << "number " << number;
-        for (std::size_t slot = 0; slot < game->Players.size(); ++slot) {
-            if (slot != 1 && slot != 2) {
-                ASSERT_EQ(game->Players[slot], PlayerRecord{}) << "number " << number << ", slot " << slot;
-            }
-        }
-    }
-}
-
-TEST(PlayersFile, ABadNumberLineLeavesItsFieldAndTheLoadGoesOn)
-{
-    auto game = NewGame();
-    game->Players[1].batSkill = 33;
-    Lines bad = Player("1", "A#", "One#");
-    bad[11] = "lots";    // batSkill
-    bad[12] = "40000";   // batAggression
-    ReadPlayers(*game, Join(Cat(bad, Player("2", "B#", "Two#"), Terminator)));
-    EXPECT_EQ(game->Players[1].batSkill, 33);
-    EXPECT_EQ(game->Players[1].batAggression, 0);
-    EXPECT_EQ(game->Players[1].bowlType, 19);
-    EXPECT_EQ(game->PlayerCount, 2);
-}
-
-TEST(PlayersFile, AFileCutInsideARecordKeepsWhatWasRead)
-{
-    auto game = NewGame();
-    game->Players[2] = Marked("Old");
-    Lines cut = Player("2", "B#", "Two#");
-    cut.resize(8);  // up to homeCountry
-    ReadPlayers(*game, Join(Cat(Player("1", "A#", "One#"), cut)));
-    EXPECT_EQ(game->PlayerCount, 2);
-    EXPECT_EQ(game->Players[2].surname, "Two");
-    EXPECT_EQ(game->Players[2].homeCountry, 13);
-    EXPECT_EQ(game->Players[2].teamNumber, 0);
-    EXPECT_EQ(game->Players[2].batSkill, 99);
-}
-
-// The reason the editor refuses to save such a name: the comma splits the
-// line, every later value moves one line on, and the last one is read as
-// the next record's number.
-TEST(PlayersFile, ACommaInANameThrowsTheRestOfTheFileOutOfStep)
-{
-    Lines first = Player("1", "A#", "Smith, J#");
-    first.back() = "0";
-    auto game = NewGame();
-    ReadPlayers(*game, Join(Cat(first, Player("2", "B#", "Two#"), Terminator)));
-    EXPECT_EQ(game->Players[1].surname, "Smit");
-    EXPECT_EQ(game->Players[1].birthDay, 0);  // "J#" is no number
-    EXPECT_EQ(game->Players[1].birthMonth, 10);
-    EXPECT_EQ(game->PlayerCount, 1);
-    EXPECT_EQ(game->Players[2], PlayerRecord{});
-}
-
-TEST(PlayersFile, WritesOnlyTheClosingLinesForAnEmptyGame)
-{
-    auto game = NewGame();
-    EXPECT_EQ(WritePlayers(*game), Join(Terminator));
 }
 
 }  // namespace
