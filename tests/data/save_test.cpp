@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <random>
 #include <string>
+#include <vector>
 
 #include "data/players_file.h"
 #include "data/teams_file.h"
@@ -19,19 +20,17 @@ std::string Bytes(const fs::path& path)
     return ReadWholeFile(path.string()).value_or("<missing>");
 }
 
-// Each test saves into its own copy of a small game.
+const std::string OldPlayers = Bytes(KOLTA_FIXTURES "/small_game/players.dat");
+const std::string OldTeams = Bytes(KOLTA_FIXTURES "/small_game/teams.dat");
+
+void MakeReadOnly(const fs::path& path)
+{
+    fs::permissions(path, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
+                    fs::perm_options::remove);
+}
+
 class Save : public testing::Test {
 protected:
-    void SetUp() override
-    {
-        dir_ = MakeGameCopy();
-        SetGameDirectory(*game_, dir_.string());
-        ASSERT_TRUE(ReadPlayersFile(*game_));
-        ASSERT_TRUE(ReadTeamsFile(*game_));
-        players_ = Bytes(Players());
-        teams_ = Bytes(Teams());
-    }
-
     void TearDown() override
     {
         for (const fs::path& dir : made_) {
@@ -41,177 +40,121 @@ protected:
         }
     }
 
-    fs::path MakeGameCopy()
+    // A copy of a small game in a folder of its own, loaded into `game`.
+    fs::path LoadCopy(Game& game)
     {
-        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
         const fs::path dir = fs::temp_directory_path() /
-                             ("kolta-" + std::string(test->name()) + "-" + std::to_string(std::random_device{}()));
+                             ("kolta-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()) +
+                              "-" + std::to_string(std::random_device{}()));
         fs::create_directories(dir);
         fs::copy(KOLTA_FIXTURES "/small_game", dir);
         made_.push_back(dir);
+        SetGameDirectory(game, dir.string());
+        EXPECT_TRUE(ReadPlayersFile(game));
+        EXPECT_TRUE(ReadTeamsFile(game));
         return dir;
     }
 
-    fs::path Players() const { return dir_ / "players.dat"; }
-    fs::path Teams() const { return dir_ / "teams.dat"; }
+    std::vector<fs::path> made_;
+};
 
-    void ExpectFilesUntouched() const
-    {
-        EXPECT_EQ(Bytes(Players()), players_);
-        EXPECT_EQ(Bytes(Teams()), teams_);
-        for (const auto& entry : fs::directory_iterator(dir_)) {
+TEST_F(Save, WritesAnUnchangedGameByteForByteAndKeepsTheOldFilesOnlyAtTheFirstSave)
+{
+    auto game = NewGame();
+    const fs::path dir = LoadCopy(*game);
+    ASSERT_TRUE(SaveGame(*game).ok());
+    EXPECT_EQ(Bytes(dir / "players.dat"), OldPlayers);
+    EXPECT_EQ(Bytes(dir / "teams.dat"), OldTeams);
+    game->Players[1].surname = "First";
+    ASSERT_TRUE(SaveGame(*game).ok());
+    game->Players[2].surname = "O\"Brien";  // a quote inside a name is stored as it is
+    game->Teams[2].wealth = 12;
+    ASSERT_TRUE(SaveGame(*game).ok());
+    EXPECT_EQ(Bytes(dir / "players.dat"), WritePlayers(*game));
+    EXPECT_EQ(Bytes(dir / "teams.dat"), WriteTeams(*game));
+    EXPECT_EQ(Bytes(dir / "players.dat.bak"), OldPlayers);
+    EXPECT_EQ(Bytes(dir / "teams.dat.bak"), OldTeams);
+
+    // Another game directory is a fresh start.
+    const fs::path other = LoadCopy(*game);
+    ASSERT_TRUE(SaveGame(*game).ok());
+    EXPECT_EQ(Bytes(other / "players.dat.bak"), OldPlayers);
+}
+
+struct Refusal {
+    const char* what;
+    void (*spoil)(Game&, const fs::path& dir);
+    const char* file;                // the file the result names
+    std::vector<std::string> words;  // what the reason says
+};
+
+TEST_F(Save, RefusesBeforeEitherFileIsTouched)
+{
+    const Refusal refusals[] = {
+        {"read-only players.dat", [](Game&, const fs::path& dir) { MakeReadOnly(dir / "players.dat"); },
+         "players.dat", {"the file is read-only"}},
+        {"read-only teams.dat", [](Game&, const fs::path& dir) { MakeReadOnly(dir / "teams.dat"); }, "teams.dat",
+         {"the file is read-only"}},
+#if !defined(_WIN32)
+        {"read-only folder", [](Game&, const fs::path& dir) { MakeReadOnly(dir); }, "players.dat", {"is read-only"}},
+#endif
+        {"vanished folder", [](Game&, const fs::path& dir) { fs::remove_all(dir); }, "players.dat",
+         {"does not exist"}},
+        {"comma in a surname", [](Game& g, const fs::path&) { g.Players[2].surname = "Smith, J"; }, "players.dat",
+         {"player 2", "surname"}},
+        {"line break in initials", [](Game& g, const fs::path&) { g.Players[3].initials = "A\r\nB"; },
+         "players.dat", {"player 3", "initials"}},
+        {"surname beginning with a blank", [](Game& g, const fs::path&) { g.Players[1].surname = " Smith"; },
+         "players.dat", {"player 1", "surname"}},
+        {"team name beginning with a quote", [](Game& g, const fs::path&) { g.Teams[2].teamName = " \"Rovers"; },
+         "teams.dat", {"team 2", "team name"}},
+        {"comma in an abbreviation", [](Game& g, const fs::path&) { g.Teams[1].abbreviation = "A,B"; }, "teams.dat",
+         {"team 1", "abbreviation"}},
+        {"bad names in both files: players come first",
+         [](Game& g, const fs::path&) { g.Teams[1].teamName = g.Players[3].surname = "A,B"; }, "players.dat",
+         {"player 3", "surname"}},
+    };
+    for (const Refusal& refusal : refusals) {
+        SCOPED_TRACE(refusal.what);
+        auto game = NewGame();
+        const fs::path dir = LoadCopy(*game);
+        game->Players[1].initials = "Changed";
+        game->Teams[1].support = 1;
+        refusal.spoil(*game, dir);
+        const FileResult result = SaveGame(*game);
+        EXPECT_EQ(result.path, (dir / refusal.file).string());
+        for (const std::string& word : refusal.words)
+            EXPECT_NE(result.reason.find(word), std::string::npos) << result.reason;
+
+        if (!fs::exists(dir))
+            continue;  // a vanished folder is not made again
+        EXPECT_EQ(Bytes(dir / "players.dat"), OldPlayers);
+        EXPECT_EQ(Bytes(dir / "teams.dat"), OldTeams);
+        for (const auto& entry : fs::directory_iterator(dir)) {
             const std::string name = entry.path().filename().string();
             EXPECT_TRUE(name == "players.dat" || name == "teams.dat") << "left behind: " << name;
         }
     }
-
-    std::unique_ptr<Game> game_ = NewGame();
-    fs::path dir_;
-    std::string players_;
-    std::string teams_;
-    std::vector<fs::path> made_;
-};
-
-TEST_F(Save, AnUnchangedGameComesBackByteForByte)
-{
-    ASSERT_TRUE(SaveGame(*game_).ok());
-    EXPECT_EQ(Bytes(Players()), players_);
-    EXPECT_EQ(Bytes(Teams()), teams_);
-}
-
-TEST_F(Save, KeepsTheOldFilesOnlyAtTheFirstSaveIntoADirectory)
-{
-    game_->Players[1].surname = "First";
-    ASSERT_TRUE(SaveGame(*game_).ok());
-    EXPECT_EQ(Bytes(Players()), WritePlayers(*game_));
-    game_->Players[1].surname = "Second";
-    game_->Teams[2].wealth = 12;
-    ASSERT_TRUE(SaveGame(*game_).ok());
-
-    EXPECT_EQ(Bytes(Players()), WritePlayers(*game_));
-    EXPECT_EQ(Bytes(Teams()), WriteTeams(*game_));
-    EXPECT_EQ(Bytes(dir_.string() + "/players.dat.bak"), players_);
-    EXPECT_EQ(Bytes(dir_.string() + "/teams.dat.bak"), teams_);
-
-    // Another game directory is a fresh start.
-    const fs::path other = MakeGameCopy();
-    const std::string otherPlayers = Bytes(other / "players.dat");
-    SetGameDirectory(*game_, other.string());
-    ASSERT_TRUE(SaveGame(*game_).ok());
-    EXPECT_EQ(Bytes(other / "players.dat.bak"), otherPlayers);
-}
-
-TEST_F(Save, AReadOnlyFileStopsTheSaveBeforeEitherFileIsTouched)
-{
-    for (const bool teamsReadOnly : {false, true}) {
-        const fs::path locked = teamsReadOnly ? Teams() : Players();
-        fs::permissions(locked, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
-        game_->Players[1].surname = "Changed";
-        game_->Teams[1].teamName = "Changed";
-
-        const FileResult result = SaveGame(*game_);
-        EXPECT_FALSE(result.ok());
-        EXPECT_EQ(result.path, locked.string());
-        EXPECT_EQ(result.reason, "the file is read-only");
-        ExpectFilesUntouched();
-        fs::permissions(locked, fs::perms::owner_write, fs::perm_options::add);
-    }
-}
-
-#if !defined(_WIN32)
-TEST_F(Save, AReadOnlyFolderStopsTheSave)
-{
-    fs::permissions(dir_, fs::perms::owner_read | fs::perms::owner_exec);
-    game_->Players[1].surname = "Changed";
-    const FileResult result = SaveGame(*game_);
-    fs::permissions(dir_, fs::perms::owner_all);
-    EXPECT_EQ(result.path, Players().string());
-    EXPECT_NE(result.reason.find("is read-only"), std::string::npos) << result.reason;
-    ExpectFilesUntouched();
-}
-#endif
-
-TEST_F(Save, AVanishedFolderIsReportedAndNotMadeAgain)
-{
-    fs::remove_all(dir_);
-    const FileResult result = SaveGame(*game_);
-    EXPECT_EQ(result.path, Players().string());
-    EXPECT_NE(result.reason.find("does not exist"), std::string::npos) << result.reason;
-    EXPECT_FALSE(fs::exists(dir_));
-}
-
-// A write that fails on the way, after the checks: the temporary file cannot
-// be made because a folder stands in its place.
-TEST_F(Save, AFailedWriteLeavesBothFilesWhole)
-{
-    fs::create_directory(dir_ / "players.dat.saving");
-    game_->Players[1].surname = "Changed";
-    game_->Teams[1].teamName = "Changed";
-    const FileResult players = SaveGame(*game_);
-    EXPECT_EQ(players.path, Players().string());
-    EXPECT_FALSE(players.reason.empty());
-    EXPECT_EQ(Bytes(Players()), players_);
-    EXPECT_EQ(Bytes(Teams()), teams_);
-
-    fs::remove_all(dir_ / "players.dat.saving");
-    fs::create_directory(dir_ / "teams.dat.saving");
-    const FileResult teams = SaveGame(*game_);
-    EXPECT_EQ(teams.path, Teams().string());
-    EXPECT_EQ(Bytes(Players()), players_);
-    EXPECT_EQ(Bytes(Teams()), teams_);
-}
-
-TEST_F(Save, ANameTheFilesCannotHoldStopsTheSaveAndIsNamed)
-{
-    struct Case {
-        void (*spoil)(Game&);
-        bool inTeams;
-        const char* record;
-        const char* field;
-    };
-    const Case cases[] = {
-        {[](Game& g) { g.Players[2].surname = "Smith, J"; }, false, "player 2", "surname"},
-        {[](Game& g) { g.Players[3].initials = "A\r\nB"; }, false, "player 3", "initials"},
-        {[](Game& g) { g.Teams[2].teamName = " \"Rovers"; }, true, "team 2", "team name"},
-        {[](Game& g) { g.Players[1].surname = " Smith"; }, false, "player 1", "surname"},
-        {[](Game& g) { g.Teams[1].abbreviation = "A,B"; }, true, "team 1", "abbreviation"},
-    };
-    for (const Case& c : cases) {
-        auto game = NewGame();
-        SetGameDirectory(*game, dir_.string());
-        ReadPlayersFile(*game);
-        ReadTeamsFile(*game);
-        c.spoil(*game);
-        const FileResult result = SaveGame(*game);
-        EXPECT_EQ(result.path, c.inTeams ? Teams().string() : Players().string());
-        EXPECT_NE(result.reason.find(c.record), std::string::npos) << result.reason;
-        EXPECT_NE(result.reason.find(c.field), std::string::npos) << result.reason;
-        ExpectFilesUntouched();
-    }
-    // A double quote further inside a name reads back as it was written.
-    game_->Players[2].surname = "O\"Brien";
-    ASSERT_TRUE(SaveGame(*game_).ok());
-    auto reread = NewGame();
-    SetGameDirectory(*reread, dir_.string());
-    ReadPlayersFile(*reread);
-    EXPECT_EQ(reread->Players[2].surname, "O\"Brien");
 }
 
 TEST_F(Save, ReadersSayWhetherTheFileCouldBeOpened)
 {
     auto game = NewGame();
-    SetGameDirectory(*game, (dir_ / "missing").string());
-    game->Players[1].surname = "Kept";
+    const fs::path dir = LoadCopy(*game);
+    EXPECT_EQ(game->PlayerCount, 3);
+    EXPECT_EQ(game->TeamCount, 4);
+    EXPECT_EQ(game->Players[2].surname, "Fr\xE9lington");
+
+    // A missing players.dat leaves the players as they were; a missing
+    // teams.dat reads as an empty one.
+    SetGameDirectory(*game, (dir / "missing").string());
     EXPECT_FALSE(ReadPlayersFile(*game));
     EXPECT_FALSE(ReadTeamsFile(*game));
-    EXPECT_EQ(game->Players[1].surname, "Kept");
-    EXPECT_EQ(game->PlayerCount, 0);
-    fs::create_directories(dir_ / "missing" / "players.dat");
+    EXPECT_EQ(game->Players[2].surname, "Fr\xE9lington");
+    EXPECT_EQ(game->PlayerCount, 3);
+    EXPECT_EQ(game->TeamCount, 2);
+    fs::create_directories(dir / "missing" / "players.dat");
     EXPECT_FALSE(ReadPlayersFile(*game));
-
-    EXPECT_EQ(game_->PlayerCount, 3);
-    EXPECT_EQ(game_->TeamCount, 4);
-    EXPECT_EQ(game_->Players[2].surname, "Fr\xE9lington");
 }
 
 }  // namespace
