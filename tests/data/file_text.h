@@ -40,6 +40,15 @@ inline Lines Edit(Lines lines, std::initializer_list<std::pair<int, std::string>
     return lines;
 }
 
+// One file a reader is given: what it shows, the lines, the count the reader
+// should end with and the records the writer should then write.
+struct Load {
+    std::string what;
+    Lines file;
+    int count;
+    Lines written;  // before the closing lines
+};
+
 // Game is too large for the stack.
 inline std::unique_ptr<Game> NewGame()
 {

@@ -44,13 +44,6 @@ TEST(PlayersFile, ReadsEachLineIntoItsFieldAndTheClosingRecordIntoSlotZero)
                                               511, 512, 513, 514, 515, 516}));
 }
 
-struct Load {
-    std::string what;
-    Lines file;
-    int count;
-    Lines written;  // before the closing lines
-};
-
 // Each file is loaded into a game where an earlier load left PlayerCount 7
 // and player 4 "Q Kept", who shows where a load leaves a slot alone.
 std::vector<Load> Loads()

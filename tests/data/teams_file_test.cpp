@@ -73,13 +73,6 @@ TEST(TeamsFile, TheClosingPassBlanksTheNumbersOfTheSlotAfterTheLastTeam)
     EXPECT_EQ(game->TeamCount, 4);
 }
 
-struct Load {
-    std::string what;
-    Lines file;
-    int count;
-    Lines written;  // before the closing lines
-};
-
 // Each file is loaded into a game where an earlier load left TeamCount 9 and
 // team 2 "Old", which shows where a load leaves a field alone.
 std::vector<Load> Loads()
