@@ -83,8 +83,8 @@ TEST_F(Check, FindsEachKindOfProblemWhereItIs)
           "players.dat: 4: fieldAbility: warning", "players.dat: 5: surname: warning",
           "players.dat: 7: birthDay: warning", "players.dat: 8: playerNumber: warning",
           "players.dat: 9: initials: warning", "teams.dat: 1: squad2: warning", "teams.dat: 2: homeCountry: warning"}},
-        {"a stray line past the end sign of either file", Cat(one, EmptyLines(1), PlayerRecordLines(2)),
-         Cat(team, EmptyLines(20), Lines{"4"}),
+        {"a stray line past the end sign of either file", Cat(one, Lines(1, ""), PlayerRecordLines(2)),
+         Cat(team, Lines(20, ""), Lines{"4"}),
          {"players.dat: 1: end of file: error", "teams.dat: 1: end of file: error"}},
     };
     for (const Case& c : cases) {

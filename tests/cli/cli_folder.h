@@ -66,12 +66,12 @@ constexpr int OfPlayer(int number, int line)
 // The files of a player file and a team file, each with its closing empty lines.
 inline std::string PlayersBytes(const Lines& records)
 {
-    return Join(Cat(records, EmptyLines(21)));
+    return Join(Cat(records, Lines(21, "")));
 }
 
 inline std::string TeamsBytes(const Lines& records)
 {
-    return Join(Cat(records, EmptyLines(20)));
+    return Join(Cat(records, Lines(20, "")));
 }
 
 // The lines of a text, without their line ends (LF or CR LF).

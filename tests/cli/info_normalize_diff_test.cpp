@@ -36,7 +36,7 @@ TEST_F(InfoNormalize, NormalizeWritesWhatTheEditorsSaveWrites)
         With(With(With(PlayerRecordLines(1, "Mardle "), 2, "x"), InitialsLine, "  R J #"), BatSkillLine, "030");
     const Lines team = With(With(TeamRecordLines("Ashby ", 99, {0, 1}), 1, "7"), 9, "5");
     const std::string players = Join(Cat(player, PlayerRecordLines(3, "Corvane")));
-    const std::string teams = Join(Cat(team, EmptyLines(20), Lines{"stray"}));
+    const std::string teams = Join(Cat(team, Lines(20, ""), Lines{"stray"}));
     const fs::path game = GameFolder(players, teams);
 
     const ToolRun run = RunTool({"normalize", game});

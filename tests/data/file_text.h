@@ -27,11 +27,6 @@ Lines Cat(Lines first, const More&... more)
     return first;
 }
 
-inline Lines EmptyLines(int count)
-{
-    return Lines(static_cast<std::size_t>(count), std::string{});
-}
-
 // `lines` with some of them replaced, each given by its line number counted from 1.
 inline Lines Edit(Lines lines, std::initializer_list<std::pair<int, std::string>> changes)
 {
