@@ -1,7 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <cstdio>
 #include <memory>
+#include <numeric>
 #include <string>
 #include <vector>
 
@@ -17,18 +20,16 @@ struct GameBuilder {
         p.playerNumber = static_cast<std::int16_t>(number);
         p.surname = std::move(surname);
         p.initials = std::move(initials);
-        if (number > game->PlayerCount)
-            game->PlayerCount = static_cast<std::int16_t>(number);
+        game->PlayerCount = static_cast<std::int16_t>(std::max<int>(game->PlayerCount, number));
         return p;
     }
 
     // Numbered players 1 to `count` named P0001, P0002, ...
     void Players(int count)
     {
-        for (int n = 1; n <= count; ++n) {
-            std::string name = std::to_string(n);
-            Player(n, "P" + std::string(4 - name.size(), '0') + name);
-        }
+        char name[8];
+        for (int n = 1; n <= count; ++n)
+            Player(n, (std::snprintf(name, sizeof name, "P%04d", n), name));
     }
 
     // A team with `players` in its first places; every listed player's
@@ -39,14 +40,12 @@ struct GameBuilder {
         t.teamNumber = static_cast<std::int16_t>(number);
         t.teamName = std::move(name);
         t.squad.fill(0);
-        int slot = 1;
-        for (int p : players) {
-            t.squad[slot++] = static_cast<std::int16_t>(p);
-            if (p >= 1 && p <= MaxPlayers)
-                game->Players[p].teamNumber = static_cast<std::int16_t>(number);
+        for (std::size_t i = 0; i < players.size(); ++i) {
+            t.squad[i + 1] = static_cast<std::int16_t>(players[i]);
+            if (players[i] >= 1 && players[i] <= MaxPlayers)
+                game->Players[players[i]].teamNumber = static_cast<std::int16_t>(number);
         }
-        if (number + 2 > game->TeamCount)
-            game->TeamCount = static_cast<std::int16_t>(number + 2);
+        game->TeamCount = static_cast<std::int16_t>(std::max<int>(game->TeamCount, number + 2));
         return t;
     }
 };
@@ -54,9 +53,8 @@ struct GameBuilder {
 // Player numbers first, first + 1, ... : `count` of them.
 inline std::vector<int> PlayerRun(int first, int count)
 {
-    std::vector<int> numbers;
-    for (int n = first; n < first + count; ++n)
-        numbers.push_back(n);
+    std::vector<int> numbers(count);
+    std::iota(numbers.begin(), numbers.end(), first);
     return numbers;
 }
 

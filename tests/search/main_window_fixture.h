@@ -25,10 +25,7 @@ inline constexpr int Bayside = 2;
 inline constexpr int Kiwis = 3;
 inline constexpr int Newlands = 4;
 
-inline void Click(QPushButton* button)
-{
-    QTest::mouseClick(button, Qt::LeftButton);
-}
+inline void Click(QPushButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
 
 // Clicks a row of a list as a person would.
 inline void ClickRow(ListBox& list, int row)
@@ -49,10 +46,7 @@ inline std::vector<QString> Rows(const ListBox& list)
 }
 
 // Presses Search in the search window.
-inline void Search(PlayerAddForm& form)
-{
-    Click(form.Command3);
-}
+inline void Search(PlayerAddForm& form) { Click(form.Command3); }
 
 // Searches with the filters as they stand and picks the candidate with that surname.
 inline void SearchAndPick(PlayerAddForm& form, const QString& surname)
