@@ -5,9 +5,7 @@
 
 #include "cli_folder.h"
 
-using testing::ElementsAre;
 using testing::ElementsAreArray;
-using testing::StartsWith;
 
 namespace {
 
@@ -93,21 +91,7 @@ TEST_F(Check, FindsEachKindOfProblemWhereItIs)
         EXPECT_EQ(run.code, c.findings.front().ends_with(": error") ? 1 : 0);  // errors come first
         EXPECT_THAT(Findings(run), ElementsAreArray(c.findings)) << run.out;
     }
-
-}
-
-TEST_F(Check, CountsProblemsErrorsFirstAlsoAsJson)
-{
     EXPECT_EQ(RunTool({"check", KOLTA_SAMPLE}).out, "0 errors, 0 warnings\n");
-    const Lines players = Cat(PlayerRecordLines(1), With(PlayerRecordLines(2), BatsLine, "5"));
-    const fs::path dir = GameOf(players, TeamRecordLines("Ashby", 1, {7}));
-    const ToolRun text = RunTool({"check", dir});
-    EXPECT_THAT(Findings(text), ElementsAre("teams.dat: 1: squad1: error", "players.dat: 2: bats: warning"));
-    EXPECT_EQ(SplitLines(text.out).back(), "1 error, 1 warning");
-    EXPECT_THAT(SplitLines(RunTool({"check", "--json", dir}).out),
-                ElementsAre(StartsWith(R"({"severity":"error","file":"teams.dat","record":1,"field":"squad1",)"),
-                            StartsWith(R"({"severity":"warning","file":"players.dat","record":2,)"),
-                            R"({"errors":1,"warnings":1})"));
 }
 
 }  // namespace

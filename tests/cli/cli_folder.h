@@ -21,7 +21,7 @@ enum PlayerLine {
     BowlEconomyLine, FieldAbilityLine, FieldsAtLine, PotentialLine, CarriedValueLine,
 };
 // Lines of a team record.
-enum TeamLine { TeamNameLine = 2, AbbreviationLine, TeamCountryLine, ReputationLine };
+enum TeamLine { TeamNameLine = 2, AbbreviationLine, ReputationLine = 5 };
 
 // A player every check accepts: valid codes, values inside their ranges.
 inline Lines PlayerRecordLines(int number, const std::string& surname = "Mardle", int team = 0)
