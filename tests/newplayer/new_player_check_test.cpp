@@ -33,7 +33,7 @@ NewPlayerEntries GoodEntries()
 
 // Pasted text skips the window's key filter, so signs, fractions and
 // exponents reach the check; a value is judged before rounding. The date
-// takes any number.
+// takes any number, the names anything, but every number box needs a number.
 TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
 {
     using E = NewPlayerEntries;
@@ -54,18 +54,14 @@ TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
         {&E::fieldAbility, "1e1", true},  {&E::batSkill, "6e1", true},       {&E::batSkill, "7e1", false},
         {&E::potential, ".5", true},      {&E::potential, "1e", false},      {&E::potential, " 7 ", true},
         {&E::birthDay, "99", true},       {&E::birthMonth, "0", true},       {&E::birthYear, "9999", true},
-        {&E::birthYear, "1e9", true},     {&E::birthDay, "-5", true},
+        {&E::birthYear, "1e9", true},     {&E::birthDay, "-5", true},        {&E::initials, "", true},
+        {&E::surname, "", true},
     };
     for (const auto& c : cases) {
         NewPlayerEntries e = GoodEntries();
         e.*c.box = c.text;
         EXPECT_EQ(EntriesAreGood(e), c.good) << "text \"" << c.text << "\"";
     }
-}
-
-TEST(NewPlayerEntries, EveryNumberBoxMustHoldANumberButNamesMayBeAnything)
-{
-    EXPECT_TRUE(EntriesAreGood(GoodEntries()));
     EXPECT_FALSE(EntriesAreGood(NewPlayerEntries{})) << "OK pressed on an untouched window";
     for (EntryBox box : NumberBoxes) {
         for (const char* text : {"", "x", "1,5"}) {
@@ -74,28 +70,22 @@ TEST(NewPlayerEntries, EveryNumberBoxMustHoldANumberButNamesMayBeAnything)
             EXPECT_FALSE(EntriesAreGood(e)) << text;
         }
     }
-    NewPlayerEntries nameless = GoodEntries();
-    nameless.initials.clear();
-    nameless.surname.clear();
-    EXPECT_TRUE(EntriesAreGood(nameless));
 }
 
+// A squad read with gaps is closed up before the new player joins its end,
+// so nobody in it is overwritten. A teams.dat can name a number above the
+// last player: the new player who takes it belongs to his own squad only.
+// Numbers follow on after deletions and are never reused.
 TEST(NewPlayerCommit, GivesTheNextNumberAndFillsTheRecord)
 {
     auto game = SmallGame();
+    game->Teams[Club].squad = Squad{0, 1, 0, 2};
+    game->Teams[4].squad = Squad{0, 6, 3};
     game->Players[6].carriedValue = 7;  // left in a slot above the last player: no entry sets it
-    NewPlayerEntries e = GoodEntries();
-    e.initials = " R J ";   // names are stored as typed
-    e.surname = "Ashdown ";
-    e.homeCountry = 28;     // the second Namibia
-    e.batPosition = 5;
-    e.bats = 1;
-    e.bowlType = 8;
-    e.bowls = 1;
-    e.fieldsAt = 3;
-    e.batSkill = "59.5";    // a half goes to the even neighbour
-    e.bowlSkill = "20.5";
-
+    // Names are stored as typed, list rows give codes from 1, and a half goes
+    // to the even neighbour.
+    const NewPlayerEntries e{" R J ", "Ashdown ", "14", "7", "1979", "59.5", "12", "20.5", "8", "25", "10",
+                             28 /* the second Namibia */, 5, 1, 8, 1, 3};
     ASSERT_EQ(CommitNewPlayer(*game, Club, e), NewPlayerOutcome::Added);
     EXPECT_EQ(game->PlayerCount, 6);
     const PlayerRecord expected{.playerNumber = 6, .initials = " R J ", .surname = "Ashdown ",
@@ -106,23 +96,30 @@ TEST(NewPlayerCommit, GivesTheNextNumberAndFillsTheRecord)
                                 .carriedValue = 7};
     EXPECT_EQ(game->Players[6], expected);
     EXPECT_EQ(Places(game->Teams[Club]), (std::vector<int>{1, 2, 6}));
+    EXPECT_EQ(Places(game->Teams[4]), (std::vector<int>{3}));
 
-    // The first entry of every list gives code 1, or 0 for the two hands. A
-    // date beyond the game's 16-bit numbers keeps what the slot held.
-    game->Players[7].birthYear = 1990;
-    e = GoodEntries();
-    e.birthYear = "1e9";
-    e.birthDay = "-5";
-    ASSERT_EQ(CommitNewPlayer(*game, Club, e), NewPlayerOutcome::Added);
-    const PlayerRecord& p = game->Players[7];
-    EXPECT_EQ(std::vector<int>({p.homeCountry, p.batPosition, p.bats, p.bowlType, p.bowls, p.fieldsAt}),
-              std::vector<int>({1, 1, 0, 1, 0, 1}));
-    EXPECT_EQ(p.birthYear, 1990);
-    EXPECT_EQ(p.birthDay, -5);
+    DeleteFromSquad(*game, Club, 3);  // the new player 6 leaves the squad
+    DeleteFromSquad(*game, Club, 1);  // and so does player 1
+    ASSERT_EQ(CommitNewPlayer(*game, Club, GoodEntries()), NewPlayerOutcome::Added);
+    ASSERT_EQ(CommitNewPlayer(*game, Club, GoodEntries()), NewPlayerOutcome::Added);
+    EXPECT_EQ(game->PlayerCount, 8);
+    EXPECT_EQ(game->Players[6].playerNumber, 6) << "a deleted player keeps his record";
+    EXPECT_EQ(game->Players[6].teamNumber, 0);
+    EXPECT_EQ(Places(game->Teams[Club]), (std::vector<int>{2, 7, 8}));
 }
 
+// The last free number and the twentieth place are taken; one more is refused.
 TEST(NewPlayerCommit, RefusalsLeaveTheGameAsItWas)
 {
+    auto last = SmallGame();
+    last->PlayerCount = MaxPlayers - 1;
+    last->Teams[Club].squad.fill(40);
+    last->Teams[Club].squad[SquadSize] = 0;
+    ASSERT_EQ(CommitNewPlayer(*last, Club, GoodEntries()), NewPlayerOutcome::Added);
+    EXPECT_EQ(last->Players[MaxPlayers].surname, "Ashdown");
+    EXPECT_EQ(last->Teams[Club].squad[SquadSize], MaxPlayers);
+    EXPECT_FALSE(CanAddNewPlayer(*last));
+
     using Outcome = NewPlayerOutcome;
     const struct {
         const char* what;
@@ -148,45 +145,4 @@ TEST(NewPlayerCommit, RefusalsLeaveTheGameAsItWas)
         EXPECT_TRUE(game->Players == before->Players);
         EXPECT_TRUE(game->Teams == before->Teams);
     }
-}
-
-TEST(NewPlayerCommit, TheLastFreeNumberAndTheTwentiethPlaceAreTaken)
-{
-    auto game = SmallGame();
-    game->PlayerCount = MaxPlayers - 1;
-    game->Teams[Club].squad.fill(40);
-    game->Teams[Club].squad[SquadSize] = 0;
-    EXPECT_TRUE(CanAddNewPlayer(*game));
-    ASSERT_EQ(CommitNewPlayer(*game, Club, GoodEntries()), NewPlayerOutcome::Added);
-    EXPECT_EQ(game->Players[MaxPlayers].surname, "Ashdown");
-    EXPECT_EQ(game->Teams[Club].squad[SquadSize], MaxPlayers);
-    EXPECT_FALSE(CanAddNewPlayer(*game));
-}
-
-TEST(NewPlayerCommit, NumbersFollowOnAfterDeletionsAndAreNeverReused)
-{
-    auto game = SmallGame();
-    ASSERT_EQ(CommitNewPlayer(*game, Club, GoodEntries()), NewPlayerOutcome::Added);
-    DeleteFromSquad(*game, Club, 3);  // the new player 6 leaves the squad
-    DeleteFromSquad(*game, Club, 1);  // and so does player 1
-    ASSERT_EQ(CommitNewPlayer(*game, Club, GoodEntries()), NewPlayerOutcome::Added);
-    ASSERT_EQ(CommitNewPlayer(*game, Club, GoodEntries()), NewPlayerOutcome::Added);
-
-    EXPECT_EQ(game->PlayerCount, 8);
-    EXPECT_EQ(game->Players[6].playerNumber, 6) << "a deleted player keeps his record";
-    EXPECT_EQ(game->Players[6].teamNumber, 0);
-    EXPECT_EQ(Places(game->Teams[Club]), (std::vector<int>{2, 7, 8}));
-}
-
-// A squad read with gaps is closed up before the new player joins its end,
-// so nobody in it is overwritten. A teams.dat can name a number above the
-// last player: the new player who takes it belongs to his own squad only.
-TEST(NewPlayerCommit, GapsAndStalePlacesKeepEveryOtherPlayer)
-{
-    auto game = SmallGame();
-    game->Teams[Club].squad = Squad{0, 1, 0, 2};
-    game->Teams[4].squad = Squad{0, 6, 3};
-    ASSERT_EQ(CommitNewPlayer(*game, Club, GoodEntries()), NewPlayerOutcome::Added);
-    EXPECT_EQ(Places(game->Teams[Club]), (std::vector<int>{1, 2, 6}));
-    EXPECT_EQ(Places(game->Teams[4]), (std::vector<int>{3}));
 }

@@ -1,6 +1,8 @@
-// The game directory chooser: on its own, on a first start, and from the
-// menu of a running editor.
+// The game directory chooser on a first start and from the menu of a
+// running editor; About, and the two pictures' pages.
 
+#include <QAction>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -8,63 +10,30 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 #include <memory>
-#include <optional>
-#include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "data/players_file.h"
 #include "data/setting_file.h"
-#include "data/teams_file.h"
 #include "forms/combo_box.h"
 #include "forms/list_box.h"
 #include "forms/message_box.h"
 #include "forms/modal.h"
+#include "forms/picture_box.h"
 #include "mainwindow/main_form.h"
+#include "options/about_form.h"
 #include "options/folder_lists.h"
 #include "options/options_form.h"
-#include "search/game_builder.h"
-
-void PrintTo(const QString& text, std::ostream* out)
-{
-    *out << '"' << text.toStdString() << '"';
-}
+#include "options/web_pages.h"
 
 namespace {
 
-struct TeamPlan {
-    std::string name;
-    std::int16_t country;
-    std::vector<std::string> surnames;
-};
-
-// Writes players.dat and teams.dat of a small game into a new folder `name`
-// under `root`. Players are numbered from 1 in the order of their teams.
-QString WriteGame(const QTemporaryDir& root, const QString& name, const std::vector<TeamPlan>& teams)
+// A game folder among the fixtures.
+QString Fixture(const char* name)
 {
-    const QString dir = root.filePath(name);
-    QDir().mkpath(dir);
-    GameBuilder b;
-    SetGameDirectory(*b.game, ToSystemPath(dir));
-    int number = 0;
-    for (std::size_t team = 1; team <= teams.size(); ++team) {
-        std::vector<int> squad;
-        for (const std::string& surname : teams[team - 1].surnames) {
-            b.Player(++number, surname);
-            squad.push_back(number);
-        }
-        b.Team(int(team), teams[team - 1].name, squad).homeCountry = teams[team - 1].country;
-    }
-    EXPECT_TRUE(WritePlayersFile(*b.game).ok());
-    EXPECT_TRUE(WriteTeamsFile(*b.game).ok());
-    return dir;
-}
-
-QString SettingIn(const SettingPlaces& places)
-{
-    return FromSystemPath(ReadSettingFile(ToSystemPath(places.besideExecutable)));
+    return QDir(QStringLiteral(KOLTA_FIXTURES "/") + name).canonicalPath();
 }
 
 std::vector<QString> Teams(const ComboBox& box)
@@ -82,12 +51,6 @@ protected:
         ASSERT_TRUE(root.isValid());
         QDir().mkpath(root.filePath("exe"));
         places = {root.filePath("exe/editor.dat"), root.filePath("config/editor.dat")};
-        full = WriteGame(root, "full", {{"Sydney Sixes", 1, {"Smith", "Jones"}}, {"Perth Pies", 1, {"Brown"}},
-                                        {"Hobart Hurricanes", 1, {}}, {"Leeds Lions", 2, {"White"}}});
-        teamsOnly = WriteGame(root, "teams-only", {{"Cairns Crabs", 1, {"Grey"}}});
-        QFile::remove(teamsOnly + "/players.dat");
-        capitalised = WriteGame(root, "capitalised", {{"Darwin Dingoes", 1, {"Black"}}});
-        QFile::rename(capitalised + "/players.dat", capitalised + "/Players.dat");
         ClearShownMessages();
         SetMessageAnswerer([](const ShownMessage&) { return IdOk; });
     }
@@ -103,54 +66,16 @@ protected:
         SetModalDriver([drive](QDialog& form) { drive(static_cast<OptionsForm&>(form)); });
     }
 
+    QString Setting() const { return FromSystemPath(ReadSettingFile(ToSystemPath(places.besideExecutable))); }
+
     QTemporaryDir root;
     SettingPlaces places;
-    QString full, teamsOnly, capitalised;
+    // Sydney Sixes (Smith, Jones), Perth Pies, Hobart Hurricanes and Leeds
+    // Lions, the last of another country.
+    const QString full = Fixture("game_four_teams");
+    const QString teamsOnly = Fixture("teams_file_only");
     std::unique_ptr<Game> game = std::make_unique<Game>();
 };
-
-QTreeWidgetItem* DirItem(DirList& list, const QString& path)
-{
-    for (QTreeWidgetItemIterator it(&list); *it; ++it) {
-        if ((*it)->data(0, Qt::UserRole).toString() == path)
-            return *it;
-    }
-    return nullptr;
-}
-
-TEST_F(OptionsTest, OpensAtTheCurrentDirectoryWithTheFirstRunButton)
-{
-    OptionsForm opt1(*game, places);
-    EXPECT_EQ(opt1.Dir1->Path(), QDir::current().canonicalPath());
-    EXPECT_EQ(opt1.File1->Path(), opt1.Dir1->Path());
-    EXPECT_FALSE(opt1.Command1->isHidden());
-    EXPECT_TRUE(opt1.Command2->isHidden());
-}
-
-TEST_F(OptionsTest, ADirectoryOpensOnDoubleClickOrEnterNotOnAClick)
-{
-    const QString inner = root.filePath("full/saves");
-    QDir().mkpath(inner);
-    OptionsForm opt1(*game, places);
-    opt1.show();
-    ASSERT_TRUE(opt1.Dir1->SetPath(full));
-    QTreeWidgetItem* saves = DirItem(*opt1.Dir1, inner);
-    ASSERT_NE(saves, nullptr);
-
-    const QPoint at = opt1.Dir1->visualItemRect(saves).center();
-    QTest::mouseClick(opt1.Dir1->viewport(), Qt::LeftButton, {}, at);
-    EXPECT_EQ(opt1.Dir1->Path(), full);
-    QTest::mouseDClick(opt1.Dir1->viewport(), Qt::LeftButton, {}, at);
-    EXPECT_EQ(opt1.Dir1->Path(), inner);
-    EXPECT_EQ(opt1.File1->ListCount(), 0);
-
-    // Enter on the directory above goes back up, and presses no OK button.
-    opt1.Dir1->setCurrentItem(DirItem(*opt1.Dir1, full));
-    QTest::keyClick(opt1.Dir1, Qt::Key_Return);
-    EXPECT_EQ(opt1.Dir1->Path(), full);
-    EXPECT_TRUE(opt1.isVisible());
-    EXPECT_TRUE(game->GameDirectory.empty());
-}
 
 TEST_F(OptionsTest, ADriveThatCannotBeReadIsReportedAndChangesNothing)
 {
@@ -178,13 +103,15 @@ TEST_F(OptionsTest, ADriveThatCannotBeReadIsReportedAndChangesNothing)
 // it leaves would skip the window.
 TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
 {
-    for (const QString& dir : {teamsOnly, capitalised, full}) {
+    for (const QString& dir : {teamsOnly, Fixture("players_file_capitalised"), full}) {
         SCOPED_TRACE(dir.toStdString());
         const bool good = dir == full;
         ClearShownMessages();
         auto fresh = std::make_unique<Game>();
         MainForm main(*fresh, places);
         WhileOpen([&](OptionsForm& opt1) {
+            EXPECT_FALSE(opt1.Command1->isHidden());
+            EXPECT_TRUE(opt1.Command2->isHidden());
             opt1.Dir1->SetPath(dir);
             EXPECT_EQ(opt1.BothDataFilesListed(), good);
             EXPECT_EQ(opt1.Label2[0]->text(), good ? "Files teams.dat and players.dat found in this directory."
@@ -193,7 +120,7 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
         });
         ASSERT_EQ(main.Form_Load(), good);
         if (good) {
-            EXPECT_EQ(SettingIn(places), full);
+            EXPECT_EQ(Setting(), full);
             EXPECT_EQ(main.windowTitle(), "KOLTA editor (" + full + ")");
             EXPECT_EQ(Teams(*main.Combo2), (std::vector<QString>{"Sydney Sixes", "Perth Pies", "Hobart Hurricanes"}));
             EXPECT_EQ(main.List1->List(main.List1->ListIndex()), "A Smith");
@@ -208,96 +135,40 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
     }
 }
 
-TEST_F(OptionsTest, FirstRunClosedWithoutAChoiceEndsQuietly)
+// From the menu: closing changes nothing; OK reloads, dropping unsaved edits,
+// and the old game's extra teams and players are gone everywhere, not hidden.
+TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
 {
-    MainForm main(*game, places);
-    WhileOpen([](OptionsForm&) {});
-    EXPECT_FALSE(main.Form_Load());
-    EXPECT_TRUE(ShownMessages().empty());
-    EXPECT_FALSE(QFile::exists(places.besideExecutable));
-}
+    ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(full)).ok());
+    MainForm window(*game, places);
+    ASSERT_TRUE(window.Form_Load());
+    ClearShownMessages();
+    game->Teams[1].teamName = "Renamed but not saved";
+    game->Players[1].batSkill = 99;
 
-TEST_F(OptionsTest, ASettingThatCannotBeWrittenIsToldAndTheRunGoesOn)
-{
-    // Neither place can take the file: the executable's folder is gone and
-    // a plain file stands where the configuration folder would be made.
-    QFile blocker(root.filePath("blocker"));
-    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
-    blocker.close();
-    places = {root.filePath("gone/editor.dat"), root.filePath("blocker/editor.dat")};
-
-    MainForm main(*game, places);
-    WhileOpen([this](OptionsForm& opt1) {
-        opt1.Dir1->SetPath(full);
-        QTest::mouseClick(opt1.Command1, Qt::LeftButton);
-    });
-    ASSERT_TRUE(main.Form_Load());
-    EXPECT_EQ(FromSystemPath(game->GameDirectory), full);
-    ASSERT_EQ(ShownMessages().size(), 1u);
-    EXPECT_EQ(ShownMessages()[0].flags, MbExclamation);
-    EXPECT_TRUE(ShownMessages()[0].text.contains(QDir::toNativeSeparators(places.userConfig)));
-    EXPECT_TRUE(ShownMessages()[0].text.contains("does not exist")) << ShownMessages()[0].text.toStdString();
-}
-
-class ReloadTest : public OptionsTest {
-protected:
-    void SetUp() override
-    {
-        OptionsTest::SetUp();
-        ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(full)).ok());
-        window = std::make_unique<MainForm>(*game, places);
-        ASSERT_TRUE(window->Form_Load());
-        ClearShownMessages();
-        game->Teams[1].teamName = "Renamed but not saved";
-        game->Players[1].batSkill = 99;
-    }
-
-    std::unique_ptr<MainForm> window;
-};
-
-TEST_F(ReloadTest, ClosingChangesNothingAndOkAtOnceReloadsDroppingUnsavedEdits)
-{
     WhileOpen([&](OptionsForm& opt1) { opt1.Dir1->SetPath(teamsOnly); });
-    window->opt_Click();
+    window.opt_Click();
     EXPECT_EQ(game->Teams[1].teamName, "Renamed but not saved");
-    EXPECT_EQ(window->windowTitle(), "KOLTA editor (" + full + ")");
+    EXPECT_EQ(window.windowTitle(), "KOLTA editor (" + full + ")");
 
-    std::optional<QString> openedAt;
+    const QString fewer = Fixture("game_one_team");  // Brisbane Bats (Green)
     WhileOpen([&](OptionsForm& opt1) {
-        openedAt = opt1.Dir1->Path();
+        EXPECT_EQ(opt1.Dir1->Path(), full);
         EXPECT_TRUE(opt1.Command1->isHidden());
-        EXPECT_FALSE(opt1.Command2->isHidden());
-        QTest::mouseClick(opt1.Command2, Qt::LeftButton);
-    });
-    window->opt_Click();
-    EXPECT_EQ(openedAt, full);
-    EXPECT_EQ(window->windowTitle(), "KOLTA Editor (" + full + ")");
-    EXPECT_EQ(game->Teams[1].teamName, "Sydney Sixes");
-    EXPECT_EQ(game->Players[1].batSkill, 0);
-    EXPECT_EQ(window->Combo2->List(window->Combo2->ListIndex()), "Sydney Sixes");
-    EXPECT_EQ(window->List1->List(window->List1->ListIndex()), "A Smith");
-    EXPECT_TRUE(window->Timer1->isActive());
-}
-
-TEST_F(ReloadTest, AMissingFileKeepsTheWindowOpenAndFewerTeamsLeaveNoOldOne)
-{
-    const QString fewer = WriteGame(root, "fewer", {{"Brisbane Bats", 1, {"Green"}}});
-    WhileOpen([&](OptionsForm& opt1) {
-        opt1.Dir1->SetPath(teamsOnly);
-        QTest::mouseClick(opt1.Command2, Qt::LeftButton);
-        EXPECT_TRUE(opt1.isVisible());
-        EXPECT_EQ(window->Combo2->ListCount(), 3) << "nothing is loaded yet";
         opt1.Dir1->SetPath(fewer);
         QTest::mouseClick(opt1.Command2, Qt::LeftButton);
         EXPECT_FALSE(opt1.isVisible());
     });
-    window->opt_Click();
+    window.opt_Click();
 
-    ASSERT_EQ(ShownMessages().size(), 1u);
-    EXPECT_EQ(ShownMessages()[0].text, "teams.dat and players.dat not found in current directory.");
-    EXPECT_EQ(SettingIn(places), fewer);
-    // The old game's extra teams and players are gone everywhere, not hidden.
-    EXPECT_EQ(Teams(*window->Combo2), std::vector<QString>{"Brisbane Bats"});
+    EXPECT_TRUE(ShownMessages().empty());
+    EXPECT_EQ(Setting(), fewer);
+    EXPECT_EQ(window.windowTitle(), "KOLTA Editor (" + fewer + ")");
+    EXPECT_EQ(game->Teams[1].teamName, "Brisbane Bats");
+    EXPECT_EQ(game->Players[1].batSkill, 0);
+    EXPECT_EQ(Teams(*window.Combo2), std::vector<QString>{"Brisbane Bats"});
+    EXPECT_EQ(window.List1->List(window.List1->ListIndex()), "A Green");
+    EXPECT_TRUE(window.Timer1->isActive());
     // Slot 2 is where the reader's pass over the closing empty lines went:
     // blank but for its number.
     TeamRecord endOfFile;
@@ -308,22 +179,39 @@ TEST_F(ReloadTest, AMissingFileKeepsTheWindowOpenAndFewerTeamsLeaveNoOldOne)
     EXPECT_EQ(game->PlayerCount, 1);
 }
 
-TEST_F(ReloadTest, TheOldBoxesNeverReachTheNewGame)
+TEST(InfoWindows, AboutClosesOnEscapeAndEachPictureOpensItsPage)
 {
-    // The new game's first country has no team, so no team or player is
-    // shown after the reload; the tick must not write the old ones anywhere.
-    const QString abroad = WriteGame(root, "abroad", {{"Lahore Lancers", 5, {"Khan", "Ali"}}});
-    WhileOpen([&](OptionsForm& opt1) {
-        opt1.Dir1->SetPath(abroad);
-        QTest::mouseClick(opt1.Command2, Qt::LeftButton);
+    Game game;
+    MainForm main{game, SettingPlaces{}};
+    bool closed = false;
+    SetModalDriver([&](QDialog& shown) {
+        auto& about = dynamic_cast<AboutForm&>(shown);
+        EXPECT_EQ(about.parentWidget(), &main);
+        EXPECT_FALSE(about.Image1->pixmap().isNull());
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&about));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        closed = !about.isVisible();
     });
-    window->opt_Click();
+    main.abt->trigger();
+    SetModalDriver({});
+    EXPECT_TRUE(closed);
 
-    EXPECT_EQ(window->Combo2->ListCount(), 0);
-    window->Timer1_Timer();
-    EXPECT_EQ(game->Players[1].surname, "Khan");
-    EXPECT_EQ(game->Teams[1].teamName, "Lahore Lancers");
-    EXPECT_EQ(game->Teams[1].homeCountry, 5);
+    // Each click on a picture opens its page beside the program again.
+    std::vector<QUrl> opened;
+    SetPageOpener([&](const QUrl& page) {
+        opened.push_back(page);
+        return true;
+    });
+    QTest::mouseClick(main.Image1, Qt::LeftButton);
+    QTest::mouseClick(main.Image2, Qt::LeftButton);
+    QTest::mouseClick(main.Image1, Qt::LeftButton);
+    SetPageOpener({});
+    const QDir beside(QCoreApplication::applicationDirPath());
+    const QUrl guide = QUrl::fromLocalFile(beside.absoluteFilePath("guide.html"));
+    const QUrl formats = QUrl::fromLocalFile(beside.absoluteFilePath("file-formats.html"));
+    EXPECT_EQ(opened, (std::vector<QUrl>{guide, formats, guide}));
+    EXPECT_TRUE(QFile::exists(guide.toLocalFile()));
+    EXPECT_TRUE(QFile::exists(formats.toLocalFile()));
 }
 
 }  // namespace
