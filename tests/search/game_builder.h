@@ -40,11 +40,10 @@ struct GameBuilder {
         t.teamNumber = static_cast<std::int16_t>(number);
         t.teamName = std::move(name);
         t.squad.fill(0);
-        for (std::size_t i = 0; i < players.size(); ++i) {
-            t.squad[i + 1] = static_cast<std::int16_t>(players[i]);
-            if (players[i] >= 1 && players[i] <= MaxPlayers)
-                game->Players[players[i]].teamNumber = static_cast<std::int16_t>(number);
-        }
+        std::copy(players.begin(), players.end(), t.squad.begin() + 1);
+        for (int p : players)
+            if (p >= 1 && p <= MaxPlayers)
+                game->Players[p].teamNumber = static_cast<std::int16_t>(number);
         game->TeamCount = static_cast<std::int16_t>(std::max<int>(game->TeamCount, number + 2));
         return t;
     }
