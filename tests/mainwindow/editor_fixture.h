@@ -3,18 +3,16 @@
 // A game written into a folder of its own, an editor.dat that names it, and
 // the main window opened on it as the program opens it.
 
+#include <QApplication>
 #include <QLabel>
-#include <QString>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <memory>
 #include <ostream>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "data/game.h"
 #include "forms/combo_box.h"
 #include "forms/list_box.h"
 #include "forms/message_box.h"
@@ -40,11 +38,10 @@ std::vector<QString> Rows(const Control& control)
 class EditorTest : public ::testing::Test {
 protected:
     EditorTest();
-    ~EditorTest() override;
+    ~EditorTest() override { SetMessageAnswerer({}); }
 
-    // The game the tests open unless they build another: two Australian
-    // teams, a West Indies team, an Indian team with no players and a team
-    // of a country no pick lists. See editor_fixture.cpp for the players.
+    // Two Australian teams (the second with a gap in its squad) and a West
+    // Indies team; editor_fixture.cpp has the players.
     static GameBuilder SmallWorld();
 
     // Writes the game's files and editor.dat, then runs the start-up as the
@@ -54,15 +51,10 @@ protected:
     // The tick as the timer runs it.
     void Tick() { main->Timer1_Timer(); }
 
-    // The files on disk, read into a game of their own.
-    std::unique_ptr<Game> ReadBack() const;
-
     // Answers for the coming message boxes, in order; OK when none is left.
     void Answer(std::vector<int> answers) { answers_ = std::move(answers); }
-    static std::vector<QString> MessageTexts();
 
     QString GameFolder() const { return root_.filePath(QStringLiteral("game")); }
-    QString ProgramFolder() const { return root_.filePath(QStringLiteral("bin")); }
 
     // Types into a box as a person would, after clearing it with the keys.
     void Retype(int box, const QString& text);

@@ -1,12 +1,7 @@
 // The editor comes up on the first country, team and player of the game
 // that editor.dat names, and only then starts carrying edits into the records.
 
-#include <QApplication>
-#include <QDir>
-
-#include "data/setting_file.h"
 #include "editor_fixture.h"
-#include "options/options_form.h"
 
 namespace {
 
@@ -31,6 +26,17 @@ TEST_F(StartUp, OpensOnTheFirstTeamAndPlayerOfTheFirstCountry)
     // The timer carries an edit without help.
     Retype(PotentialBox, "19");
     EXPECT_TRUE(QTest::qWaitFor([&] { return game->Players[1].potential == 19; }, 2000));
+
+    // The West Indies entry gathers the teams of code 8; a picked team shows
+    // its squad, the empty place in it taking no row.
+    ASSERT_TRUE(main->Combo1->SetText("West Indies and Mics."));
+    EXPECT_EQ(Rows(*main->Combo2), std::vector<QString>{"Kingston Kites"});
+    EXPECT_EQ(Rows(*main->List1), std::vector<QString>{"W Calloway"});
+    main->Combo1->SetText("Australia");
+    QTest::keyClick(main->Combo2, Qt::Key_Down);
+    EXPECT_EQ(main->lblteamno->text(), "2");
+    EXPECT_EQ(Rows(*main->List1), (std::vector<QString>{"K Ashgrove", "P J Brindle"}));
+    EXPECT_EQ(main->List1->ItemData(1), 5);
 }
 
 TEST_F(StartUp, AFirstCountryWithoutTeamsLeavesNoCurrentTeam)
@@ -60,41 +66,6 @@ TEST_F(StartUp, AFirstCountryWithoutTeamsLeavesNoCurrentTeam)
     Tick();
     EXPECT_EQ(game->Teams[1].reputation, 61);
     EXPECT_EQ(game->Teams[123].reputation, 50);
-}
-
-TEST_F(StartUp, AGameFolderWithoutItsFilesOpensEmptyAndQuietly)
-{
-    ASSERT_TRUE(QDir().mkpath(ProgramFolder()));
-    const QString gone = root_.filePath(QStringLiteral("moved-away"));
-    const SettingPlaces places{QDir(ProgramFolder()).filePath(QStringLiteral("editor.dat")), QString()};
-    ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(gone)).ok());
-
-    game = std::make_unique<Game>();
-    main = std::make_unique<MainForm>(*game, places);
-    ASSERT_TRUE(main->Form_Load());
-    EXPECT_EQ(main->windowTitle(), "KOLTA editor (" + gone + ")");
-    EXPECT_EQ(main->Combo2->ListCount(), 0);
-    EXPECT_TRUE(main->Timer1->isActive());
-    EXPECT_TRUE(ShownMessages().empty());
-}
-
-TEST(SettingPlaces, TheFileBesideTheProgramComesFirst)
-{
-    QTemporaryDir root;
-    const QString beside = root.filePath(QStringLiteral("bin/editor.dat"));
-    const QString user = root.filePath(QStringLiteral("config/kolta/editor.dat"));
-    const SettingPlaces places{beside, user};
-    ASSERT_TRUE(QDir().mkpath(root.filePath(QStringLiteral("bin"))));
-    EXPECT_EQ(places.PathToRead(), user);   // nothing written yet
-    EXPECT_EQ(places.PathToWrite(), beside);
-    ASSERT_TRUE(QFile(beside).open(QIODevice::WriteOnly));
-    EXPECT_EQ(places.PathToRead(), beside);
-
-    // A program folder that cannot take the file sends it to the user's
-    // folder, which is made on the way.
-    const SettingPlaces nowhere{root.filePath(QStringLiteral("missing/editor.dat")), user};
-    EXPECT_EQ(nowhere.PathToWrite(), user);
-    EXPECT_TRUE(QDir(root.filePath(QStringLiteral("config/kolta"))).exists());
 }
 
 }  // namespace
