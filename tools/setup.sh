@@ -5,7 +5,7 @@ set -euo pipefail
 KOLTA_ROOT="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 KOLTA_BUILD="${KOLTA_BUILD:-$KOLTA_ROOT/build}"
 
-kolta_packages=(cmake ninja-build g++ qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core)
+kolta_packages=(cmake ninja-build g++ ccache qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core)
 
 kolta_install_missing() {
   local missing=()
@@ -20,8 +20,15 @@ kolta_install_missing() {
   DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }
 
+# ccache, when it is there, lets the plain, sanitized and fuzz builds and the
+# worktrees of one machine share what they compiled.
+kolta_launcher() {
+  command -v ccache >/dev/null && echo "-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"
+  return 0
+}
+
 kolta_build() {
-  cmake -S "$KOLTA_ROOT" -B "$KOLTA_BUILD" -G Ninja "$@" >/dev/null
+  cmake -S "$KOLTA_ROOT" -B "$KOLTA_BUILD" -G Ninja $(kolta_launcher) "$@" >/dev/null
   cmake --build "$KOLTA_BUILD" -j "$(nproc)"
 }
 
@@ -50,6 +57,6 @@ kolta_fuzz_available() {
 kolta_build_fuzz() {
   local dir="$1" targets=()
   for name in $(kolta_fuzz_targets); do targets+=("${name}_fuzz"); done
-  CC=clang CXX=clang++ cmake -S "$KOLTA_ROOT" -B "$dir" -G Ninja -DKOLTA_FUZZ=ON -DKOLTA_BUILD_GUI=OFF >/dev/null
+  CC=clang CXX=clang++ cmake -S "$KOLTA_ROOT" -B "$dir" -G Ninja $(kolta_launcher) -DKOLTA_FUZZ=ON -DKOLTA_BUILD_GUI=OFF >/dev/null
   cmake --build "$dir" -j "$(nproc)" --target "${targets[@]}"
 }

@@ -1,0 +1,148 @@
+#include "newplayer/new_player_check.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "data/squad.h"
+#include "support/game_builder.h"
+
+namespace {
+
+constexpr int Club = 3;
+
+// Five players, the first two in the squad of team 3 of six.
+std::unique_ptr<Game> SmallGame()
+{
+    GameBuilder b;
+    b.Players(5);
+    b.Team(Club, "Club", {1, 2});
+    b.game->TeamCount = 6;
+    return std::move(b.game);
+}
+
+// Names, date of birth, then the six skills in the order of the Help window.
+NewPlayerEntries GoodEntries()
+{
+    return {"R J", "Ashdown", "14", "7", "1979", "45", "12", "20", "8", "25", "10"};
+}
+
+}  // namespace
+
+// Pasted text skips the window's key filter, so signs, fractions and
+// exponents reach the check; a value is judged before rounding. The date
+// takes any number, the names anything, but every number box needs a number.
+TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
+{
+    using E = NewPlayerEntries;
+    const struct {
+        EntryBox box;
+        std::string text;
+        bool good;
+    } cases[] = {
+        {&E::batSkill, "0", true},        {&E::batSkill, "60", true},        {&E::batSkill, "61", false},
+        {&E::bowlSkill, "0", true},       {&E::bowlSkill, "60", true},       {&E::bowlSkill, "61", false},
+        {&E::batAggression, "0", true},   {&E::batAggression, "20", true},   {&E::batAggression, "21", false},
+        {&E::bowlEconomy, "0", true},     {&E::bowlEconomy, "20", true},     {&E::bowlEconomy, "21", false},
+        {&E::potential, "0", true},       {&E::potential, "20", true},       {&E::potential, "21", false},
+        {&E::fieldAbility, "9", false},   {&E::fieldAbility, "10", true},    {&E::fieldAbility, "40", true},
+        {&E::fieldAbility, "41", false},  {&E::batSkill, "+5", true},        {&E::batSkill, "-0", true},
+        {&E::batSkill, "-1", false},      {&E::batSkill, "-.4", false},      {&E::batSkill, "60.4", false},
+        {&E::batSkill, "59.5", true},     {&E::fieldAbility, "9.6", false},  {&E::fieldAbility, "40.1", false},
+        {&E::fieldAbility, "1e1", true},  {&E::batSkill, "6e1", true},       {&E::batSkill, "7e1", false},
+        {&E::potential, ".5", true},      {&E::potential, "1e", false},      {&E::potential, " 7 ", true},
+        {&E::birthDay, "99", true},       {&E::birthMonth, "0", true},       {&E::birthYear, "9999", true},
+        {&E::birthYear, "1e9", true},     {&E::birthDay, "-5", true},        {&E::initials, "", true},
+        {&E::surname, "", true},
+    };
+    for (const auto& c : cases) {
+        NewPlayerEntries e = GoodEntries();
+        e.*c.box = c.text;
+        EXPECT_EQ(EntriesAreGood(e), c.good) << "text \"" << c.text << "\"";
+    }
+    EXPECT_FALSE(EntriesAreGood(NewPlayerEntries{})) << "OK pressed on an untouched window";
+    for (EntryBox box : NumberBoxes) {
+        for (const char* text : {"", "x", "1,5"}) {
+            NewPlayerEntries e = GoodEntries();
+            e.*box = text;
+            EXPECT_FALSE(EntriesAreGood(e)) << text;
+        }
+    }
+}
+
+// A squad read with gaps is closed up before the new player joins its end,
+// so nobody in it is overwritten. A teams.dat can name a number above the
+// last player: the new player who takes it belongs to his own squad only.
+// Numbers follow on after deletions and are never reused.
+TEST(NewPlayerCommit, GivesTheNextNumberAndFillsTheRecord)
+{
+    auto game = SmallGame();
+    game->Teams[Club].squad = Squad{0, 1, 0, 2};
+    game->Teams[4].squad = Squad{0, 6, 3};
+    game->Players[6].carriedValue = 7;  // left in a slot above the last player: no entry sets it
+    // Names are stored as typed, list rows give codes from 1, and a half goes
+    // to the even neighbour.
+    const NewPlayerEntries e{" R J ", "Ashdown ", "14", "7", "1979", "59.5", "12", "20.5", "8", "25", "10",
+                             28 /* the second Namibia */, 5, 1, 8, 1, 3};
+    ASSERT_EQ(CommitNewPlayer(*game, Club, e), NewPlayerOutcome::Added);
+    EXPECT_EQ(game->PlayerCount, 6);
+    const PlayerRecord expected{.playerNumber = 6, .initials = " R J ", .surname = "Ashdown ",
+                                .birthDay = 14, .birthMonth = 7, .birthYear = 1979, .homeCountry = 29,
+                                .teamNumber = Club, .batPosition = 6, .bats = 1, .batSkill = 60,
+                                .batAggression = 12, .bowlType = 9, .bowls = 1, .bowlSkill = 20,
+                                .bowlEconomy = 8, .fieldAbility = 25, .fieldsAt = 4, .potential = 10,
+                                .carriedValue = 7};
+    EXPECT_EQ(game->Players[6], expected);
+    EXPECT_EQ(Places(game->Teams[Club]), (std::vector<int>{1, 2, 6}));
+    EXPECT_EQ(Places(game->Teams[4]), (std::vector<int>{3}));
+
+    DeleteFromSquad(*game, Club, 3);  // the new player 6 leaves the squad
+    DeleteFromSquad(*game, Club, 1);  // and so does player 1
+    ASSERT_EQ(CommitNewPlayer(*game, Club, GoodEntries()), NewPlayerOutcome::Added);
+    ASSERT_EQ(CommitNewPlayer(*game, Club, GoodEntries()), NewPlayerOutcome::Added);
+    EXPECT_EQ(game->PlayerCount, 8);
+    EXPECT_EQ(game->Players[6].playerNumber, 6) << "a deleted player keeps his record";
+    EXPECT_EQ(game->Players[6].teamNumber, 0);
+    EXPECT_EQ(Places(game->Teams[Club]), (std::vector<int>{2, 7, 8}));
+}
+
+// The last free number and the twentieth place are taken; one more is refused.
+TEST(NewPlayerCommit, RefusalsLeaveTheGameAsItWas)
+{
+    auto last = SmallGame();
+    last->PlayerCount = MaxPlayers - 1;
+    last->Teams[Club].squad.fill(40);
+    last->Teams[Club].squad[SquadSize] = 0;
+    ASSERT_EQ(CommitNewPlayer(*last, Club, GoodEntries()), NewPlayerOutcome::Added);
+    EXPECT_EQ(last->Players[MaxPlayers].surname, "Ashdown");
+    EXPECT_EQ(last->Teams[Club].squad[SquadSize], MaxPlayers);
+    EXPECT_FALSE(CanAddNewPlayer(*last));
+
+    using Outcome = NewPlayerOutcome;
+    const struct {
+        const char* what;
+        void (*prepare)(Game&, int& team, NewPlayerEntries&);
+        Outcome outcome;
+    } refusals[] = {
+        {"bad entries", [](Game&, int&, NewPlayerEntries& e) { e.fieldAbility = "9"; }, Outcome::BadEntries},
+        {"full table", [](Game& g, int&, NewPlayerEntries&) { g.PlayerCount = MaxPlayers; }, Outcome::TableFull},
+        {"no team", [](Game&, int& team, NewPlayerEntries&) { team = 0; }, Outcome::NoTeam},
+        {"past the last team", [](Game&, int& team, NewPlayerEntries&) { team = MaxTeams + 1; }, Outcome::NoTeam},
+        {"full squad", [](Game& g, int&, NewPlayerEntries&) { g.Teams[Club].squad.fill(40); }, Outcome::SquadFull},
+    };
+    for (const auto& r : refusals) {
+        SCOPED_TRACE(r.what);
+        auto game = SmallGame();
+        int team = Club;
+        NewPlayerEntries e = GoodEntries();
+        r.prepare(*game, team, e);
+        const auto before = std::make_unique<Game>(*game);
+
+        EXPECT_EQ(CommitNewPlayer(*game, team, e), r.outcome);
+        EXPECT_EQ(game->PlayerCount, before->PlayerCount);
+        EXPECT_TRUE(game->Players == before->Players);
+        EXPECT_TRUE(game->Teams == before->Teams);
+    }
+}

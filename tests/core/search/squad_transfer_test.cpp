@@ -1,0 +1,88 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "data/squad.h"
+#include "support/game_builder.h"
+
+using ::testing::ElementsAre;
+
+namespace {
+
+class SquadTest : public ::testing::Test {
+protected:
+    GameBuilder b;
+    Game& game = *b.game;
+};
+
+// Adds and replaces between two teams; the first and last rows are replaced
+// in place, the team a candidate came from is simply short, and an add packs
+// a squad read with a gap before it takes the first free place.
+TEST_F(SquadTest, TwoTeamsStepByStep)
+{
+    b.Team(3, "Three", {11, 12, 13, 14});
+    b.Team(7, "Seven", {21, 0, 22});
+
+    EXPECT_EQ(AddToSquad(game, 7, 12), 3);
+    EXPECT_THAT(Places(game.Teams[3]), ElementsAre(11, 13, 14));
+    EXPECT_THAT(Places(game.Teams[7]), ElementsAre(21, 22, 12));
+    EXPECT_EQ(game.Players[12].teamNumber, 7);
+
+    const Replacement r = ReplaceInSquad(game, 7, 0, 13);
+    EXPECT_EQ(r.oldTeam, 3);
+    EXPECT_EQ(r.replaced, 21);
+    EXPECT_THAT(Places(game.Teams[3]), ElementsAre(11, 14));
+    EXPECT_THAT(Places(game.Teams[7]), ElementsAre(13, 22, 12));
+    EXPECT_EQ(game.Players[13].teamNumber, 7);
+    EXPECT_EQ(game.Players[21].teamNumber, 0);
+
+    EXPECT_EQ(ReplaceInSquad(game, 7, 2, 14).replaced, 12);
+    EXPECT_THAT(Places(game.Teams[7]), ElementsAre(13, 22, 14));
+    EXPECT_EQ(game.Players[12].teamNumber, 0);
+    ReplaceInSquad(game, 7, 3, 11);  // a row that is not there changes nothing
+    EXPECT_THAT(Places(game.Teams[3]), ElementsAre(11));
+
+    EXPECT_EQ(AddToSquad(game, 7, 21), 0);
+    EXPECT_THAT(Places(game.Teams[7]), ElementsAre(13, 22, 14, 21));
+}
+
+// The squads decide where a player is, never his record's teamNumber; when
+// several squads hold him, the highest team is his club.
+TEST_F(SquadTest, APlayerInTwoSquadsBelongsToTheHighestTeam)
+{
+    b.Team(2, "Low", {5, 7, 5, 6});
+    b.Team(4, "Mid", {8});
+    b.Team(6, "High", {9, 5});
+    game.Players[5].teamNumber = 4;
+    EXPECT_EQ(PresentClub(game, 5), 6);
+    EXPECT_EQ(PresentClub(game, 30), 0);
+
+    EXPECT_EQ(DetachFromSquads(game, 5), 6);
+    EXPECT_THAT(Places(game.Teams[2]), ElementsAre(7, 6));
+    EXPECT_THAT(Places(game.Teams[6]), ElementsAre(9));
+    EXPECT_THAT(Places(game.Teams[4]), ElementsAre(8));
+    EXPECT_EQ(game.Players[5].teamNumber, 4);
+}
+
+TEST_F(SquadTest, FullSquadsAndTheirFirstAndLastPlaces)
+{
+    b.Team(1, "Full", PlayerRun(1, SquadSize));
+    b.Team(2, "B", {40});
+    const TeamRecord before = game.Teams[2];
+    AddToSquad(game, 1, 40);  // refused: the full squad and his own stay as they were
+    EXPECT_EQ(game.Teams[2], before);
+    EXPECT_EQ(game.Players[40].teamNumber, 2);
+    EXPECT_EQ(SquadCount(game.Teams[1]), 20);
+
+    // Taking the first player of the full squad makes room at its end.
+    EXPECT_EQ(AddToSquad(game, 2, 1), 1);
+    EXPECT_EQ(Places(game.Teams[1]), PlayerRun(2, 19));
+    EXPECT_EQ(AddToSquad(game, 1, 41), 0);
+    EXPECT_EQ(game.Teams[1].squad[20], 41);
+
+    RemoveSquadSlot(game, 1, 20);
+    RemoveSquadSlot(game, 1, 1);
+    EXPECT_EQ(Places(game.Teams[1]), PlayerRun(3, 18));
+    EXPECT_EQ(game.Players[41].teamNumber, 1) << "records are not touched";
+}
+
+}  // namespace
