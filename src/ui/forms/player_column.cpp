@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "data/code_lists.h"
+#include "data/fields.h"
 #include "forms/combo_box.h"
 #include "forms/fitted_layout.h"
 #include "forms/game_text.h"
@@ -13,40 +13,29 @@
 
 namespace {
 
-// What each box holds: a name, a number, or a code with its list. Most codes
-// count from 1; the two hands count from 0.
-struct Field {
-    const char* name;
-    std::string PlayerRecord::*text = nullptr;
-    std::int16_t PlayerRecord::*number = nullptr;
-    std::span<const std::string_view> codes{};
-    int firstCode = 1;
-};
+// The fields a window shows, in the order of the table: those with a caption.
+constexpr std::array<const PlayerField*, PlayerBoxCount> ShownFields = [] {
+    std::array<const PlayerField*, PlayerBoxCount> shown{};
+    std::size_t count = 0;
+    for (const PlayerField& field : PlayerFields) {
+        if (!field.label.empty())
+            shown.at(count++) = &field;
+    }
+    if (count != shown.size())
+        throw "every captioned field has a box";
+    return shown;
+}();
 
-const std::array<Field, PlayerBoxCount> Fields{{
-    {"initials", &PlayerRecord::initials},
-    {"surname", &PlayerRecord::surname},
-    {"birthDay", nullptr, &PlayerRecord::birthDay},
-    {"birthMonth", nullptr, &PlayerRecord::birthMonth},
-    {"birthYear", nullptr, &PlayerRecord::birthYear},
-    {"homeCountry", nullptr, &PlayerRecord::homeCountry, CountryList},
-    {"batPosition", nullptr, &PlayerRecord::batPosition, BatPositionList},
-    {"bats", nullptr, &PlayerRecord::bats, HandList, 0},
-    {"batSkill", nullptr, &PlayerRecord::batSkill},
-    {"batAggression", nullptr, &PlayerRecord::batAggression},
-    {"bowlType", nullptr, &PlayerRecord::bowlType, BowlTypeList},
-    {"bowls", nullptr, &PlayerRecord::bowls, HandList, 0},
-    {"bowlSkill", nullptr, &PlayerRecord::bowlSkill},
-    {"bowlEconomy", nullptr, &PlayerRecord::bowlEconomy},
-    {"fieldAbility", nullptr, &PlayerRecord::fieldAbility},
-    {"fieldsAt", nullptr, &PlayerRecord::fieldsAt, FieldPositionList},
-    {"potential", nullptr, &PlayerRecord::potential},
-}};
+const PlayerField& FieldOf(PlayerBox box)
+{
+    return *ShownFields[std::size_t(box)];
+}
 
-constexpr std::array<const char*, PlayerRowCount> Captions{
-    "Player Name", "Date of birth", "Home Country", "Bat position", "Bats", "Bat skill", "Bat aggr.",
-    "Bowl Type", "Bowls", "Bowl Skill", "Bowl Economy", "Field ability", "Fields at", "Potential",
-};
+// Fields that share a caption share a row.
+bool StartsRow(int index)
+{
+    return index == 0 || ShownFields[std::size_t(index - 1)]->label != ShownFields[std::size_t(index)]->label;
+}
 
 // The boxes in the order they are shown: the codes, the date of birth, the
 // skills, then the name.
@@ -56,32 +45,6 @@ constexpr std::array<PlayerBox, PlayerBoxCount> ShowOrder{
     PlayerBox::BatAggression, PlayerBox::BowlSkill, PlayerBox::BowlEconomy, PlayerBox::FieldAbility,
     PlayerBox::Potential, PlayerBox::Initials, PlayerBox::Surname,
 };
-
-const Field& FieldOf(PlayerBox box)
-{
-    return Fields[std::size_t(box)];
-}
-
-bool IsCode(PlayerBox box)
-{
-    return !FieldOf(box).codes.empty();
-}
-
-// The boxes each caption's row holds, from the first.
-PlayerRow RowOf(PlayerBox box)
-{
-    switch (box) {
-    case PlayerBox::Initials:
-    case PlayerBox::Surname:
-        return PlayerRow::Name;
-    case PlayerBox::BirthDay:
-    case PlayerBox::BirthMonth:
-    case PlayerBox::BirthYear:
-        return PlayerRow::DateOfBirth;
-    default:
-        return PlayerRow(int(box) - int(PlayerBox::HomeCountry) + int(PlayerRow::HomeCountry));
-    }
-}
 
 QRect Bounds(const PlayerColumnPlaces& places)
 {
@@ -101,29 +64,28 @@ PlayerColumn::PlayerColumn(FittedLayout& at, const PlayerColumnPlaces& places, Q
     : QWidget(parent)
 {
     at.Put(this, Bounds(places));
-    const auto caption = [&](const QString& words, QRect rect, bool mustFit) {
-        return at.Put(new QLabel(words, this), rect, mustFit);
+    const auto caption = [&](std::string_view words, QRect rect, bool mustFit) {
+        return at.Put(new QLabel(FromGame(words), this), rect, mustFit);
     };
-    int slashes = 0;
+    std::size_t row = 0;
+    std::size_t slashes = 0;
     for (int index = 0; index < PlayerBoxCount; ++index) {
-        const auto box = PlayerBox(index);
-        const PlayerRow row = RowOf(box);
-        if (index == 0 || RowOf(PlayerBox(index - 1)) != row) {
-            QLabel* label = caption(QString::fromLatin1(Captions[std::size_t(row)]), places.captions[std::size_t(row)], true);
+        const PlayerField& field = FieldOf(PlayerBox(index));
+        if (StartsRow(index)) {
+            QLabel* label = caption(field.label, places.captions.at(row++), true);
             if (places.boldCaptions) {
                 QFont bold = label->font();
                 bold.setBold(true);
                 label->setFont(bold);
             }
-        } else if (row == PlayerRow::DateOfBirth) {
-            QLabel* slash = caption(QStringLiteral("/"), places.dateSlashes[std::size_t(slashes++)], places.slashesMustFit);
-            slash->setAlignment(places.slashAlignment);
+        } else if (field.kind == FieldKind::Number) {
+            // The parts of a date stand apart, as they are written.
+            caption("/", places.dateSlashes.at(slashes++), places.slashesMustFit)->setAlignment(places.slashAlignment);
         }
-        const Field& field = FieldOf(box);
         QWidget* value = nullptr;
-        if (IsCode(box)) {
+        if (field.kind == FieldKind::Code) {
             auto* list = at.Put(new ComboBox(this), places.boxes[std::size_t(index)], true);
-            for (std::string_view word : field.codes)
+            for (std::string_view word : field.codes->words)
                 list->AddItem(FromGame(word));
             value = list;
         } else {
@@ -131,11 +93,11 @@ PlayerColumn::PlayerColumn(FittedLayout& at, const PlayerColumnPlaces& places, Q
             // The files cannot carry a comma in a name or a name that opens
             // with a double quote, so the name boxes refuse both as they are
             // typed or pasted.
-            if (field.text)
+            if (field.kind == FieldKind::Name)
                 text->SetTextRule(IsStorableName);
             value = text;
         }
-        value->setObjectName(QString::fromLatin1(field.name));
+        value->setObjectName(FromGame(field.name));
         boxes_[std::size_t(index)] = value;
     }
 }
@@ -162,38 +124,19 @@ void PlayerColumn::SetReadOnly(bool readOnly)
 void PlayerColumn::Show(const PlayerRecord& player)
 {
     for (PlayerBox box : ShowOrder) {
-        const Field& field = FieldOf(box);
-        if (field.text) {
-            ShowText(*Text(box), FromGame(player.*field.text));
-        } else if (!IsCode(box)) {
-            ShowText(*Text(box), QString::number(player.*field.number));
-        } else {
-            ComboBox& list = *Codes(box);
-            const int before = list.ListIndex();
-            ShowCodeEntry(list, player.*field.number - field.firstCode);
-            if (readOnly_ && list.ListIndex() < 0)
-                ShowCodeEntry(list, before);
-        }
+        const PlayerField& field = FieldOf(box);
+        const int before = field.kind == FieldKind::Code ? Codes(box)->ListIndex() : -1;
+        ShowField(*Box(box), field, player);
+        if (readOnly_ && field.kind == FieldKind::Code && Codes(box)->ListIndex() < 0)
+            ShowCodeEntry(*Codes(box), before);
     }
 }
 
 bool PlayerColumn::WriteBack(PlayerRecord& player) const
 {
     bool nameChanged = false;
-    for (PlayerBox box : ShowOrder) {
-        const Field& field = FieldOf(box);
-        if (field.text) {
-            std::string typed = ToGame(Text(box)->Text());
-            if (typed != player.*field.text) {
-                player.*field.text = std::move(typed);
-                nameChanged = true;
-            }
-        } else if (IsCode(box)) {
-            StoreCode(*Codes(box), player.*field.number, field.firstCode);
-        } else {
-            StoreNumber(*Text(box), player.*field.number);
-        }
-    }
+    for (PlayerBox box : ShowOrder)
+        nameChanged = StoreField(*Box(box), FieldOf(box), player) || nameChanged;
     return nameChanged;
 }
 
@@ -230,7 +173,7 @@ QString PlayerColumn::ShownName() const
 void PlayerColumn::ChooseFirstEntries()
 {
     for (int index = 0; index < PlayerBoxCount; ++index) {
-        if (IsCode(PlayerBox(index)))
+        if (FieldOf(PlayerBox(index)).kind == FieldKind::Code)
             Codes(PlayerBox(index))->setCurrentIndex(0);
     }
 }
@@ -243,8 +186,7 @@ void PlayerColumn::LimitLength(PlayerBox box, int length)
 void PlayerColumn::SetNumberKeyFilter(const std::function<void(int& keyAscii)>& filter)
 {
     for (int index = 0; index < PlayerBoxCount; ++index) {
-        const auto box = PlayerBox(index);
-        if (!IsCode(box) && !FieldOf(box).text)
-            Text(box)->SetKeyFilter(filter);
+        if (FieldOf(PlayerBox(index)).kind == FieldKind::Number)
+            Text(PlayerBox(index))->SetKeyFilter(filter);
     }
 }

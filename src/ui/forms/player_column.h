@@ -13,15 +13,15 @@ class FittedLayout;
 class QLabel;
 class TextBox;
 
-// The boxes of a player's column, one for each value the user sees, in the
-// order the column is built.
+// The boxes of a player's column: the fields of the game's field table that
+// carry a caption, in the table's order.
 enum class PlayerBox {
     Initials, Surname, BirthDay, BirthMonth, BirthYear, HomeCountry, BatPosition, Bats, BatSkill,
     BatAggression, BowlType, Bowls, BowlSkill, BowlEconomy, FieldAbility, FieldsAt, Potential,
 };
 inline constexpr int PlayerBoxCount = 17;
 
-// The captions, one to a row; the name and the date of birth take several boxes.
+// The captions, one to a row: fields that share a caption share a row.
 enum class PlayerRow {
     Name, DateOfBirth, HomeCountry, BatPosition, Bats, BatSkill, BatAggression, BowlType, Bowls,
     BowlSkill, BowlEconomy, FieldAbility, FieldsAt, Potential,
@@ -38,8 +38,8 @@ struct PlayerColumnPlaces {
     bool boldCaptions = false;
 };
 
-// One player's values, each in the box its kind calls for: a text box for a
-// name or a number, a list for a code. The column shows a record and, unless
+// One player's values, each in the box its field's kind calls for: a text box
+// for a name or a number, a list for a code. The column shows a record and, unless
 // it is read-only, carries what its boxes hold back into one.
 class PlayerColumn : public QWidget {
     Q_OBJECT

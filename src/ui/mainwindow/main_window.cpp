@@ -41,9 +41,7 @@ QLabel* MakeLabel(FittedLayout& at, QWidget* area, const QString& caption, QRect
     return label;
 }
 
-template <std::size_t N>
-ComboBox* MakeCodeList(FittedLayout& at, QWidget* area, const std::array<std::string_view, N>& words,
-                       QRect rect)
+ComboBox* MakeCodeList(FittedLayout& at, QWidget* area, std::span<const std::string_view> words, QRect rect)
 {
     auto* box = at.Put(new ComboBox(area), rect, true);
     for (std::string_view word : words)
@@ -104,26 +102,30 @@ void MainWindow::BuildTeamColumn(FittedLayout& at, QWidget* area)
     teamList_ = Named(at.Put(new ComboBox(area), QRect(120, 540, 2895, 315)), "teamList");
     teamList_->setFont(BoldFont(teamList_));
 
-    MakeLabel(at, area, QStringLiteral("Team number"), QRect(120, 960, 1215, 255), true);
+    MakeLabel(at, area, FromGame(TeamLayout.keyLabel), QRect(120, 960, 1215, 255), true);
     teamNumberLabel_ = Named(MakeLabel(at, area, QStringLiteral("123"), QRect(1440, 960, 1515, 255), true), "teamNumber");
     teamNumberLabel_->setAlignment(Qt::AlignCenter);
 
-    MakeLabel(at, area, QStringLiteral("Team Name"), QRect(120, 1320, 1215, 255), true);
-    teamNameBox_ = Named(at.Put(new TextBox(area), QRect(1440, 1320, 1515, 285)), "teamName");
-    MakeLabel(at, area, QStringLiteral("Abbr."), QRect(120, 1680, 1215, 255), true);
-    abbreviationBox_ = Named(at.Put(new TextBox(area), QRect(1440, 1680, 1515, 285)), "abbreviation");
-    MakeLabel(at, area, QStringLiteral("Home Country"), QRect(120, 2040, 1215, 315), true);
-    teamCountryList_ = Named(MakeCodeList(at, area, TeamCountryList, QRect(1440, 2040, 1515, 315)), "teamCountry");
-    MakeLabel(at, area, QStringLiteral("Reputation"), QRect(120, 2460, 1215, 255), true);
-    reputationBox_ = Named(at.Put(new TextBox(area), QRect(1440, 2460, 1515, 285)), "reputation");
-    MakeLabel(at, area, QStringLiteral("Wealth"), QRect(120, 2820, 1215, 255), true);
-    wealthBox_ = Named(at.Put(new TextBox(area), QRect(1440, 2820, 1515, 285)), "wealth");
-    MakeLabel(at, area, QStringLiteral("Support"), QRect(120, 3180, 1215, 255), true);
-    supportBox_ = Named(at.Put(new TextBox(area), QRect(1440, 3180, 1515, 285)), "support");
-    // The files cannot carry a comma in a name or a name that opens with a
-    // double quote, so the name boxes refuse both as they are typed or pasted.
-    teamNameBox_->SetTextRule(IsStorableName);
-    abbreviationBox_->SetTextRule(IsStorableName);
+    // One row to each field of the team, in the table's order.
+    constexpr std::array<int, TeamFields.size()> tops{1320, 1680, 2040, 2460, 2820, 3180};
+    for (std::size_t i = 0; i < TeamFields.size(); ++i) {
+        const TeamField& field = TeamFields[i];
+        const bool code = field.kind == FieldKind::Code;
+        MakeLabel(at, area, FromGame(field.label), QRect(120, tops[i], 1215, code ? 315 : 255), true);
+        const QRect value(1440, tops[i], 1515, code ? 315 : 285);
+        if (code) {
+            teamBoxes_[i] = MakeCodeList(at, area, field.codes->words, value);
+        } else {
+            auto* box = at.Put(new TextBox(area), value);
+            // The files cannot carry a comma in a name or a name that opens
+            // with a double quote, so the name boxes refuse both as they are
+            // typed or pasted.
+            if (field.kind == FieldKind::Name)
+                box->SetTextRule(IsStorableName);
+            teamBoxes_[i] = box;
+        }
+        teamBoxes_[i]->setObjectName(QStringLiteral("team.") + FromGame(field.name));
+    }
 
     userGuidePicture_ = Named(at.Put(new PictureBox(QPixmap(kolta::artwork::Banner), area), QRect(240, 3600, 2535, 615)),
                               "userGuidePicture");
@@ -197,8 +199,7 @@ void MainWindow::SetTabOrder()
         box(PlayerBox::FieldsAt), box(PlayerBox::Potential), box(PlayerBox::Bowls), box(PlayerBox::BowlType),
         box(PlayerBox::Bats), box(PlayerBox::BatPosition), box(PlayerBox::FieldAbility), box(PlayerBox::BowlEconomy),
         box(PlayerBox::BowlSkill), box(PlayerBox::BatAggression), box(PlayerBox::BatSkill), box(PlayerBox::BirthDay),
-        box(PlayerBox::Surname), teamNameBox_, abbreviationBox_, teamCountryList_,
-        reputationBox_, wealthBox_, supportBox_,
+        box(PlayerBox::Surname), teamBoxes_[0], teamBoxes_[1], teamBoxes_[2], teamBoxes_[3], teamBoxes_[4], teamBoxes_[5],
         addExistingPlayerButton_, deletePlayerButton_, addNewPlayerButton_, replacePlayerButton_, teamList_, countryList_,
         box(PlayerBox::BirthMonth), box(PlayerBox::BirthYear), box(PlayerBox::Initials), box(PlayerBox::HomeCountry),
     };

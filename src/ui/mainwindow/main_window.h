@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QMainWindow>
+#include <array>
 #include <optional>
 
+#include "data/fields.h"
 #include "data/game.h"
 #include "options/setting_places.h"
 
@@ -15,7 +17,6 @@ class QAction;
 class QLabel;
 class QPushButton;
 class QTimer;
-class TextBox;
 
 // The editor's one working window: a country and its teams on the left, the
 // chosen team's squad in the middle, one player on the right. Every value of
@@ -99,12 +100,7 @@ private:
     ComboBox* countryList_ = nullptr;
     ComboBox* teamList_ = nullptr;
     QLabel* teamNumberLabel_ = nullptr;
-    TextBox* teamNameBox_ = nullptr;
-    TextBox* abbreviationBox_ = nullptr;
-    ComboBox* teamCountryList_ = nullptr;
-    TextBox* reputationBox_ = nullptr;
-    TextBox* wealthBox_ = nullptr;
-    TextBox* supportBox_ = nullptr;
+    std::array<QWidget*, TeamFields.size()> teamBoxes_{};  // one to each field of the team table
     PictureBox* userGuidePicture_ = nullptr;
     PictureBox* fileFormatsPicture_ = nullptr;
 

@@ -43,12 +43,8 @@ void MainWindow::ShowTeam()
     const TeamRecord& team = game_.Teams[std::size_t(*index)];
     shownTeam_ = team.teamNumber;
     teamNumberLabel_->setText(QString::number(team.teamNumber));
-    ShowText(*teamNameBox_, FromGame(team.teamName));
-    ShowText(*abbreviationBox_, FromGame(team.abbreviation));
-    ShowText(*reputationBox_, QString::number(team.reputation));
-    ShowText(*wealthBox_, QString::number(team.wealth));
-    ShowText(*supportBox_, QString::number(team.support));
-    ShowCodeEntry(*teamCountryList_, team.homeCountry - 1);
+    for (std::size_t i = 0; i < TeamFields.size(); ++i)
+        ShowField(*teamBoxes_[i], TeamFields[i], team);
 }
 
 void MainWindow::CarryEditsIntoRecords()
@@ -70,10 +66,6 @@ void MainWindow::WriteBackTeam(TeamRecord& team)
 {
     // A new name or country shows in the team list only when the country is
     // picked again.
-    StoreCode(*teamCountryList_, team.homeCountry, 1);
-    StoreNumber(*reputationBox_, team.reputation);
-    StoreNumber(*supportBox_, team.support);
-    team.abbreviation = ToGame(abbreviationBox_->Text());
-    team.teamName = ToGame(teamNameBox_->Text());
-    StoreNumber(*wealthBox_, team.wealth);
+    for (std::size_t i = 0; i < TeamFields.size(); ++i)
+        StoreField(*teamBoxes_[i], TeamFields[i], team);
 }

@@ -25,7 +25,7 @@ TEST_F(DetailDisplay, CodesShowAsTheirEntriesAndTickBackUnchanged)
     EXPECT_EQ(Chosen(Combo("bowlType")), Entry(6, "None"));
     EXPECT_EQ(Chosen(Combo("bowls")), Entry(0, "Right Handed"));
     EXPECT_EQ(Chosen(Combo("fieldsAt")), Entry(1, "Close"));
-    EXPECT_EQ(Chosen(Combo("teamCountry")), Entry(0, "Australia"));
+    EXPECT_EQ(Chosen(Combo("team.homeCountry")), Entry(0, "Australia"));
     const auto before = std::make_unique<Game>(*game);
     Tick();
     EXPECT_EQ(game->Players[1], before->Players[1]);   // still code 29, not 13
@@ -54,8 +54,8 @@ TEST_F(DetailDisplay, EveryBoxShowsAndWritesItsOwnField)
         {"batSkill", "52", "11"},     {"batAggression", "7", "12"},  {"bowlSkill", "-4", "13"},
         {"bowlEconomy", "0", "14"},   {"fieldAbility", "38", "15"},  {"potential", "16", "-16"},
         {"initials", "H R", "J"},     {"surname", "Quillfeather", "Quill"},
-        {"teamName", "Perth Pelicans", "Perth Pelicans II"},          {"abbreviation", "PPL", ""},
-        {"reputation", "83", "90"},   {"wealth", "-250", "-3000"},   {"support", "81", "5"},
+        {"team.teamName", "Perth Pelicans", "Perth Pelicans II"},          {"team.abbreviation", "PPL", ""},
+        {"team.reputation", "83", "90"},   {"team.wealth", "-250", "-3000"},   {"team.support", "81", "5"},
     };
     for (const Box& b : boxes) {
         EXPECT_EQ(BoxText(b.box), b.shown) << b.box;
@@ -67,7 +67,7 @@ TEST_F(DetailDisplay, EveryBoxShowsAndWritesItsOwnField)
     Combo("bowlType").setCurrentIndex(0);
     Combo("bowls").setCurrentIndex(1);
     Combo("fieldsAt").setCurrentIndex(3);
-    QTest::keyClick(&Combo("teamCountry"), Qt::Key_Down);
+    QTest::keyClick(&Combo("team.homeCountry"), Qt::Key_Down);
     // Number, team and the game's hidden value are never written.
     const PlayerRecord player{.playerNumber = 1, .initials = "J", .surname = "Quill", .birthDay = 28,
                               .birthMonth = 2, .birthYear = 1990, .homeCountry = 3, .teamNumber = 1,

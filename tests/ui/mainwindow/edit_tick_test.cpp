@@ -52,7 +52,7 @@ TEST_F(EditTick, ANewNameRebuildsTheSquadListAndKeepsThePlayer)
 TEST_F(EditTick, NameBoxesRefuseWhatTheFilesCannotCarry)
 {
     Open();
-    for (const char* box : {"initials", "surname", "teamName", "abbreviation"}) {
+    for (const char* box : {"initials", "surname", "team.teamName", "team.abbreviation"}) {
         const int beeps = BeepCount();
         Retype(box, "\"O,Neil\"s");   // a quote inside a name is fine
         EXPECT_EQ(BoxText(box), "ONeil\"s") << box;

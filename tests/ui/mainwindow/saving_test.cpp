@@ -30,7 +30,7 @@ protected:
         filesBefore_ = Files();
         // One edit in each file.
         Retype("batSkill", "58");
-        Retype("teamName", "Perth Pelicans XI");
+        Retype("team.teamName", "Perth Pelicans XI");
         Tick();
     }
 
@@ -107,7 +107,7 @@ TEST_F(Saving, ASaveTheDiskRefusesIsToldAndExitStaysOpen)
     EXPECT_TRUE(said.contains(teams) && said.contains("read-only")) << said.toStdString();
     EXPECT_TRUE(FilesUnchanged());   // not even players.dat, which could have been written
     EXPECT_EQ(game->Players[1].batSkill, 58);
-    EXPECT_EQ(BoxText("teamName"), "Perth Pelicans XI");
+    EXPECT_EQ(BoxText("team.teamName"), "Perth Pelicans XI");
 
     // Leaving with Yes stays open, so the edits are not thrown away.
     ClearShownMessages();

@@ -61,7 +61,7 @@ TEST_F(StartUp, AFirstCountryWithoutTeamsLeavesNoCurrentTeam)
     // Once a team is shown, it is the one that edits go to.
     Combo("countryList").SetText("England");
     EXPECT_EQ(main->CurrentPlayer(), 1);
-    Retype("reputation", "61");
+    Retype("team.reputation", "61");
     Tick();
     EXPECT_EQ(game->Teams[1].reputation, 61);
     EXPECT_EQ(game->Teams[123].reputation, 50);
