@@ -28,3 +28,8 @@ std::string RangeText(const Range& range)
 {
     return std::to_string(range.low) + " - " + std::to_string(range.high);
 }
+
+std::string SquadPlaceName(int place)
+{
+    return "squad" + std::to_string(place);
+}

@@ -152,6 +152,9 @@ inline constexpr RecordLayout<PlayerRecord> PlayerLayout{
 inline constexpr RecordLayout<TeamRecord> TeamLayout{
     "teams.dat", 30, 20, "teamNumber", "Team number", 8, TeamConstantLines, TeamFields, 11};
 
+// "squad7" for place 7, as the CSV column and `check` name it.
+std::string SquadPlaceName(int place);
+
 // The field of `fields` called `name`; nothing when there is none.
 template <class Record>
 const Field<Record>* FindField(std::span<const Field<Record>> fields, std::string_view name)
@@ -205,6 +208,6 @@ std::string NameOfLine(const RecordLayout<Record>& layout, int line)
             return std::string(field.name);
     }
     if (layout.firstSquadLine != 0 && line >= layout.firstSquadLine)
-        return "squad" + std::to_string(line - layout.firstSquadLine + 1);
+        return SquadPlaceName(line - layout.firstSquadLine + 1);
     return "line " + std::to_string(line);
 }
