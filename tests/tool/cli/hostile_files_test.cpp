@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 
 #include <sys/stat.h>
@@ -117,6 +118,16 @@ TEST_F(HostileFiles, ALinkedGameFileStaysALinkAndItsTargetIsSaved)
     EXPECT_TRUE(fs::is_symlink(dir / "teams.dat"));
     EXPECT_EQ(FileBytes(elsewhere / "teams.dat"), before);
     EXPECT_EQ(FileBytes(dir / "teams.dat.bak"), before + "\r\n");
+}
+
+
+TEST_F(HostileFiles, CheckListsTheFirstHundredUncarriableLinesAndCountsTheRest)
+{
+    const fs::path dir = GameFolder(Join(Lines(5000, ",")), TeamsBytes({}));
+    const ToolRun run = RunTool({"check", dir});
+    EXPECT_EQ(run.code, 1);
+    EXPECT_THAT(run.out, HasSubstr("players.dat: 239: lines: error: 4900 more lines like these, not listed"));
+    EXPECT_EQ(std::count(run.out.begin(), run.out.end(), '\n'), 100 + 1 + 1);
 }
 
 }  // namespace
