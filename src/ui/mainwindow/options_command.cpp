@@ -2,8 +2,6 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "data/players_file.h"
-#include "data/teams_file.h"
 #include "forms/modal.h"
 #include "mainwindow/main_form.h"
 #include "options/folder_lists.h"
@@ -26,8 +24,7 @@ void LoadNewDirectory(MainForm& main)
     // game has the old numbers, before a team and a player are shown again.
     main.Label3->clear();
     main.lblteamno->clear();
-    ReadPlayersFile(game);
-    ReadTeamsFile(game);
+    main.LoadGameDirectory();
     main.RunStartupChain();
 }
 

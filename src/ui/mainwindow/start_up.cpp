@@ -1,8 +1,10 @@
 #include <QFile>
 
-#include "data/players_file.h"
+#include <filesystem>
+
+#include "data/load_game.h"
 #include "data/setting_file.h"
-#include "data/teams_file.h"
+#include "forms/message_box.h"
 #include "mainwindow/main_form.h"
 
 bool MainForm::Form_Load()
@@ -18,8 +20,28 @@ bool MainForm::Form_Load()
     SetGameDirectory(game, game.GameDirectory);
     // A missing or damaged file is no reason to stop: the window shows what
     // could be read, and another directory can be chosen from the menu.
-    ReadPlayersFile(game);
-    ReadTeamsFile(game);
+    LoadGameDirectory();
     RunStartupChain();
     return true;
+}
+
+void MainForm::LoadGameDirectory()
+{
+    const GameLoad load = LoadGame(game);
+    if (!load.recovered.empty())
+        MsgBox(QString::fromStdString(load.recovered), MbInformation, QStringLiteral("Info"));
+    // A missing file loads as an empty one without a word; a file refused
+    // for what it is (a device, a folder, a giant) is named with the reason.
+    for (const LoadReport* report : {&load.players, &load.teams}) {
+        if (!report->Read() && std::filesystem::exists(std::filesystem::path(game.GameDirectory) / report->file))
+            MsgBox(QStringLiteral("%1 was not read: %2")
+                       .arg(QString::fromStdString(report->file), QString::fromStdString(report->failure)),
+                   MbExclamation, QStringLiteral("Info"));
+    }
+    presence.reset();
+    presence = std::make_unique<FolderPresence>(game.GameDirectory);
+    if (presence->OthersHadItOpen())
+        MsgBox(QStringLiteral("Another editor has this game directory open. If both of you save, "
+                              "the second save is refused."),
+               MbInformation, QStringLiteral("Info"));
 }
