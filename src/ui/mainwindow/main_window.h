@@ -2,9 +2,11 @@
 
 #include <QMainWindow>
 #include <array>
+#include <memory>
 #include <optional>
 
 #include "data/fields.h"
+#include "data/folder_lock.h"
 #include "data/game.h"
 #include "options/setting_places.h"
 
@@ -91,11 +93,15 @@ private:
     void OnFileFormatsPicture();
 
     bool ChooseFirstDirectory();
+    // Loads the game's directory, says what became of a save cut off there
+    // and whether another editor has it open.
+    void LoadGameDirectory();
     void LoadNewDirectory();
     bool SaveAll();
 
     Game& game_;
     SettingPlaces places_;
+    std::unique_ptr<FolderPresence> presence_;
 
     ComboBox* countryList_ = nullptr;
     ComboBox* teamList_ = nullptr;

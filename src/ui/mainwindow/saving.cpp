@@ -7,7 +7,15 @@
 
 bool MainWindow::SaveAll()
 {
-    const FileResult result = SaveGame(game_);
+    // What the load could not keep is lost by saving; the user decides.
+    const bool dropConfirmed =
+        !game_.LoadDropped.empty() &&
+        MsgBox(QStringLiteral("Saving will leave out what the editor could not load:\n%1\n\nSave anyway?")
+                   .arg(QString::fromStdString(game_.LoadDropped)),
+               MbYesNo | MbExclamation, QStringLiteral("Saving..")) == IdYes;
+    if (!game_.LoadDropped.empty() && !dropConfirmed)
+        return false;
+    const FileResult result = SaveGame(game_, dropConfirmed);
     if (!result.ok()) {
         MsgBox(QStringLiteral("Could not save %1:\n%2\n\nNothing more was written. "
                               "Your changes are still in the editor.")

@@ -1,8 +1,10 @@
 #include <QFile>
 
-#include "data/players_file.h"
+#include <filesystem>
+
+#include "data/load_game.h"
 #include "data/setting_file.h"
-#include "data/teams_file.h"
+#include "forms/message_box.h"
 #include "mainwindow/main_window.h"
 
 bool MainWindow::Start()
@@ -18,8 +20,28 @@ bool MainWindow::Start()
     SetGameDirectory(game_, game_.GameDirectory);
     // A missing or damaged file is no reason to stop: the window shows what
     // could be read, and another directory can be chosen from the menu.
-    ReadPlayersFile(game_);
-    ReadTeamsFile(game_);
+    LoadGameDirectory();
     ShowFirstEntries();
     return true;
+}
+
+void MainWindow::LoadGameDirectory()
+{
+    const GameLoad load = LoadGame(game_);
+    if (!load.recovered.empty())
+        MsgBox(QString::fromStdString(load.recovered), MbInformation, QStringLiteral("Info"));
+    // A missing file loads as an empty one without a word; a file refused
+    // for what it is (a device, a folder, a giant) is named with the reason.
+    for (const LoadReport* report : {&load.players, &load.teams}) {
+        if (!report->Read() && std::filesystem::exists(std::filesystem::path(game_.GameDirectory) / report->file))
+            MsgBox(QStringLiteral("%1 was not read: %2")
+                       .arg(QString::fromStdString(report->file), QString::fromStdString(report->failure)),
+                   MbExclamation, QStringLiteral("Info"));
+    }
+    presence_.reset();
+    presence_ = std::make_unique<FolderPresence>(game_.GameDirectory);
+    if (presence_->OthersHadItOpen())
+        MsgBox(QStringLiteral("Another editor has this game directory open. If both of you save, "
+                              "the second save is refused."),
+               MbInformation, QStringLiteral("Info"));
 }
