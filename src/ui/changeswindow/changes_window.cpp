@@ -1,0 +1,96 @@
+#include "changeswindow/changes_window.h"
+
+#include <QDialogButtonBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+#include <array>
+
+namespace {
+
+// Rows of changes carry their place in the list; group rows carry none.
+constexpr int NoChange = -1;
+
+constexpr std::array<const char*, 3> GroupNames{"Players", "Teams", "Squad moves"};
+
+}  // namespace
+
+ChangesWindow::ChangesWindow(QWidget* parent) : QDialog(parent)
+{
+    setWindowTitle(QStringLiteral("Changes"));
+    summary = new QLabel(this);
+
+    changeTree = new QTreeWidget(this);
+    changeTree->setHeaderHidden(true);
+    changeTree->setUniformRowHeights(true);
+    changeTree->installEventFilter(this);
+    connect(changeTree, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* item) { GoTo(item); });
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(summary);
+    layout->addWidget(changeTree, 1);
+    layout->addWidget(buttons);
+    resize(640, 420);
+}
+
+void ChangesWindow::ShowChanges(const QString& since, const std::vector<ChangeEntry>& changes)
+{
+    changes_ = changes;
+    summary->setText(changes.empty() ? QStringLiteral("Nothing has changed %1.").arg(since)
+                     : changes.size() == 1 ? QStringLiteral("1 change %1:").arg(since)
+                                           : QStringLiteral("%1 changes %2:").arg(changes.size()).arg(since));
+    changeTree->clear();
+    std::array<QTreeWidgetItem*, GroupNames.size()> groups{};
+    for (int index = 0; index < int(changes.size()); ++index) {
+        const ChangeEntry& change = changes[std::size_t(index)];
+        QTreeWidgetItem*& group = groups[std::size_t(change.group)];
+        if (!group) {
+            group = new QTreeWidgetItem({QString::fromLatin1(GroupNames[std::size_t(change.group)])});
+            group->setData(0, Qt::UserRole, NoChange);
+            QFont bold = group->font(0);
+            bold.setBold(true);
+            group->setFont(0, bold);
+        }
+        auto* row = new QTreeWidgetItem(group, {change.text});
+        row->setData(0, Qt::UserRole, index);
+    }
+    for (QTreeWidgetItem* group : groups) {
+        if (!group)
+            continue;
+        group->setText(0, QStringLiteral("%1 (%2)").arg(group->text(0)).arg(group->childCount()));
+        changeTree->addTopLevelItem(group);
+        group->setExpanded(true);
+    }
+    if (changeTree->topLevelItemCount() > 0)
+        changeTree->setCurrentItem(changeTree->topLevelItem(0)->child(0));
+}
+
+void ChangesWindow::GoTo(const QTreeWidgetItem* item)
+{
+    const int index = item ? item->data(0, Qt::UserRole).toInt() : NoChange;
+    if (index < 0 || index >= int(changes_.size()))
+        return;
+    const ChangeEntry& change = changes_[std::size_t(index)];
+    if (change.team)
+        emit TeamChosen(change.record);
+    else
+        emit PlayerChosen(change.record);
+}
+
+bool ChangesWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == changeTree && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            GoTo(changeTree->currentItem());
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}

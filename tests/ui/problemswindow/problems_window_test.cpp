@@ -1,0 +1,93 @@
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableWidget>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "problemswindow/problems_bar.h"
+#include "problemswindow/problems_window.h"
+
+namespace {
+
+// What the check finds in the fixture game_with_problems: a player in two
+// squads, a squad naming a player who doesn't exist, a skill out of range.
+std::vector<ProblemEntry> FixtureProblems()
+{
+    return {
+        {"teams.dat", 1, "squad2", true, "player 2 also stands in the squad of team 2"},
+        {"teams.dat", 2, "squad3", true, "player 2 also stands in the squad of team 1"},
+        {"teams.dat", 3, "squad2", true, "names player 9, who is not in players.dat (1 to PlayerCount 6)"},
+        {"players.dat", 5, "batSkill", false, "75 is outside the range 0 - 60"},
+    };
+}
+
+void DoubleClickCell(QTableWidget& table, int row, int column)
+{
+    const QPoint at = table.visualItemRect(table.item(row, column)).center();
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, at);
+    QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, at);
+}
+
+TEST(ProblemsWindowTest, EachRowGoesToItsTeamOrPlayer)
+{
+    ProblemsWindow window;
+    QSignalSpy teams(&window, &ProblemsWindow::TeamChosen);
+    QSignalSpy players(&window, &ProblemsWindow::PlayerChosen);
+    window.ShowProblems(FixtureProblems());
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+
+    EXPECT_EQ(window.summary->text(), "3 errors, 1 warning");
+    QTableWidget& table = *window.problemTable;
+    ASSERT_EQ(table.rowCount(), 4);
+    const QStringList header{"File", "Record", "Field", "Severity", "What is wrong"};
+    for (int column = 0; column < header.size(); ++column)
+        EXPECT_EQ(table.horizontalHeaderItem(column)->text(), header[column]);
+    EXPECT_EQ(table.item(2, 0)->text(), "teams.dat");
+    EXPECT_EQ(table.item(2, 1)->text(), "3");
+    EXPECT_EQ(table.item(2, 3)->text(), "error");
+    EXPECT_EQ(table.item(3, 3)->text(), "warning");
+
+    DoubleClickCell(table, 2, 4);
+    ASSERT_EQ(teams.count(), 1);
+    EXPECT_EQ(teams.at(0).at(0).toInt(), 3);
+    // The keys: down to the warning, Enter goes to its player; the window stays.
+    table.setFocus();
+    QTest::keyClick(&table, Qt::Key_Down);
+    QTest::keyClick(&table, Qt::Key_Return);
+    ASSERT_EQ(players.count(), 1);
+    EXPECT_EQ(players.at(0).at(0).toInt(), 5);
+    EXPECT_TRUE(window.isVisible());
+
+    // It holds a table, so it can be made larger; Escape closes it.
+    window.resize(1000, 700);
+    EXPECT_EQ(window.size(), QSize(1000, 700));
+    QTest::keyClick(&table, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+
+    window.ShowProblems({});
+    EXPECT_EQ(window.summary->text(), "No problems found.");
+    EXPECT_EQ(table.rowCount(), 0);
+}
+
+TEST(ProblemsBarTest, ShowsOnlyWhenThereAreErrors)
+{
+    QWidget holder;
+    auto* bar = new ProblemsBar(&holder);
+    holder.show();
+    QSignalSpy asked(bar, &ProblemsBar::ShowProblemsRequested);
+    EXPECT_FALSE(bar->isVisible());
+    bar->SetErrorCount(3);
+    EXPECT_TRUE(bar->isVisible());
+    EXPECT_TRUE(bar->message->text().contains("3 errors"));
+    QTest::mouseClick(bar->showProblemsButton, Qt::LeftButton);
+    EXPECT_EQ(asked.count(), 1);
+    bar->SetErrorCount(1);
+    EXPECT_TRUE(bar->message->text().contains("1 error "));
+    bar->SetErrorCount(0);
+    EXPECT_FALSE(bar->isVisible());
+}
+
+}  // namespace
