@@ -2,9 +2,9 @@
 #include <ostream>
 
 #include "cli/commands.h"
-#include "cli/differences.h"
+#include "diff/differences.h"
 #include "cli/game_folder.h"
-#include "cli/import_rows.h"
+#include "csv/import_rows.h"
 #include "data/file_io.h"
 #include "data/save.h"
 

@@ -3,7 +3,7 @@
 
 #include "cli/commands.h"
 #include "cli/game_folder.h"
-#include "cli/squads.h"
+#include "data/squad.h"
 #include "data/code_lists.h"
 
 namespace {

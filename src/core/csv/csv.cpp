@@ -1,4 +1,4 @@
-#include "cli/csv.h"
+#include "csv/csv.h"
 
 std::string CsvLine(const CsvRow& row)
 {

@@ -1,30 +1,31 @@
-#include "cli/import_rows.h"
+#include "csv/import_rows.h"
 
 #include <algorithm>
 #include <map>
 #include <memory>
 #include <optional>
 #include <set>
+#include <span>
 #include <tuple>
 #include <type_traits>
 
-#include "cli/csv_layout.h"
-#include "cli/problems.h"
-#include "cli/record_fields.h"
-#include "cli/squads.h"
-#include "cli/utf8.h"
+#include "check/problems.h"
+#include "csv/csv_layout.h"
+#include "data/fields.h"
 #include "data/names.h"
+#include "data/squad.h"
 #include "data/text_lines.h"
+#include "data/utf8.h"
 
 namespace {
 
-constexpr const char* PlayersCsv = "players.csv";
-constexpr const char* TeamsCsv = "teams.csv";
+constexpr const char* PlayersCsvFile = "players.csv";
+constexpr const char* TeamsCsvFile = "teams.csv";
 
 // What a column of the header stands for.
 struct Column {
-    enum class Kind { Key, Text, Number, Word, Squad } kind;
-    int index = 0;  // into the record's text or number fields, or the squad place
+    enum class Kind { Key, Field, Word, Squad } kind;
+    int index = 0;  // into the record's fields, or the squad place
 };
 
 std::string Shown(const std::string& cell)
@@ -33,13 +34,11 @@ std::string Shown(const std::string& cell)
 }
 
 // Walks one table's rows into one kind of record.
-template <class Record, std::size_t TextCount, std::size_t NumberCount>
+template <class Record>
 class TableImport {
 public:
-    TableImport(const char* file, std::string_view key, const std::array<TextField<Record>, TextCount>& texts,
-                const std::array<NumberField<Record>, NumberCount>& numbers, bool squads,
-                std::vector<RowFault>& faults)
-        : file_(file), key_(key), texts_(texts), numbers_(numbers), squads_(squads), faults_(faults)
+    TableImport(const char* file, const RecordLayout<Record>& layout, std::vector<RowFault>& faults)
+        : file_(file), key_(layout.key), fields_(layout.fields), squads_(layout.firstSquadLine != 0), faults_(faults)
     {
     }
 
@@ -96,11 +95,7 @@ public:
             const Column& column = columns_[i];
             const std::string& cell = row[i];
             switch (column.kind) {
-            case Column::Kind::Text: TakeText(cell, line, texts_[column.index], record); break;
-            case Column::Kind::Number:
-                if (const auto value = Number(cell, line, numbers_[column.index].name))
-                    record.*numbers_[column.index].member = *value;
-                break;
+            case Column::Kind::Field: TakeField(cell, line, fields_[column.index], record); break;
             case Column::Kind::Squad: TakeSquadPlace(cell, line, column.index, squad); break;
             case Column::Kind::Key:
             case Column::Kind::Word: break;
@@ -110,8 +105,8 @@ public:
         for (std::size_t i = 0; i < columns_.size(); ++i) {
             if (columns_[i].kind != Column::Kind::Word || TrimBlanks(row[i]).empty())
                 continue;
-            const auto& field = numbers_[columns_[i].index];
-            const int code = record.*field.member;
+            const auto& field = fields_[columns_[i].index];
+            const int code = record.*field.number;
             const std::string word(field.codes->WordFor(code).value_or(""));
             if (TrimBlanks(row[i]) != word)
                 Fault(line, WordColumn(field.name) + " " + Shown(row[i]) + " does not match " +
@@ -136,19 +131,15 @@ private:
     {
         if (name == key_)
             return Column{Column::Kind::Key};
-        for (std::size_t i = 0; i < texts_.size(); ++i) {
-            if (name == texts_[i].name)
-                return Column{Column::Kind::Text, static_cast<int>(i)};
-        }
-        for (std::size_t i = 0; i < numbers_.size(); ++i) {
-            if (name == numbers_[i].name)
-                return Column{Column::Kind::Number, static_cast<int>(i)};
-            if (numbers_[i].codes && name == WordColumn(numbers_[i].name))
+        for (std::size_t i = 0; i < fields_.size(); ++i) {
+            if (name == fields_[i].name)
+                return Column{Column::Kind::Field, static_cast<int>(i)};
+            if (fields_[i].codes && name == WordColumn(fields_[i].name))
                 return Column{Column::Kind::Word, static_cast<int>(i)};
         }
         // squad21 and beyond are known, so that a row using them is refused as a squad over 20.
         if (squads_ && name.starts_with("squad")) {
-            if (const auto place = WholeNumber(name.substr(5)); place && *place >= 1 && SquadColumn(*place) == name)
+            if (const auto place = WholeNumber(name.substr(5)); place && *place >= 1 && SquadPlaceName(*place) == name)
                 return Column{Column::Kind::Squad, *place};
         }
         return std::nullopt;
@@ -171,8 +162,13 @@ private:
         return Fault(line, std::string(name) + " " + Shown(cell) + " is not a whole number from -32768 to 32767");
     }
 
-    void TakeText(const std::string& cell, int line, const TextField<Record>& field, Record& record)
+    void TakeField(const std::string& cell, int line, const Field<Record>& field, Record& record)
     {
+        if (!field.text) {
+            if (const auto value = Number(cell, line, field.name))
+                record.*field.number = *value;
+            return;
+        }
         const std::string name(field.name);
         if (cell.find_first_of("\r\n") != std::string::npos) {
             Fault(line, name + " " + Shown(cell) + " holds a line break, which the files cannot carry");
@@ -188,25 +184,24 @@ private:
             Fault(line, name + " " + Shown(cell) + " holds a character that the game's files (Windows-1252) cannot store");
             return;
         }
-        // The game's reader trims initials, so they are stored as it will read them.
-        if constexpr (std::is_same_v<Record, PlayerRecord>)
-            if (field.member == &PlayerRecord::initials)
-                bytes = TrimBlanks(*bytes);
+        // Stored as the game's reader will read it back.
+        if (field.trimmed)
+            bytes = TrimBlanks(*bytes);
         if (const auto problem = NameProblem(*bytes)) {
             Fault(line, name + " " + Shown(cell) + " cannot be stored: " + *problem);
             return;
         }
-        record.*field.member = std::move(*bytes);
+        record.*field.text = std::move(*bytes);
     }
 
     void TakeSquadPlace(const std::string& cell, int line, int place, Squad* squad)
     {
-        const auto player = Number(cell, line, SquadColumn(place));
+        const auto player = Number(cell, line, SquadPlaceName(place));
         if (!player || !squad)
             return;
         if (place > SquadSize) {
             if (*player != 0)
-                Fault(line, "a squad holds at most 20 players, but " + SquadColumn(place) + " names player " +
+                Fault(line, "a squad holds at most 20 players, but " + SquadPlaceName(place) + " names player " +
                                 std::to_string(*player));
             return;
         }
@@ -215,8 +210,7 @@ private:
 
     const char* file_;
     std::string_view key_;
-    const std::array<TextField<Record>, TextCount>& texts_;
-    const std::array<NumberField<Record>, NumberCount>& numbers_;
+    std::span<const Field<Record>> fields_;
     bool squads_;
     std::vector<RowFault>& faults_;
     std::size_t faultsBefore_ = faults_.size();
@@ -286,8 +280,8 @@ std::map<int, int> ImportRecords(Import& import, const CsvTable& table, const ch
 
 std::map<int, int> ImportPlayers(Game& game, const CsvTable& table, std::vector<RowFault>& faults)
 {
-    TableImport import(PlayersCsv, PlayerKeyColumn, PlayerTextFields, PlayerNumberFields, false, faults);
-    return ImportRecords(import, table, PlayersCsv, game.Players, LoadedPlayerCount(game), "player", faults,
+    TableImport<PlayerRecord> import(PlayersCsvFile, PlayerLayout, faults);
+    return ImportRecords(import, table, PlayersCsvFile, game.Players, LoadedPlayerCount(game), "player", faults,
                          [&game](std::int16_t number) {
                              game.Players[number].playerNumber = number;
                              game.PlayerCount = std::max(game.PlayerCount, number);
@@ -296,11 +290,11 @@ std::map<int, int> ImportPlayers(Game& game, const CsvTable& table, std::vector<
 
 std::map<int, int> ImportTeams(Game& game, const CsvTable& table, std::vector<RowFault>& faults)
 {
-    TableImport import(TeamsCsv, TeamKeyColumn, TeamTextFields, TeamNumberFields, true, faults);
-    return ImportRecords(import, table, TeamsCsv, game.Teams, LoadedTeamCount(game), "team", faults,
+    TableImport<TeamRecord> import(TeamsCsvFile, TeamLayout, faults);
+    return ImportRecords(import, table, TeamsCsvFile, game.Teams, LoadedTeamCount(game), "team", faults,
                          [&game](std::int16_t number) {
                              game.Teams[number].teamNumber = number;
-                             game.TeamCount = std::max(game.TeamCount, static_cast<std::int16_t>(number + 2));
+                             game.TeamCount = std::max(game.TeamCount, TeamCountFor(number));
                          });
 }
 
@@ -336,10 +330,10 @@ void FindNewErrors(const Game& before, const Game& after, const std::map<int, in
     for (const Problem& problem : ProblemsInGame(after)) {
         if (problem.severity != Severity::Error || old.contains(ErrorKey(problem)))
             continue;
-        const bool team = problem.file == "teams.dat";
+        const bool team = problem.file == TeamLayout.file;
         const auto& lines = team ? teamLines : playerLines;
         const auto row = lines.find(problem.record);
-        faults.push_back({team ? TeamsCsv : PlayersCsv, row == lines.end() ? 0 : row->second,
+        faults.push_back({team ? TeamsCsvFile : PlayersCsvFile, row == lines.end() ? 0 : row->second,
                           (team ? "team " : "player ") + std::to_string(problem.record) + ": " + problem.field +
                               ": " + problem.message});
     }

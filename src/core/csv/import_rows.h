@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/csv.h"
+#include "csv/csv.h"
 #include "data/game.h"
 
 // A row of players.csv or teams.csv that can't be taken, by its line.

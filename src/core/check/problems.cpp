@@ -1,28 +1,17 @@
-#include "cli/problems.h"
+#include "check/problems.h"
 
 #include <algorithm>
+#include <set>
+#include <tuple>
+#include <utility>
 
-#include "cli/json.h"
-#include "cli/record_fields.h"
-#include "cli/squads.h"
-
-std::string ProblemLine(const Problem& problem)
-{
-    return problem.file + ": " + std::to_string(problem.record) + ": " + problem.field + ": " +
-           (problem.severity == Severity::Error ? "error: " : "warning: ") + problem.message;
-}
-
-std::string ProblemJson(const Problem& problem)
-{
-    return "{\"severity\":" + JsonString(problem.severity == Severity::Error ? "error" : "warning") +
-           ",\"file\":" + JsonString(problem.file) + ",\"record\":" + std::to_string(problem.record) +
-           ",\"field\":" + JsonString(problem.field) + ",\"message\":" + JsonString(problem.message) + "}";
-}
+#include "data/fields.h"
+#include "data/squad.h"
 
 namespace {
 
-constexpr const char* PlayersFile = "players.dat";
-constexpr const char* TeamsFile = "teams.dat";
+constexpr std::string_view PlayersFile = PlayerLayout.file;
+constexpr std::string_view TeamsFile = TeamLayout.file;
 
 bool IsLeapYear(int year)
 {
@@ -60,17 +49,35 @@ public:
     }
 
 private:
-    void Add(Severity severity, const char* file, int record, std::string field, std::string message)
+    void Add(Severity severity, std::string_view file, int record, std::string field, std::string message)
     {
-        problems_.push_back({severity, file, record, std::move(field), std::move(message)});
+        problems_.push_back({severity, std::string(file), record, std::move(field), std::move(message)});
+    }
+
+    // Codes that no word of their list stands for, and values outside the
+    // game's stated range, in the order of the fields.
+    template <class Record>
+    void CheckValues(std::string_view file, int number, const Record& record,
+                     std::span<const Field<Record>> fields, std::string_view codeWording)
+    {
+        for (const Field<Record>& field : fields) {
+            if (!field.number)
+                continue;
+            const int value = record.*field.number;
+            if (field.codes && !field.codes->WordFor(value))
+                Add(Severity::Warning, file, number, std::string(field.name),
+                    std::to_string(value) + std::string(codeWording) + " (" + std::to_string(field.codes->firstCode) +
+                        " to " + std::to_string(field.codes->LastCode()) + ")");
+            if (field.range && (value < field.range->low || value > field.range->high))
+                Add(Severity::Warning, file, number, std::string(field.name),
+                    std::to_string(value) + " is outside the range " + RangeText(*field.range));
+        }
     }
 
     void CheckTeam(int number)
     {
         const TeamRecord& team = game_.Teams[number];
-        if (!TeamCountries.WordFor(team.homeCountry))
-            Add(Severity::Warning, TeamsFile, number, "homeCountry",
-                std::to_string(team.homeCountry) + " is reached by no entry of the country list (1 to 10)");
+        CheckValues<TeamRecord>(TeamsFile, number, team, TeamFields, " is reached by no entry of the country list");
 
         int firstGap = 0;
         bool gapReported = false;
@@ -81,13 +88,13 @@ private:
                 continue;
             }
             if (firstGap != 0 && !gapReported) {
-                Add(Severity::Warning, TeamsFile, number, SquadColumn(firstGap),
+                Add(Severity::Warning, TeamsFile, number, SquadPlaceName(firstGap),
                     "is empty, but place " + std::to_string(place) +
                         " holds a player: the editor's squad commands expect a packed squad");
                 gapReported = true;
             }
             if (player < 0 || player > game_.PlayerCount) {
-                Add(Severity::Error, TeamsFile, number, SquadColumn(place),
+                Add(Severity::Error, TeamsFile, number, SquadPlaceName(place),
                     "names player " + std::to_string(player) + ", who is not in players.dat (1 to PlayerCount " +
                         std::to_string(game_.PlayerCount) + ")");
                 continue;
@@ -106,7 +113,7 @@ private:
         if (!firstPlaceInTeam)
             return;
         if (std::count(holders.begin(), holders.end(), team) > 1)
-            Add(Severity::Error, TeamsFile, team, SquadColumn(place),
+            Add(Severity::Error, TeamsFile, team, SquadPlaceName(place),
                 "player " + std::to_string(player) + " stands more than once in this squad");
         std::vector<int> others;
         for (const int other : holders) {
@@ -114,7 +121,7 @@ private:
                 others.push_back(other);
         }
         if (!others.empty())
-            Add(Severity::Error, TeamsFile, team, SquadColumn(place),
+            Add(Severity::Error, TeamsFile, team, SquadPlaceName(place),
                 "player " + std::to_string(player) + " also stands in the squad of team " + TeamList(others));
     }
 
@@ -127,17 +134,7 @@ private:
             return;
         }
         CheckTeamNumber(number, player);
-        for (const auto& field : PlayerNumberFields) {
-            const int value = player.*field.member;
-            if (field.codes && !field.codes->WordFor(value))
-                Add(Severity::Warning, PlayersFile, number, std::string(field.name),
-                    std::to_string(value) + " is no code of its list (" + std::to_string(field.codes->firstCode) +
-                        " to " + std::to_string(field.codes->firstCode + field.codes->words.size() - 1) + ")");
-            if (field.range && (value < field.range->low || value > field.range->high))
-                Add(Severity::Warning, PlayersFile, number, std::string(field.name),
-                    std::to_string(value) + " is outside the range " + std::to_string(field.range->low) + " - " +
-                        std::to_string(field.range->high));
-        }
+        CheckValues<PlayerRecord>(PlayersFile, number, player, PlayerFields, " is no code of its list");
         if (player.surname.empty())
             Add(Severity::Warning, PlayersFile, number, "surname",
                 "is empty, and an empty surname ends a search listing in the editor");
@@ -174,6 +171,28 @@ std::vector<Problem> ProblemsInGame(const Game& game)
     // Players first, as the files are read; each file in record order.
     std::stable_sort(problems.begin(), problems.end(), [](const Problem& a, const Problem& b) {
         return a.file != b.file && a.file == PlayersFile;
+    });
+    return problems;
+}
+
+std::vector<Problem> ProblemsOfGame(const Game& game, std::string_view playersBytes, std::string_view teamsBytes)
+{
+    std::vector<Problem> problems = ProblemsInPlayersFile(playersBytes);
+    const std::vector<Problem> teamsFile = ProblemsInTeamsFile(teamsBytes);
+    problems.insert(problems.end(), teamsFile.begin(), teamsFile.end());
+
+    std::set<std::pair<std::string, int>> misread;
+    for (const Problem& problem : problems) {
+        if (problem.severity == Severity::Error && problem.field != "end of file")
+            misread.insert({problem.file, problem.record});
+    }
+    const std::vector<Problem> inGame = ProblemsInGame(game);
+    problems.insert(problems.end(), inGame.begin(), inGame.end());
+    std::erase_if(problems, [&misread](const Problem& problem) {
+        return problem.severity == Severity::Warning && misread.contains({problem.file, problem.record});
+    });
+    std::stable_sort(problems.begin(), problems.end(), [](const Problem& a, const Problem& b) {
+        return std::tuple(a.severity, a.file, a.record) < std::tuple(b.severity, b.file, b.record);
     });
     return problems;
 }

@@ -1,71 +1,75 @@
-#include "cli/csv_layout.h"
+#include "csv/csv_layout.h"
 
 #include <charconv>
+#include <span>
 
-#include "cli/record_fields.h"
-#include "cli/utf8.h"
+#include "data/fields.h"
 #include "data/text_lines.h"
+#include "data/utf8.h"
 
 namespace {
 
-template <class Record, class Texts, class Numbers>
-void AppendColumns(CsvRow& row, const Texts& textFields, const Numbers& numberFields)
+template <class Record>
+CsvRow Columns(const RecordLayout<Record>& layout)
 {
-    for (const auto& field : textFields)
-        row.emplace_back(field.name);
-    for (const auto& field : numberFields) {
+    CsvRow row{std::string(layout.key)};
+    for (const Field<Record>& field : layout.fields) {
         row.emplace_back(field.name);
         if (field.codes)
             row.push_back(WordColumn(field.name));
     }
+    return row;
 }
 
-template <class Record, class Texts, class Numbers>
-void AppendValues(CsvRow& row, const Record& record, const Texts& textFields, const Numbers& numberFields)
+template <class Record>
+CsvRow Values(int number, const Record& record, std::span<const Field<Record>> fields)
 {
-    for (const auto& field : textFields)
-        row.push_back(Utf8FromCp1252(record.*field.member));
-    for (const auto& field : numberFields) {
-        const int value = record.*field.member;
+    CsvRow row{std::to_string(number)};
+    for (const Field<Record>& field : fields) {
+        if (field.text) {
+            row.push_back(Utf8FromCp1252(record.*field.text));
+            continue;
+        }
+        const int value = record.*field.number;
         row.push_back(std::to_string(value));
         if (field.codes)
             row.emplace_back(field.codes->WordFor(value).value_or(""));
     }
+    return row;
 }
 
 }  // namespace
 
 CsvRow PlayerColumns()
 {
-    CsvRow row{std::string(PlayerKeyColumn)};
-    AppendColumns<PlayerRecord>(row, PlayerTextFields, PlayerNumberFields);
-    return row;
+    return Columns(PlayerLayout);
 }
 
 CsvRow TeamColumns()
 {
-    CsvRow row{std::string(TeamKeyColumn)};
-    AppendColumns<TeamRecord>(row, TeamTextFields, TeamNumberFields);
+    CsvRow row = Columns(TeamLayout);
     for (int place = 1; place <= SquadSize; ++place)
-        row.push_back(SquadColumn(place));
+        row.push_back(SquadPlaceName(place));
     return row;
 }
 
 CsvRow PlayerRow(const Game& game, int number)
 {
-    CsvRow row{std::to_string(number)};
-    AppendValues(row, game.Players[number], PlayerTextFields, PlayerNumberFields);
-    return row;
+    return Values<PlayerRecord>(number, game.Players[number], PlayerFields);
 }
 
 CsvRow TeamRow(const Game& game, int number)
 {
     const TeamRecord& team = game.Teams[number];
-    CsvRow row{std::to_string(number)};
-    AppendValues(row, team, TeamTextFields, TeamNumberFields);
+    CsvRow row = Values<TeamRecord>(number, team, TeamFields);
     for (int place = 1; place <= SquadSize; ++place)
         row.push_back(std::to_string(team.squad[place]));
     return row;
+}
+
+std::string WordColumn(std::string_view field)
+{
+    return std::string(field) + "Name";
 }
 
 std::optional<std::int16_t> WholeNumber(std::string_view text)

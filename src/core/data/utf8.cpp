@@ -1,4 +1,4 @@
-#include "cli/utf8.h"
+#include "data/utf8.h"
 
 #include "data/cp1252.h"
 

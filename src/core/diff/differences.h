@@ -5,7 +5,7 @@
 
 #include "data/game.h"
 
-// One difference between two worlds, said for a person (`text`) and for tools.
+// One difference between two games, said for a person (`text`) and for tools.
 struct Difference {
     std::string change;  // "added", "removed", "changed", "moved", "rearranged"
     std::string file;    // "players.dat" or "teams.dat"
@@ -20,5 +20,3 @@ struct Difference {
 // moved, joined or left; a squad that holds the same players in other places
 // comes as "rearranged".
 std::vector<Difference> CompareGames(const Game& before, const Game& after);
-
-std::string DifferenceJson(const Difference& difference);

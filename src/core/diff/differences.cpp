@@ -1,14 +1,23 @@
-#include "cli/differences.h"
+#include "diff/differences.h"
 
 #include <algorithm>
 #include <iterator>
 
-#include "cli/json.h"
-#include "cli/record_fields.h"
-#include "cli/squads.h"
-#include "cli/utf8.h"
+#include "data/fields.h"
+#include "data/squad.h"
+#include "data/utf8.h"
 
 namespace {
+
+constexpr std::string_view PlayersFile = PlayerLayout.file;
+constexpr std::string_view TeamsFile = TeamLayout.file;
+
+// A player as a person reads him: "A J Example" (UTF-8).
+std::string PlayerLabel(const PlayerRecord& player)
+{
+    const std::string name = player.initials.empty() ? player.surname : player.initials + " " + player.surname;
+    return Utf8FromCp1252(name);
+}
 
 std::string Quoted(const std::string& cp1252)
 {
@@ -26,8 +35,8 @@ std::string TeamTitle(const Game& game, int number)
 }
 
 // A coded value with its word, "2 (England)", so that a person need not look it up.
-template <class Field>
-std::string Coded(const Field& field, int value)
+template <class Record>
+std::string Coded(const Field<Record>& field, int value)
 {
     const auto word = field.codes ? field.codes->WordFor(value) : std::nullopt;
     return std::to_string(value) + (word ? " (" + std::string(*word) + ")" : "");
@@ -49,22 +58,25 @@ private:
     void Add(Difference difference) { differences_.push_back(std::move(difference)); }
 
     template <class Record>
-    void CompareFields(const char* file, int number, const std::string& title, const Record& a, const Record& b,
-                       const auto& textFields, const auto& numberFields)
+    void CompareFields(std::string_view file, int number, const std::string& title, const Record& a, const Record& b,
+                       std::span<const Field<Record>> fields)
     {
-        for (const auto& field : textFields) {
-            const std::string& from = a.*field.member;
-            const std::string& to = b.*field.member;
+        const std::string where(file);
+        for (const Field<Record>& field : fields) {
+            const std::string name(field.name);
+            if (field.text) {
+                const std::string& from = a.*field.text;
+                const std::string& to = b.*field.text;
+                if (from != to)
+                    Add({"changed", where, number, name, Utf8FromCp1252(from), Utf8FromCp1252(to),
+                         title + ": " + name + " " + Quoted(from) + " -> " + Quoted(to)});
+                continue;
+            }
+            const int from = a.*field.number;
+            const int to = b.*field.number;
             if (from != to)
-                Add({"changed", file, number, std::string(field.name), Utf8FromCp1252(from), Utf8FromCp1252(to),
-                     title + ": " + std::string(field.name) + " " + Quoted(from) + " -> " + Quoted(to)});
-        }
-        for (const auto& field : numberFields) {
-            const int from = a.*field.member;
-            const int to = b.*field.member;
-            if (from != to)
-                Add({"changed", file, number, std::string(field.name), std::to_string(from), std::to_string(to),
-                     title + ": " + std::string(field.name) + " " + Coded(field, from) + " -> " + Coded(field, to)});
+                Add({"changed", where, number, name, std::to_string(from), std::to_string(to),
+                     title + ": " + name + " " + Coded(field, from) + " -> " + Coded(field, to)});
         }
     }
 
@@ -73,13 +85,13 @@ private:
         const int countBefore = LoadedPlayerCount(before_);
         const int countAfter = LoadedPlayerCount(after_);
         for (int number = 1; number <= std::min(countBefore, countAfter); ++number)
-            CompareFields("players.dat", number, PlayerTitle(after_, number), before_.Players[number],
-                          after_.Players[number], PlayerTextFields, PlayerNumberFields);
+            CompareFields<PlayerRecord>(PlayersFile, number, PlayerTitle(after_, number), before_.Players[number],
+                                        after_.Players[number], PlayerFields);
         for (int number = countBefore + 1; number <= countAfter; ++number)
-            Add({"added", "players.dat", number, {}, {}, PlayerLabel(after_.Players[number]),
+            Add({"added", std::string(PlayersFile), number, {}, {}, PlayerLabel(after_.Players[number]),
                  PlayerTitle(after_, number) + " added"});
         for (int number = countAfter + 1; number <= countBefore; ++number)
-            Add({"removed", "players.dat", number, {}, PlayerLabel(before_.Players[number]), {},
+            Add({"removed", std::string(PlayersFile), number, {}, PlayerLabel(before_.Players[number]), {},
                  PlayerTitle(before_, number) + " removed"});
     }
 
@@ -90,7 +102,7 @@ private:
         for (int number = 1; number <= std::min(countBefore, countAfter); ++number) {
             const TeamRecord& a = before_.Teams[number];
             const TeamRecord& b = after_.Teams[number];
-            CompareFields("teams.dat", number, TeamTitle(after_, number), a, b, TeamTextFields, TeamNumberFields);
+            CompareFields<TeamRecord>(TeamsFile, number, TeamTitle(after_, number), a, b, TeamFields);
             auto playersA = std::vector<int>(a.squad.begin() + 1, a.squad.end());
             auto playersB = std::vector<int>(b.squad.begin() + 1, b.squad.end());
             if (playersA == playersB)
@@ -98,14 +110,14 @@ private:
             std::sort(playersA.begin(), playersA.end());
             std::sort(playersB.begin(), playersB.end());
             if (playersA == playersB)
-                Add({"rearranged", "teams.dat", number, "squad", {}, {},
+                Add({"rearranged", std::string(TeamsFile), number, "squad", {}, {},
                      TeamTitle(after_, number) + ": the squad holds the same players in other places"});
         }
         for (int number = countBefore + 1; number <= countAfter; ++number)
-            Add({"added", "teams.dat", number, {}, {}, Utf8FromCp1252(after_.Teams[number].teamName),
+            Add({"added", std::string(TeamsFile), number, {}, {}, Utf8FromCp1252(after_.Teams[number].teamName),
                  TeamTitle(after_, number) + " added"});
         for (int number = countAfter + 1; number <= countBefore; ++number)
-            Add({"removed", "teams.dat", number, {}, Utf8FromCp1252(before_.Teams[number].teamName), {},
+            Add({"removed", std::string(TeamsFile), number, {}, Utf8FromCp1252(before_.Teams[number].teamName), {},
                  TeamTitle(before_, number) + " removed"});
     }
 
@@ -130,7 +142,7 @@ private:
                     text += " left " + TeamTitle(before_, from);
                 else
                     text += " moved from " + TeamTitle(before_, from) + " to " + TeamTitle(after_, to);
-                Add({"moved", "players.dat", number, "squad", std::to_string(from), std::to_string(to), text});
+                Add({"moved", std::string(PlayersFile), number, "squad", std::to_string(from), std::to_string(to), text});
             }
         }
     }
@@ -155,17 +167,4 @@ private:
 std::vector<Difference> CompareGames(const Game& before, const Game& after)
 {
     return Comparer(before, after).Run();
-}
-
-std::string DifferenceJson(const Difference& d)
-{
-    std::string json = "{\"change\":" + JsonString(d.change) + ",\"file\":" + JsonString(d.file) +
-                       ",\"record\":" + std::to_string(d.record);
-    if (!d.field.empty())
-        json += ",\"field\":" + JsonString(d.field);
-    if (d.change != "added" && d.change != "rearranged")
-        json += ",\"from\":" + JsonString(d.from);
-    if (d.change != "removed" && d.change != "rearranged")
-        json += ",\"to\":" + JsonString(d.to);
-    return json + ",\"text\":" + JsonString(d.text) + "}";
 }
