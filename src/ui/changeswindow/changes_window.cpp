@@ -8,12 +8,30 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "data/fields.h"
+
 namespace {
 
 // Rows of changes carry their place in the list; group rows carry none.
 constexpr int NoChange = -1;
 
+enum Group { PlayersGroup, TeamsGroup, SquadMovesGroup };
 constexpr std::array<const char*, 3> GroupNames{"Players", "Teams", "Squad moves"};
+
+bool IsSquadChange(const Difference& change)
+{
+    return change.change == "moved" || change.change == "rearranged";
+}
+
+bool IsTeamChange(const Difference& change)
+{
+    return change.file == TeamLayout.file;
+}
+
+Group GroupOf(const Difference& change)
+{
+    return IsSquadChange(change) ? SquadMovesGroup : IsTeamChange(change) ? TeamsGroup : PlayersGroup;
+}
 
 }  // namespace
 
@@ -39,7 +57,7 @@ ChangesWindow::ChangesWindow(QWidget* parent) : QDialog(parent)
     resize(640, 420);
 }
 
-void ChangesWindow::ShowChanges(const QString& since, const std::vector<ChangeEntry>& changes)
+void ChangesWindow::ShowChanges(const QString& since, const std::vector<Difference>& changes)
 {
     changes_ = changes;
     summary->setText(changes.empty() ? QStringLiteral("Nothing has changed %1.").arg(since)
@@ -48,16 +66,17 @@ void ChangesWindow::ShowChanges(const QString& since, const std::vector<ChangeEn
     changeTree->clear();
     std::array<QTreeWidgetItem*, GroupNames.size()> groups{};
     for (int index = 0; index < int(changes.size()); ++index) {
-        const ChangeEntry& change = changes[std::size_t(index)];
-        QTreeWidgetItem*& group = groups[std::size_t(change.group)];
+        const Difference& change = changes[std::size_t(index)];
+        const Group kind = GroupOf(change);
+        QTreeWidgetItem*& group = groups[std::size_t(kind)];
         if (!group) {
-            group = new QTreeWidgetItem({QString::fromLatin1(GroupNames[std::size_t(change.group)])});
+            group = new QTreeWidgetItem({QString::fromLatin1(GroupNames[std::size_t(kind)])});
             group->setData(0, Qt::UserRole, NoChange);
             QFont bold = group->font(0);
             bold.setBold(true);
             group->setFont(0, bold);
         }
-        auto* row = new QTreeWidgetItem(group, {change.text});
+        auto* row = new QTreeWidgetItem(group, {QString::fromStdString(change.text)});
         row->setData(0, Qt::UserRole, index);
     }
     for (QTreeWidgetItem* group : groups) {
@@ -76,8 +95,8 @@ void ChangesWindow::GoTo(const QTreeWidgetItem* item)
     const int index = item ? item->data(0, Qt::UserRole).toInt() : NoChange;
     if (index < 0 || index >= int(changes_.size()))
         return;
-    const ChangeEntry& change = changes_[std::size_t(index)];
-    if (change.team)
+    const Difference& change = changes_[std::size_t(index)];
+    if (IsTeamChange(change))
         emit TeamChosen(change.record);
     else
         emit PlayerChosen(change.record);

@@ -9,8 +9,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "data/code_lists.h"
 #include "data/cp1252.h"
+#include "data/fields.h"
 #include "data/squad.h"
 #include "forms/game_text.h"
 #include "search/player_find.h"
@@ -21,10 +21,8 @@ enum Column { NumberColumn, NameColumn, ClubColumn, NationalityColumn, AgeColumn
 
 QString Nationality(const PlayerRecord& player)
 {
-    if (player.homeCountry >= 1 && player.homeCountry <= static_cast<int>(CountryList.size())) {
-        const std::string_view word = CountryList[std::size_t(player.homeCountry - 1)];
-        return QString::fromLatin1(word.data(), qsizetype(word.size()));
-    }
+    if (const auto word = Countries.WordFor(player.homeCountry))
+        return QString::fromLatin1(word->data(), qsizetype(word->size()));
     return QString::number(player.homeCountry);
 }
 

@@ -10,6 +10,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "data/fields.h"
+
 namespace {
 
 enum Column { FileColumn, RecordColumn, FieldColumn, SeverityColumn, MessageColumn };
@@ -21,8 +23,7 @@ QTableWidgetItem* Cell(const QString& text)
     return cell;
 }
 
-}  // namespace
-
+// "1 error, 3 warnings"
 QString ProblemCount(int errors, int warnings)
 {
     return QStringLiteral("%1 %2, %3 %4")
@@ -31,6 +32,8 @@ QString ProblemCount(int errors, int warnings)
         .arg(warnings)
         .arg(warnings == 1 ? QStringLiteral("warning") : QStringLiteral("warnings"));
 }
+
+}  // namespace
 
 ProblemsWindow::ProblemsWindow(QWidget* parent) : QDialog(parent)
 {
@@ -61,11 +64,11 @@ ProblemsWindow::ProblemsWindow(QWidget* parent) : QDialog(parent)
     resize(820, 420);
 }
 
-void ProblemsWindow::ShowProblems(const std::vector<ProblemEntry>& problems)
+void ProblemsWindow::ShowProblems(const std::vector<Problem>& problems)
 {
     problems_ = problems;
-    const int errors =
-        int(std::count_if(problems.begin(), problems.end(), [](const ProblemEntry& p) { return p.error; }));
+    const int errors = int(std::count_if(problems.begin(), problems.end(),
+                                         [](const Problem& p) { return p.severity == Severity::Error; }));
     summary->setText(problems.empty() ? QStringLiteral("No problems found.")
                                       : ProblemCount(errors, int(problems.size()) - errors));
 
@@ -74,16 +77,17 @@ void ProblemsWindow::ShowProblems(const std::vector<ProblemEntry>& problems)
     problemTable->clearContents();
     problemTable->setRowCount(int(problems.size()));
     for (int row = 0; row < int(problems.size()); ++row) {
-        const ProblemEntry& problem = problems[std::size_t(row)];
-        problemTable->setItem(row, FileColumn, Cell(problem.file));
+        const Problem& problem = problems[std::size_t(row)];
+        const bool error = problem.severity == Severity::Error;
+        problemTable->setItem(row, FileColumn, Cell(QString::fromStdString(problem.file)));
         auto* record = Cell(QString::number(problem.record));
         record->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         problemTable->setItem(row, RecordColumn, record);
-        problemTable->setItem(row, FieldColumn, Cell(problem.field));
-        auto* severity = Cell(problem.error ? QStringLiteral("error") : QStringLiteral("warning"));
-        severity->setIcon(problem.error ? errorIcon : warningIcon);
+        problemTable->setItem(row, FieldColumn, Cell(QString::fromStdString(problem.field)));
+        auto* severity = Cell(error ? QStringLiteral("error") : QStringLiteral("warning"));
+        severity->setIcon(error ? errorIcon : warningIcon);
         problemTable->setItem(row, SeverityColumn, severity);
-        problemTable->setItem(row, MessageColumn, Cell(problem.message));
+        problemTable->setItem(row, MessageColumn, Cell(QString::fromStdString(problem.message)));
     }
     problemTable->resizeColumnsToContents();
     problemTable->horizontalHeader()->setStretchLastSection(true);
@@ -95,8 +99,8 @@ void ProblemsWindow::GoToRow(int row)
 {
     if (row < 0 || row >= int(problems_.size()))
         return;
-    const ProblemEntry& problem = problems_[std::size_t(row)];
-    if (problem.file == QLatin1String("teams.dat"))
+    const Problem& problem = problems_[std::size_t(row)];
+    if (problem.file == TeamLayout.file)
         emit TeamChosen(problem.record);
     else
         emit PlayerChosen(problem.record);

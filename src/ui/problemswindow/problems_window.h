@@ -4,17 +4,10 @@
 #include <QString>
 #include <vector>
 
+#include "check/problems.h"
+
 class QLabel;
 class QTableWidget;
-
-// One problem of a game as the list shows it.
-struct ProblemEntry {
-    QString file;  // "players.dat" or "teams.dat"
-    int record = 0;  // the player's number, or the team's place in its file
-    QString field;
-    bool error = false;  // otherwise a warning
-    QString message;
-};
 
 // Check Game: every problem of the game in a table, in the order given
 // (errors first). A double click or Enter on a row goes to its player or
@@ -25,7 +18,7 @@ class ProblemsWindow : public QDialog {
 public:
     explicit ProblemsWindow(QWidget* parent = nullptr);
 
-    void ShowProblems(const std::vector<ProblemEntry>& problems);
+    void ShowProblems(const std::vector<Problem>& problems);
 
     QLabel* summary = nullptr;
     QTableWidget* problemTable = nullptr;
@@ -40,8 +33,5 @@ protected:
 private:
     void GoToRow(int row);
 
-    std::vector<ProblemEntry> problems_;
+    std::vector<Problem> problems_;
 };
-
-// "1 error, 3 warnings"
-QString ProblemCount(int errors, int warnings);

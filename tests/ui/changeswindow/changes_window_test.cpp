@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "changeswindow/changes_window.h"
+#include "diff/game_files.h"
 
 using ::testing::ElementsAre;
 
@@ -17,18 +18,12 @@ inline void PrintTo(const QString& text, std::ostream* out)
 
 namespace {
 
-// What differs in the fixture game_with_changes from its .orig files.
-std::vector<ChangeEntry> FixtureChanges()
+// What differs in the fixture game_with_changes from its .orig files: a
+// surname, a team's wealth, one player moved and one who left his club.
+std::vector<Difference> FixtureChanges()
 {
-    using G = ChangeEntry;
-    return {
-        {G::Players, "player 3 (C Carvery): surname \"Carver\" -> \"Carvery\"", false, 3},
-        {G::Players, "player 4 (D Dunmore): teamNumber 2 -> 1", false, 4},
-        {G::Players, "player 6 (F Fairweather): teamNumber 3 -> 0", false, 6},
-        {G::Teams, "team 2 (Bayside): wealth 40 -> 75", true, 2},
-        {G::SquadMoves, "player 4 (D Dunmore) moved from team 2 (Bayside) to team 1 (Harbour CC)", false, 4},
-        {G::SquadMoves, "player 6 (F Fairweather) left team 3 (Kentish Town)", false, 6},
-    };
+    const std::string folder = KOLTA_FIXTURES "/game_with_changes";
+    return CompareGames(*ReadGameFiles(folder, ".orig"), *ReadGameFiles(folder));
 }
 
 std::vector<QString> Texts(const QTreeWidgetItem& parent)
@@ -51,7 +46,12 @@ TEST(ChangesWindowTest, GroupsTheChangesAndEachGoesToItsRecord)
     EXPECT_EQ(window.summary->text(), "6 changes since the original files:");
     QTreeWidget& tree = *window.changeTree;
     EXPECT_THAT(Texts(*tree.invisibleRootItem()), ElementsAre("Players (3)", "Teams (1)", "Squad moves (2)"));
-    EXPECT_EQ(tree.topLevelItem(2)->child(1)->text(0), "player 6 (F Fairweather) left team 3 (Kentish Town)");
+    EXPECT_THAT(Texts(*tree.topLevelItem(0)),
+                ElementsAre("player 3 (C Carvery): surname \"Carver\" -> \"Carvery\"",
+                            "player 4 (D Dunmore): teamNumber 2 -> 1", "player 6 (F Fairweather): teamNumber 3 -> 0"));
+    EXPECT_THAT(Texts(*tree.topLevelItem(2)),
+                ElementsAre("player 4 (D Dunmore) moved from team 2 (Bayside) to team 1 (Harbour CC)",
+                            "player 6 (F Fairweather) left team 3 (Kentish Town)"));
 
     QTreeWidgetItem* wealth = tree.topLevelItem(1)->child(0);
     const QPoint at = tree.visualItemRect(wealth).center();

@@ -6,21 +6,23 @@
 
 #include <gtest/gtest.h>
 
+#include "check/problems.h"
+#include "data/file_io.h"
+#include "diff/game_files.h"
 #include "problemswindow/problems_bar.h"
 #include "problemswindow/problems_window.h"
 
 namespace {
 
-// What the check finds in the fixture game_with_problems: a player in two
-// squads, a squad naming a player who doesn't exist, a skill out of range.
-std::vector<ProblemEntry> FixtureProblems()
+// The check of the fixture game_with_problems: a player in two squads, a
+// squad naming a player who doesn't exist, a skill out of range.
+std::vector<Problem> FixtureProblems()
 {
-    return {
-        {"teams.dat", 1, "squad2", true, "player 2 also stands in the squad of team 2"},
-        {"teams.dat", 2, "squad3", true, "player 2 also stands in the squad of team 1"},
-        {"teams.dat", 3, "squad2", true, "names player 9, who is not in players.dat (1 to PlayerCount 6)"},
-        {"players.dat", 5, "batSkill", false, "75 is outside the range 0 - 60"},
-    };
+    const std::string folder = KOLTA_FIXTURES "/game_with_problems";
+    const auto game = ReadGameFiles(folder);
+    const auto players = ReadWholeFile(game->PlayersPath);
+    const auto teams = ReadWholeFile(game->TeamsPath);
+    return ProblemsOfGame(*game, *players, *teams);
 }
 
 void DoubleClickCell(QTableWidget& table, int row, int column)
@@ -45,10 +47,16 @@ TEST(ProblemsWindowTest, EachRowGoesToItsTeamOrPlayer)
     const QStringList header{"File", "Record", "Field", "Severity", "What is wrong"};
     for (int column = 0; column < header.size(); ++column)
         EXPECT_EQ(table.horizontalHeaderItem(column)->text(), header[column]);
-    EXPECT_EQ(table.item(2, 0)->text(), "teams.dat");
-    EXPECT_EQ(table.item(2, 1)->text(), "3");
-    EXPECT_EQ(table.item(2, 3)->text(), "error");
-    EXPECT_EQ(table.item(3, 3)->text(), "warning");
+    const auto row = [&table](int row) {
+        QStringList cells;
+        for (int column = 0; column < 4; ++column)
+            cells << table.item(row, column)->text();
+        return cells.join(' ');
+    };
+    EXPECT_EQ(row(0), "teams.dat 1 squad2 error");
+    EXPECT_EQ(row(2), "teams.dat 3 squad2 error");
+    EXPECT_EQ(row(3), "players.dat 5 batSkill warning");
+    EXPECT_EQ(table.item(2, 4)->text(), "names player 9, who is not in players.dat (1 to PlayerCount 6)");
 
     DoubleClickCell(table, 2, 4);
     ASSERT_EQ(teams.count(), 1);
