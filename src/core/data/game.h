@@ -6,9 +6,6 @@
 
 #include "data/records.h"
 
-// Rows 1 to 2000 of a search's working copies; row 0 is never used.
-using WorkingTable = std::array<PlayerRecord, MaxPlayers + 1>;
-
 // Everything the editor knows about one game. The windows share one instance;
 // tests make their own. It is large, so keep it on the heap.
 struct Game {
@@ -20,13 +17,6 @@ struct Game {
     std::string GameDirectory;
     std::string PlayersPath;
     std::string TeamsPath;
-
-    WorkingTable ClubMatches{};
-    WorkingTable CountryMatches{};
-    WorkingTable BatMatches{};
-    WorkingTable BowlMatches{};
-    WorkingTable FieldMatches{};
-    const PlayerRecord BlankPlayer{};
 
     // The first save into a game directory keeps the files it replaces as
     // .bak copies; pointing the game at another directory starts afresh.

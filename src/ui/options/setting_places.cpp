@@ -1,4 +1,4 @@
-#include "mainwindow/setting_places.h"
+#include "options/setting_places.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -16,8 +16,9 @@
 #include "forms/shape.h"
 #include "forms/text_box.h"
 #include "support/game_builder.h"
-#include "mainwindow/main_form.h"
-#include "searchwindow/playeradd_form.h"
+#include "mainwindow/main_window.h"
+#include "searchwindow/search_window.h"
+#include "support/window_parts.h"
 
 using ::testing::ElementsAre;
 
@@ -47,13 +48,13 @@ std::vector<QString> Rows(const ListBox& list)
 }
 
 // Searches with the filters as they stand and picks the candidate with that surname.
-void SearchAndPick(PlayerAddForm& form, const QString& surname)
+void SearchAndPick(SearchWindow& form, const QString& surname)
 {
-    Click(form.Command3);  // Search
-    const auto rows = Rows(*form.List1);
+    Click(&Find<QPushButton>(form, "searchButton"));  // Search
+    const auto rows = Rows(Find<ListBox>(form, "resultList"));
     const auto at = std::find(rows.begin(), rows.end(), surname);
     ASSERT_NE(at, rows.end()) << surname.toStdString();
-    ClickRow(*form.List1, int(at - rows.begin()));
+    ClickRow(Find<ListBox>(form, "resultList"), int(at - rows.begin()));
 }
 
 class SearchWindowTest : public ::testing::Test {
@@ -69,9 +70,9 @@ protected:
         b.Team(Kiwis, "Kiwis XI", {6, 7}).homeCountry = 4;
         b.Team(Newlands, "Newlands", {8}).homeCountry = 4;
 
-        main = std::make_unique<MainForm>(game, SettingPlaces{});
-        main->RunStartupChain();
-        main->Timer1->stop();
+        main = std::make_unique<MainWindow>(game, SettingPlaces{});
+        main->ShowFirstEntries();
+        Find<QTimer>(*main, "editTimer").stop();
         ClearShownMessages();
         SetMessageAnswerer([this](const ShownMessage&) { return answer; });
     }
@@ -83,12 +84,12 @@ protected:
 
     // Presses `button` of the main window and gives the name of the window it
     // opened, "" if none; `work` drives the search window if that opens.
-    QString Press(QPushButton* button, std::function<void(PlayerAddForm&)> work = {})
+    QString Press(QPushButton* button, std::function<void(SearchWindow&)> work = {})
     {
         QString opened;
         SetModalDriver([&](QDialog& form) {
             opened = form.objectName();
-            if (auto* search = dynamic_cast<PlayerAddForm*>(&form); search && work)
+            if (auto* search = dynamic_cast<SearchWindow*>(&form); search && work)
                 work(*search);
         });
         Click(button);
@@ -109,7 +110,9 @@ protected:
 
     GameBuilder b;
     Game& game = *b.game;
-    std::unique_ptr<MainForm> main;
+    std::unique_ptr<MainWindow> main;
+
+    ListBox& Squad() const { return Find<ListBox>(*main, "squadList"); }
     int answer = IdOk;
 };
 
@@ -121,35 +124,35 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
     game.Players[6].batSkill = 10;
     game.Teams[Newlands].squad[2] = 7;  // in two squads: the higher team is his club
     const auto teams = game.Teams;
-    Press(main->Command1, [&](PlayerAddForm& form) {
+    Press(&Find<QPushButton>(*main, "addExistingPlayerButton"), [&](SearchWindow& form) {
         EXPECT_EQ(form.windowTitle(), "Add Player..");
-        Click(form.Command1);  // no candidate yet
+        Click(&Find<QPushButton>(form, "addButton"));  // no candidate yet
         SearchAndPick(form, "P0002");  // already in the squad
-        Click(form.Command1);
+        Click(&Find<QPushButton>(form, "addButton"));
         EXPECT_EQ(game.Teams, teams);
 
         SearchAndPick(form, "P0030");
         // Filters and order take effect when Search is pressed.
-        form.Combo2->SetText("Kiwis XI");
-        form.Combo4[SortKeyCombo]->SetText("Bat Skill");
-        EXPECT_EQ(form.List1->ListCount(), 40);
-        Click(form.Command3);  // Search
-        EXPECT_THAT(Rows(*form.List1), ElementsAre("P0007", "P0006"));
-        EXPECT_FALSE(form.Shape2->isVisible()) << "the bar is hidden after the sort";
-        Click(form.Command1);
-        Click(form.Command1);  // him again
+        Find<ComboBox>(form, "clubFilter").SetText("Kiwis XI");
+        Find<ComboBox>(form, "sortKeyList").SetText("Bat Skill");
+        EXPECT_EQ(Find<ListBox>(form, "resultList").ListCount(), 40);
+        Click(&Find<QPushButton>(form, "searchButton"));  // Search
+        EXPECT_THAT(Rows(Find<ListBox>(form, "resultList")), ElementsAre("P0007", "P0006"));
+        EXPECT_FALSE(Find<Shape>(form, "sortBar").isVisible()) << "the bar is hidden after the sort";
+        Click(&Find<QPushButton>(form, "addButton"));
+        Click(&Find<QPushButton>(form, "addButton"));  // him again
 
         // From other squads: he leaves them, and the message names his club.
-        ClickRow(*form.List1, 0);
-        EXPECT_EQ(form.Label3->text(), "7");
-        EXPECT_EQ(form.Text1[TeamNameBox]->Text(), "Newlands");
-        Click(form.Command1);
+        ClickRow(Find<ListBox>(form, "resultList"), 0);
+        EXPECT_EQ(form.Candidate(), 7);
+        EXPECT_EQ(Find<TextBox>(form, "presentClub").Text(), "Newlands");
+        Click(&Find<QPushButton>(form, "addButton"));
         EXPECT_EQ(ShownMessages().back().flags, MbInformation);
-        EXPECT_THAT(Rows(*main->List1), ElementsAre("K Venn", "A P0002", "A P0003", "A P0030", "A P0007"));
-        EXPECT_EQ(main->List1->ListIndex(), -1);
+        EXPECT_THAT(Rows(Squad()), ElementsAre("K Venn", "A P0002", "A P0003", "A P0030", "A P0007"));
+        EXPECT_EQ(Squad().ListIndex(), -1);
         EXPECT_THAT(Places(game.Teams[Newlands]), ElementsAre(8));
         // The panel is not refreshed: the old club stays until the next pick.
-        EXPECT_EQ(form.Text1[TeamNameBox]->Text(), "Newlands");
+        EXPECT_EQ(Find<TextBox>(form, "presentClub").Text(), "Newlands");
         EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "Player already in team",
                                          "A P0030 has been added to the Harbour CC squad.", "Player already in team",
                                          "A P0007 has been added to the Harbour CC squad and removed from "
@@ -158,23 +161,23 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
 
         // Players without a team, up to the twentieth; then the limit comes
         // first, also for a candidate who is in the squad.
-        form.Combo2->SetText(form.Combo2->List(0));
+        Find<ComboBox>(form, "clubFilter").SetText(Find<ComboBox>(form, "clubFilter").List(0));
         for (int number = 9; number <= 23; ++number) {
             SearchAndPick(form, QStringLiteral("P00%1").arg(number, 2, 10, QLatin1Char('0')));
-            Click(form.Command1);
+            Click(&Find<QPushButton>(form, "addButton"));
         }
         EXPECT_EQ(Texts().back(), "A P0023 has been added to the Harbour CC squad.");
-        EXPECT_EQ(main->List1->ListCount(), 20);
+        EXPECT_EQ(Squad().ListCount(), 20);
         ClearShownMessages();
         SearchAndPick(form, "P0025");
-        Click(form.Command1);
+        Click(&Find<QPushButton>(form, "addButton"));
         SearchAndPick(form, "P0002");
-        Click(form.Command1);
+        Click(&Find<QPushButton>(form, "addButton"));
     });
     EXPECT_EQ(game.Teams[Harbour].squad[20], 23);
     // A full squad refuses both adds before any window opens.
-    EXPECT_EQ(Press(main->Command1), "");
-    EXPECT_EQ(Press(main->Command3), "");
+    EXPECT_EQ(Press(&Find<QPushButton>(*main, "addExistingPlayerButton")), "");
+    EXPECT_EQ(Press(&Find<QPushButton>(*main, "addNewPlayerButton")), "");
     EXPECT_THAT(Titles(), ElementsAre("Maximum Players", "Maximum Players", "Maximum Players", "Maximum Players"));
     EXPECT_EQ(Texts().back(), "You already have the maximum of 20 players in the squad.");
 }
@@ -183,42 +186,42 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
 // open and change nothing, and the second opening shows nothing of the first.
 TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
 {
-    ClickRow(*main->List1, 2);
+    ClickRow(Squad(), 2);
     const auto teams = game.Teams;
     bool closed = false;
-    ASSERT_EQ(Press(main->Command4, [&](PlayerAddForm& form) {
+    ASSERT_EQ(Press(&Find<QPushButton>(*main, "replacePlayerButton"), [&](SearchWindow& form) {
                   EXPECT_EQ(form.windowTitle(), "Replace player..");
-                  EXPECT_FALSE(form.Command1->isVisible()) << "no Add in this mode";
-                  Click(form.Command4);         // no candidate
+                  EXPECT_FALSE(Find<QPushButton>(form, "addButton").isVisible()) << "no Add in this mode";
+                  Click(&Find<QPushButton>(form, "replaceButton"));         // no candidate
                   SearchAndPick(form, "Venn");  // himself or a team mate
-                  Click(form.Command4);
+                  Click(&Find<QPushButton>(form, "replaceButton"));
                   EXPECT_EQ(game.Teams, teams);
                   SearchAndPick(form, "Quill");
-                  form.Combo3[1]->SetText("India");
-                  form.Combo4[SortKeyCombo]->SetText("Bat Skill");
-                  Click(form.Command4);
+                  Find<ComboBox>(form, "nationalityFilter").SetText("India");
+                  Find<ComboBox>(form, "sortKeyList").SetText("Bat Skill");
+                  Click(&Find<QPushButton>(form, "replaceButton"));
                   closed = !form.isVisible();
               }),
-              "playeradd");
+              "searchWindow");
     EXPECT_TRUE(closed);
-    EXPECT_THAT(Rows(*main->List1), ElementsAre("K Venn", "A P0002", "S T Quill"));
-    EXPECT_EQ(main->List1->ListIndex(), -1);
-    EXPECT_EQ(Press(main->Command4), "");  // no row chosen
+    EXPECT_THAT(Rows(Squad()), ElementsAre("K Venn", "A P0002", "S T Quill"));
+    EXPECT_EQ(Squad().ListIndex(), -1);
+    EXPECT_EQ(Press(&Find<QPushButton>(*main, "replacePlayerButton")), "");  // no row chosen
 
-    ClickRow(*main->List1, 0);
-    Press(main->Command4, [&](PlayerAddForm& form) {
-        ASSERT_EQ(form.Combo2->ListCount(), 5);  // no double rows from the earlier opening
-        EXPECT_EQ(form.Combo3[1]->ListIndex(), 0);
-        EXPECT_EQ(form.Combo4[SortKeyCombo]->ListIndex(), 0);
-        EXPECT_EQ(form.List1->ListCount(), 0);
-        EXPECT_TRUE(form.Label3->text().isEmpty());
+    ClickRow(Squad(), 0);
+    Press(&Find<QPushButton>(*main, "replacePlayerButton"), [&](SearchWindow& form) {
+        ASSERT_EQ(Find<ComboBox>(form, "clubFilter").ListCount(), 5);  // no double rows from the earlier opening
+        EXPECT_EQ(Find<ComboBox>(form, "nationalityFilter").ListIndex(), 0);
+        EXPECT_EQ(Find<ComboBox>(form, "sortKeyList").ListIndex(), 0);
+        EXPECT_EQ(Find<ListBox>(form, "resultList").ListCount(), 0);
+        EXPECT_EQ(form.Candidate(), std::nullopt);
         // A name edit carried over under the window rebuilds the squad list
         // and leaves no row chosen.
         SearchAndPick(form, "P0003");
-        main->ReselectCurrentTeam();
-        Click(form.Command4);
-        ClickRow(*main->List1, 0);
-        Click(form.Command4);
+        main->RefreshSquad();
+        Click(&Find<QPushButton>(form, "replaceButton"));
+        ClickRow(Squad(), 0);
+        Click(&Find<QPushButton>(form, "replaceButton"));
     });
     EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "Player already in team",
                                      "S T Quill from Bayside has replaced A P0003 in the Harbour CC squad.",
@@ -226,37 +229,37 @@ TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
                                      "A P0003 has replaced K Venn in the Harbour CC squad."));
     EXPECT_THAT(Titles(), ElementsAre("Replace Player", "Error", "Replace Player", "Replace Player", "Replace Player",
                                       "Replace Player"));
-    EXPECT_THAT(Rows(*main->List1), ElementsAre("A P0003", "A P0002", "S T Quill"));
+    EXPECT_THAT(Rows(Squad()), ElementsAre("A P0003", "A P0002", "S T Quill"));
 }
 
 TEST_F(SearchWindowTest, DeleteAsksFirstAndShowsThePlayerWhoFollowed)
 {
     answer = IdNo;
-    Click(main->Command2);
+    Click(&Find<QPushButton>(*main, "deletePlayerButton"));
     EXPECT_THAT(Texts(), ElementsAre("Are you sure you want to delete K Venn from Harbour CC Squad ?"));
     EXPECT_THAT(Titles(), ElementsAre("Delete Player"));
     EXPECT_EQ(ShownMessages()[0].flags, MbCritical | MbYesNo);
     EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(1, 2, 3));
-    EXPECT_EQ(main->List1->ListIndex(), 0);
+    EXPECT_EQ(Squad().ListIndex(), 0);
 
     answer = IdYes;
-    Click(main->Command2);
+    Click(&Find<QPushButton>(*main, "deletePlayerButton"));
     EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(2, 3));
     EXPECT_EQ(game.Players[1].teamNumber, 0);
-    EXPECT_EQ(main->List1->ListIndex(), 0);
-    EXPECT_EQ(main->Label3->text(), "2");
+    EXPECT_EQ(Squad().ListIndex(), 0);
+    EXPECT_EQ(main->CurrentPlayer(), 2);
 
     // The last of the squad: nothing is chosen afterwards, so there is
     // nothing more to delete.
-    ClickRow(*main->List1, 1);
-    Click(main->Command2);
-    EXPECT_EQ(main->List1->ListIndex(), -1);
+    ClickRow(Squad(), 1);
+    Click(&Find<QPushButton>(*main, "deletePlayerButton"));
+    EXPECT_EQ(Squad().ListIndex(), -1);
     ClearShownMessages();
-    Click(main->Command2);
+    Click(&Find<QPushButton>(*main, "deletePlayerButton"));
     EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(2));
     // A full game refuses a new player before his window opens.
     game.PlayerCount = MaxPlayers;
-    EXPECT_EQ(Press(main->Command3), "");
+    EXPECT_EQ(Press(&Find<QPushButton>(*main, "addNewPlayerButton")), "");
     EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "The game already holds its maximum of 2000 players."));
     EXPECT_THAT(Titles(), ElementsAre("Delete Player", "Maximum Players"));
 }

@@ -1,4 +1,4 @@
-#include "newplayerwindow/nplayer_form.h"
+#include "newplayerwindow/new_player_window.h"
 
 #include <QClipboard>
 #include <QLabel>
@@ -14,8 +14,9 @@
 #include "forms/message_box.h"
 #include "forms/modal.h"
 #include "forms/text_box.h"
-#include "mainwindow/main_form.h"
+#include "mainwindow/main_window.h"
 #include "support/game_builder.h"
+#include "support/window_parts.h"
 
 namespace {
 
@@ -37,19 +38,21 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
     b.Players(4);
     b.Team(Club, "Harbour CC", {1, 2}).homeCountry = 1;
     Game& game = *b.game;
-    MainForm main{game, SettingPlaces{}};
-    main.RunStartupChain();
-    main.Timer1->stop();
-    main.List1->SetText(main.List1->List(1));
-    ASSERT_EQ(main.Label3->text(), "2");
+    MainWindow main{game, SettingPlaces{}};
+    main.ShowFirstEntries();
+    Find<QTimer>(main, "editTimer").stop();
+    auto& squad = Find<ListBox>(main, "squadList");
+    squad.SetText(squad.List(1));
+    ASSERT_EQ(main.CurrentPlayer(), 2);
     ClearShownMessages();
     SetMessageAnswerer([](const ShownMessage&) { return IdOk; });
 
     bool closed = false;
     SetModalDriver([&](QDialog& shown) {
-        auto& form = dynamic_cast<NPlayerForm&>(shown);
+        auto& form = dynamic_cast<NewPlayerWindow&>(shown);
+        const auto box = [&](const char* name) { return &Find<TextBox>(form, name); };
         EXPECT_EQ(form.parentWidget(), &main);
-        TextBox* skill = form.Text1[BatSkillBox];
+        TextBox* skill = box("batSkill");
         const int beeps = BeepCount();
         QTest::keyClicks(skill, "a-.");
         QTest::keyClick(skill, Qt::Key_Return);
@@ -60,45 +63,45 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
         EXPECT_EQ(skill->Text(), "45") << "two digits at most";
         QTest::keyClick(skill, Qt::Key_Backspace);
         EXPECT_EQ(skill->Text(), "4");
-        QTest::keyClicks(form.Text1[YearBox], "198234");
-        EXPECT_EQ(form.Text1[YearBox]->Text(), "1982");
-        for (int box : {DayBox, MonthBox})
-            EXPECT_EQ(form.Text1[box]->maxLength(), 2);
+        QTest::keyClicks(box("birthYear"), "198234");
+        EXPECT_EQ(box("birthYear")->Text(), "1982");
+        for (const char* name : {"birthDay", "birthMonth"})
+            EXPECT_EQ(box(name)->maxLength(), 2);
         // The names take any key the files can store, but no comma, nor a
         // quote to begin with.
-        QTest::keyClicks(form.Text1[SurnameBox], "O'Neil-Smith 2nd,");
-        QTest::keyClicks(form.Text1[InitialsBox], "\"a.b");
-        EXPECT_EQ(form.Text1[SurnameBox]->Text(), "O'Neil-Smith 2nd");
-        EXPECT_EQ(form.Text1[InitialsBox]->Text(), "a.b");
+        QTest::keyClicks(box("surname"), "O'Neil-Smith 2nd,");
+        QTest::keyClicks(box("initials"), "\"a.b");
+        EXPECT_EQ(box("surname")->Text(), "O'Neil-Smith 2nd");
+        EXPECT_EQ(box("initials")->Text(), "a.b");
         EXPECT_EQ(BeepCount() - beeps, 6);
 
-        form.Command1->click();  // the date and most skills are still empty
-        const std::pair<int, const char*> typed[] = {
-            {InitialsBox, "T"},     {SurnameBox, "Newcombe"}, {DayBox, "9"},           {MonthBox, "11"},
-            {YearBox, "1982"},      {BatSkillBox, "33"},      {BatAggressionBox, "5"}, {BowlSkillBox, "48"},
-            {BowlEconomyBox, "16"}, {FieldAbilityBox, "22"},  {PotentialBox, "14"},
+        Find<QPushButton>(form, "okButton").click();  // the date and most skills are still empty
+        const std::pair<const char*, const char*> typed[] = {
+            {"initials", "T"},     {"surname", "Newcombe"}, {"birthDay", "9"},           {"birthMonth", "11"},
+            {"birthYear", "1982"},      {"batSkill", "33"},      {"batAggression", "5"}, {"bowlSkill", "48"},
+            {"bowlEconomy", "16"}, {"fieldAbility", "22"},  {"potential", "14"},
         };
-        for (const auto& [box, text] : typed) {
-            form.Text1[box]->clear();
-            QTest::keyClicks(form.Text1[box], text);
+        for (const auto& [name, text] : typed) {
+            box(name)->clear();
+            QTest::keyClicks(box(name), text);
         }
         Paste(skill, "-5");
         EXPECT_EQ(BeepCount() - beeps, 6);
-        form.Command1->click();
+        Find<QPushButton>(form, "okButton").click();
         EXPECT_TRUE(form.isVisible());
-        EXPECT_EQ(form.Text1[SurnameBox]->Text(), "Newcombe");
+        EXPECT_EQ(box("surname")->Text(), "Newcombe");
         EXPECT_EQ(skill->Text(), "-5");
         EXPECT_EQ(game.PlayerCount, 4);
         EXPECT_EQ(game.Teams[Club].squad[3], 0);
-        Paste(form.Text1[YearBox], "19821");
-        EXPECT_EQ(form.Text1[YearBox]->Text(), "1982");
+        Paste(box("birthYear"), "19821");
+        EXPECT_EQ(box("birthYear")->Text(), "1982");
 
         Paste(skill, "33");
-        form.Combo3->setCurrentIndex(1);
-        form.Command1->click();
+        Find<ComboBox>(form, "homeCountry").setCurrentIndex(1);
+        Find<QPushButton>(form, "okButton").click();
         closed = !form.isVisible();
     });
-    OpenNewPlayerWindow(game, main);
+    Find<QPushButton>(main, "addNewPlayerButton").click();
     SetModalDriver({});
     SetMessageAnswerer({});
     ASSERT_EQ(ShownMessages().size(), 2u) << "success is not announced";
@@ -111,10 +114,10 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
     EXPECT_EQ(game.Players[5].surname, "Newcombe");
     EXPECT_EQ(game.Players[5].homeCountry, 2);
     EXPECT_EQ(Places(game.Teams[Club]), (std::vector<int>{1, 2, 5}));
-    ASSERT_EQ(main.List1->ListCount(), 3);
-    EXPECT_EQ(main.List1->ItemData(2), 5);
-    EXPECT_EQ(main.List1->ListIndex(), -1);
-    EXPECT_EQ(main.Label3->text(), "2") << "the player shown before stays shown";
+    ASSERT_EQ(squad.ListCount(), 3);
+    EXPECT_EQ(squad.ItemData(2), 5);
+    EXPECT_EQ(squad.ListIndex(), -1);
+    EXPECT_EQ(main.CurrentPlayer(), 2) << "the player shown before stays shown";
 }
 
 }  // namespace

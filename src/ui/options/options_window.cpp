@@ -1,4 +1,4 @@
-#include "options/options_form.h"
+#include "options/options_window.h"
 
 #include <QDir>
 #include <QFile>
@@ -6,8 +6,8 @@
 #include <QPushButton>
 
 #include "data/setting_file.h"
-#include "forms/message_box.h"
 #include "forms/fitted_layout.h"
+#include "forms/message_box.h"
 #include "options/folder_lists.h"
 
 namespace {
@@ -48,68 +48,79 @@ QString FromSystemPath(const std::string& path)
     return QDir::fromNativeSeparators(QFile::decodeName(QByteArray::fromStdString(path)));
 }
 
-OptionsForm::OptionsForm(Game& game, SettingPlaces places, QWidget* parent)
+OptionsWindow::OptionsWindow(Game& game, SettingPlaces places, Mode mode, QWidget* parent)
     : QDialog(parent), game_(game), places_(std::move(places))
 {
-    setObjectName(QStringLiteral("opt1"));
+    setObjectName(QStringLiteral("optionsWindow"));
     setWindowTitle(QStringLiteral("Options"));
     FittedLayout at(this, {AreaWidth, AreaHeight});
 
-    Label2[1] = MakeLabel(at, this, "Label2(1)", QStringLiteral("Set your Default KOLTA directory :-"),
-                          QRect(180, 180, 3735, 315), false);
-    Label2[0] = MakeLabel(
-        at, this, "Label2(0)",
+    MakeLabel(at, this, "heading", QStringLiteral("Set your Default KOLTA directory :-"), QRect(180, 180, 3735, 315),
+              false);
+    filesNote_ = MakeLabel(
+        at, this, "filesNote",
         QStringLiteral("Please note that the files Players.dat and teams.dat must be present in the directory."),
         QRect(180, 480, 3735, 435), true);
 
-    Drive1 = Place(at, new DriveList(this), "Drive1", QRect(180, 960, 1935, 315));
-    Dir1 = Place(at, new DirList(this), "Dir1", QRect(180, 1380, 2295, 2340));
-    File1 = Place(at, new FileList(this), "File1", QRect(2640, 1380, 2055, 2430));
-    File1->SetPattern(QStringLiteral("*.dat"));
+    driveList_ = Place(at, new DriveList(this), "driveList", QRect(180, 960, 1935, 315));
+    folderList_ = Place(at, new DirList(this), "folderList", QRect(180, 1380, 2295, 2340));
+    fileList_ = Place(at, new FileList(this), "fileList", QRect(2640, 1380, 2055, 2430));
+    fileList_->SetPattern(QStringLiteral("*.dat"));
 
-    Command1 = Place(at, new QPushButton(QStringLiteral("OK"), this), "Command1", QRect(1620, 3960, 1455, 375), true);
-    Command2 = Place(at, new QPushButton(QStringLiteral("OK"), this), "Command2", QRect(1620, 3960, 1455, 375), true);
-    Command2->hide();
+    // Two OK buttons share one spot; the mode shows one of them.
+    firstStartOkButton_ = Place(at, new QPushButton(QStringLiteral("OK"), this), "firstStartOkButton",
+                                QRect(1620, 3960, 1455, 375), true);
+    changeDirectoryOkButton_ = Place(at, new QPushButton(QStringLiteral("OK"), this), "changeDirectoryOkButton",
+                                     QRect(1620, 3960, 1455, 375), true);
+    changeDirectoryOkButton_->hide();
     at.Apply();
 
-    connect(Drive1, &DriveList::Change, this, &OptionsForm::Drive1_Change);
-    connect(Dir1, &DirList::Change, this, &OptionsForm::Dir1_Change);
-    connect(Command1, &QPushButton::clicked, this, &OptionsForm::Command1_Click);
-    connect(Command2, &QPushButton::clicked, this, &OptionsForm::Command2_Click);
+    connect(driveList_, &DriveList::Change, this, &OptionsWindow::OnDriveChosen);
+    connect(folderList_, &DirList::Change, this, &OptionsWindow::OnFolderOpened);
+    connect(firstStartOkButton_, &QPushButton::clicked, this, &OptionsWindow::OnFirstStartOk);
+    connect(changeDirectoryOkButton_, &QPushButton::clicked, this, &OptionsWindow::OnChangeDirectoryOk);
+
+    if (mode == Mode::ChangeDirectory) {
+        firstStartOkButton_->hide();
+        changeDirectoryOkButton_->show();
+        folderList_->SetPath(FromSystemPath(game_.GameDirectory));
+        driveList_->SetDrive(folderList_->Path());
+        folderList_->SetPath(fileList_->Path());
+    }
 }
 
-bool OptionsForm::BothDataFilesListed() const
+bool OptionsWindow::BothDataFilesListed() const
 {
     bool teamsSeen = false;
     bool playersSeen = false;
-    for (int i = 0; i < File1->ListCount() && !(teamsSeen && playersSeen); ++i) {
-        const QString name = File1->List(i);
+    for (int i = 0; i < fileList_->ListCount() && !(teamsSeen && playersSeen); ++i) {
+        const QString name = fileList_->List(i);
         teamsSeen = teamsSeen || name == TeamsFileName;
         playersSeen = playersSeen || name == PlayersFileName;
     }
     return teamsSeen && playersSeen;
 }
 
-void OptionsForm::Drive1_Change()
+void OptionsWindow::OnDriveChosen()
 {
     // A drive with nothing readable in it leaves the directory list where it
     // was; the drive list goes on naming the drive that failed.
-    if (!Dir1->OpenDrive(Drive1->Drive()))
+    if (!folderList_->OpenDrive(driveList_->Drive()))
         MsgBox(QStringLiteral("Error reading Drive"), MbCritical, QStringLiteral("Error"));
 }
 
-void OptionsForm::Dir1_Change()
+void OptionsWindow::OnFolderOpened()
 {
-    File1->SetPath(Dir1->Path());
-    Label2[0]->setText(BothDataFilesListed()
+    fileList_->SetPath(folderList_->Path());
+    filesNote_->setText(BothDataFilesListed()
                            ? QStringLiteral("Files teams.dat and players.dat found in this directory.")
                            : QStringLiteral("Files teams.dat and players.dat NOT found in current directory."));
 }
 
-void OptionsForm::Command1_Click()
+void OptionsWindow::OnFirstStartOk()
 {
     if (BothDataFilesListed()) {
-        SetGameDirectory(game_, ToSystemPath(Dir1->Path()));
+        SetGameDirectory(game_, ToSystemPath(folderList_->Path()));
         StoreSetting();
     } else {
         MsgBox(QStringLiteral("teams.dat and players.dat not found in current directory.KOLTA ed will exit."),
@@ -118,20 +129,20 @@ void OptionsForm::Command1_Click()
     accept();
 }
 
-void OptionsForm::Command2_Click()
+void OptionsWindow::OnChangeDirectoryOk()
 {
     if (!BothDataFilesListed()) {
         MsgBox(QStringLiteral("teams.dat and players.dat not found in current directory."), MbCritical,
                QStringLiteral("Error"));
         return;
     }
-    SetGameDirectory(game_, ToSystemPath(Dir1->Path()));
+    SetGameDirectory(game_, ToSystemPath(folderList_->Path()));
     StoreSetting();
-    emit GameDirectoryChanged();
+    emit gameDirectoryChanged();
     accept();
 }
 
-void OptionsForm::StoreSetting()
+void OptionsWindow::StoreSetting()
 {
     const QString settingFile = places_.PathToWrite();
     const FileResult stored = WriteSettingFile(ToSystemPath(settingFile), game_.GameDirectory);
