@@ -13,6 +13,7 @@
 #include "data/fields.h"
 #include "data/squad.h"
 #include "forms/game_text.h"
+#include "forms/listed_name.h"
 #include "search/player_find.h"
 
 namespace {
@@ -85,7 +86,7 @@ void FindWindow::ListMatches()
         const PlayerRecord& player = game_.Players[std::size_t(number)];
         const std::optional<int> age = AgeOn(player, today_.year(), today_.month(), today_.day());
         auto* row = new QTreeWidgetItem({QString::number(number),
-                                         FromGame(player.initials) + QLatin1Char(' ') + FromGame(player.surname),
+                                         ListedName(player),
                                          ClubName(number), Nationality(player),
                                          age ? QString::number(*age) : QString()});
         row->setData(NumberColumn, Qt::UserRole, int(number));
