@@ -9,7 +9,7 @@ std::unique_ptr<Game> ReadGameFiles(const std::string& directory, const std::str
     SetGameDirectory(*game, directory);
     game->PlayersPath += suffix;
     game->TeamsPath += suffix;
-    if (!ReadPlayersFile(*game) || !ReadTeamsFile(*game))
+    if (!ReadPlayersFile(*game).Read() || !ReadTeamsFile(*game).Read())
         return nullptr;
     return game;
 }

@@ -4,6 +4,7 @@
 #include "data/players_file.h"
 #include "data/teams_file.h"
 #include "forms/modal.h"
+#include "mainwindow/game_tools.h"
 #include "mainwindow/main_window.h"
 #include "options/options_window.h"
 
@@ -25,6 +26,7 @@ void MainWindow::LoadNewDirectory()
     ReadPlayersFile(game_);
     ReadTeamsFile(game_);
     ShowFirstEntries();
+    tools_->CheckFiles();
 }
 
 void MainWindow::OnOptions()

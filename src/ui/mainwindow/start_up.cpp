@@ -3,6 +3,7 @@
 #include "data/players_file.h"
 #include "data/setting_file.h"
 #include "data/teams_file.h"
+#include "mainwindow/game_tools.h"
 #include "mainwindow/main_window.h"
 
 bool MainWindow::Start()
@@ -21,5 +22,6 @@ bool MainWindow::Start()
     ReadPlayersFile(game_);
     ReadTeamsFile(game_);
     ShowFirstEntries();
+    tools_->CheckFiles();
     return true;
 }
