@@ -4,6 +4,7 @@
 #include <string>
 
 #include "data/cp1252.h"
+#include "data/squad.h"
 
 namespace {
 
@@ -160,6 +161,20 @@ std::vector<std::int16_t> FindPlayers(const Game& game, std::string_view typed)
     std::vector<std::int16_t> numbers(matches.size());
     std::transform(matches.begin(), matches.end(), numbers.begin(), [](const Match& m) { return m.number; });
     return numbers;
+}
+
+std::vector<std::int16_t> PresentClubs(const Game& game)
+{
+    // Teams in ascending order, so the highest-numbered holder is the one left.
+    std::vector<std::int16_t> clubs(MaxPlayers + 1, 0);
+    for (int team = 1; team <= LastTeamSearched(game); ++team) {
+        for (int slot = 1; slot <= SquadSize; ++slot) {
+            const int player = game.Teams[team].squad[slot];
+            if (IsPlayerNumber(player))
+                clubs[std::size_t(player)] = static_cast<std::int16_t>(team);
+        }
+    }
+    return clubs;
 }
 
 std::optional<int> AgeOn(const PlayerRecord& player, int year, int month, int day)

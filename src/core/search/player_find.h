@@ -20,6 +20,10 @@
 // number. A blank text finds nobody.
 std::vector<std::int16_t> FindPlayers(const Game& game, std::string_view typed);
 
+// The club of every player from 0 to 2000 as PresentClub names it (0 for
+// none), found in one walk over the squads rather than one for each player.
+std::vector<std::int16_t> PresentClubs(const Game& game);
+
 // Whole years the player has lived on the given day, or nothing when his
 // birth date is not a possible date or lies after that day.
 std::optional<int> AgeOn(const PlayerRecord& player, int year, int month, int day);

@@ -97,9 +97,9 @@ void ChangesWindow::GoTo(const QTreeWidgetItem* item)
         return;
     const Difference& change = changes_[std::size_t(index)];
     if (IsTeamChange(change))
-        emit TeamChosen(change.record);
+        emit teamChosen(change.record);
     else
-        emit PlayerChosen(change.record);
+        emit playerChosen(change.record);
 }
 
 bool ChangesWindow::eventFilter(QObject* watched, QEvent* event)

@@ -26,8 +26,8 @@ public:
     QTreeWidget* changeTree = nullptr;
 
 signals:
-    void PlayerChosen(int number);
-    void TeamChosen(int number);
+    void playerChosen(int number);
+    void teamChosen(int number);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

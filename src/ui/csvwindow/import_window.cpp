@@ -41,6 +41,7 @@ ImportWindow::ImportWindow(const CsvImport& import, const QString& folder, QWidg
     }
     if (lineList->count() > 0)
         lineList->setCurrentRow(0);
+    lineList->setVisible(lineList->count() > 0);
 
     buttons = new QDialogButtonBox(nothingToApply ? QDialogButtonBox::Close : QDialogButtonBox::Ok | QDialogButtonBox::Cancel,
                                    this);
@@ -51,5 +52,6 @@ ImportWindow::ImportWindow(const CsvImport& import, const QString& folder, QWidg
     layout->addWidget(summary);
     layout->addWidget(lineList, 1);
     layout->addWidget(buttons);
-    resize(640, 400);
+    if (lineList->count() > 0)
+        resize(640, 400);
 }

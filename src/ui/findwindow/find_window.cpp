@@ -11,7 +11,6 @@
 
 #include "data/cp1252.h"
 #include "data/fields.h"
-#include "data/squad.h"
 #include "forms/game_text.h"
 #include "forms/listed_name.h"
 #include "search/player_find.h"
@@ -40,7 +39,7 @@ bool IsEnter(int key)
 }  // namespace
 
 FindWindow::FindWindow(const Game& game, QDate today, QWidget* parent)
-    : QDialog(parent), game_(game), today_(today), clubs_(MaxPlayers + 1, -1)
+    : QDialog(parent), game_(game), today_(today), clubs_(PresentClubs(game))
 {
     setWindowTitle(QStringLiteral("Find Player"));
 
@@ -99,11 +98,9 @@ void FindWindow::ListMatches()
         matchList->setCurrentItem(rows.first());
 }
 
-QString FindWindow::ClubName(std::int16_t player)
+QString FindWindow::ClubName(std::int16_t player) const
 {
-    std::int16_t& club = clubs_[std::size_t(player)];
-    if (club < 0)
-        club = PresentClub(game_, player);
+    const std::int16_t club = clubs_[std::size_t(player)];
     return club > 0 ? FromGame(game_.Teams[std::size_t(club)].teamName) : QStringLiteral("no club");
 }
 
@@ -113,7 +110,7 @@ void FindWindow::ChooseRow(QTreeWidgetItem* row)
         return;
     const int number = row->data(NumberColumn, Qt::UserRole).toInt();
     accept();
-    emit PlayerChosen(number);
+    emit playerChosen(number);
 }
 
 bool FindWindow::eventFilter(QObject* watched, QEvent* event)

@@ -25,7 +25,7 @@ public:
     QTreeWidget* matchList = nullptr;
 
 signals:
-    void PlayerChosen(int number);
+    void playerChosen(int number);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -33,10 +33,10 @@ protected:
 private:
     void ListMatches();
     void ChooseRow(QTreeWidgetItem* row);
-    QString ClubName(std::int16_t player);
+    QString ClubName(std::int16_t player) const;
 
     const Game& game_;
     QDate today_;
-    // Each player's club, looked up the first time he is listed: -1 until then.
+    // Each player's club, 0 for none; the game does not change while the window is open.
     std::vector<std::int16_t> clubs_;
 };

@@ -70,7 +70,7 @@ GameTools::GameTools(MainWindow& window, Game& game) : QObject(&window), window_
     problemsBar_ = new ProblemsBar(&window);
     window.addToolBar(Qt::TopToolBarArea, problemsBar_);
     problemsBar_->hide();
-    connect(problemsBar_, &ProblemsBar::ShowProblemsRequested, this, &GameTools::OnCheckGame);
+    connect(problemsBar_, &ProblemsBar::showProblemsRequested, this, &GameTools::OnCheckGame);
 }
 
 void GameTools::AddCommands(QMenu& file, QAction* exitAction, QMenu& edit, QMenuBar& menus)
@@ -113,7 +113,7 @@ void GameTools::CheckFiles()
 void GameTools::OnFindPlayer()
 {
     FindWindow find(game_, QDate::currentDate());
-    connect(&find, &FindWindow::PlayerChosen, &window_, &MainWindow::GoToPlayer);
+    connect(&find, &FindWindow::playerChosen, &window_, &MainWindow::GoToPlayer);
     ShowModal(find, &window_);
 }
 
@@ -123,8 +123,8 @@ void GameTools::OnCheckGame()
     if (!problemsWindow_) {
         problemsWindow_ = new ProblemsWindow(&window_);
         problemsWindow_->setObjectName(QStringLiteral("problemsWindow"));
-        connect(problemsWindow_, &ProblemsWindow::PlayerChosen, &window_, &MainWindow::GoToPlayer);
-        connect(problemsWindow_, &ProblemsWindow::TeamChosen, &window_, &MainWindow::GoToTeam);
+        connect(problemsWindow_, &ProblemsWindow::playerChosen, &window_, &MainWindow::GoToPlayer);
+        connect(problemsWindow_, &ProblemsWindow::teamChosen, &window_, &MainWindow::GoToTeam);
     }
     problemsWindow_->ShowProblems(ProblemsNow(game_));
     Raise(*problemsWindow_);
@@ -160,8 +160,8 @@ void GameTools::ShowChanges(const QString& since, const Game& before)
     if (!changesWindow_) {
         changesWindow_ = new ChangesWindow(&window_);
         changesWindow_->setObjectName(QStringLiteral("changesWindow"));
-        connect(changesWindow_, &ChangesWindow::PlayerChosen, &window_, &MainWindow::GoToPlayer);
-        connect(changesWindow_, &ChangesWindow::TeamChosen, &window_, &MainWindow::GoToTeam);
+        connect(changesWindow_, &ChangesWindow::playerChosen, &window_, &MainWindow::GoToPlayer);
+        connect(changesWindow_, &ChangesWindow::teamChosen, &window_, &MainWindow::GoToTeam);
     }
     changesWindow_->setWindowTitle(QStringLiteral("Changes ") + since);
     changesWindow_->ShowChanges(since, CompareGames(before, game_));
@@ -224,5 +224,5 @@ void GameTools::ApplyImportedGame(const Game& imported)
     game_.PlayerCount = imported.PlayerCount;
     game_.TeamCount = imported.TeamCount;
     window_.ShowRecordsAgain();
-    emit ImportApplied(QStringLiteral("import from CSV"));
+    emit importApplied(QStringLiteral("import from CSV"));
 }

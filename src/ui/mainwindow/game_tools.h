@@ -41,7 +41,7 @@ public:
 
 signals:
     // An import from CSV has just changed the open game as one step.
-    void ImportApplied(const QString& stepText);
+    void importApplied(const QString& stepText);
 
 private:
     void ShowProblems();

@@ -20,7 +20,7 @@ ProblemsBar::ProblemsBar(QWidget* parent) : QToolBar(parent)
     addWidget(icon);
     addWidget(message);
     addWidget(showProblemsButton);
-    connect(showProblemsButton, &QPushButton::clicked, this, &ProblemsBar::ShowProblemsRequested);
+    connect(showProblemsButton, &QPushButton::clicked, this, &ProblemsBar::showProblemsRequested);
     hide();
 }
 

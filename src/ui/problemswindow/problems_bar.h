@@ -19,5 +19,5 @@ public:
     QPushButton* showProblemsButton = nullptr;
 
 signals:
-    void ShowProblemsRequested();
+    void showProblemsRequested();
 };

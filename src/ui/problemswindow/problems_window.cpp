@@ -49,6 +49,7 @@ ProblemsWindow::ProblemsWindow(QWidget* parent) : QDialog(parent)
     problemTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
     problemTable->setWordWrap(false);
     problemTable->verticalHeader()->hide();
+    problemTable->verticalHeader()->setDefaultSectionSize(problemTable->fontMetrics().height() + 8);
     problemTable->horizontalHeader()->setStretchLastSection(true);
     problemTable->installEventFilter(this);
     connect(problemTable, &QTableWidget::cellDoubleClicked, this, [this](int row, int) { GoToRow(row); });
@@ -61,7 +62,7 @@ ProblemsWindow::ProblemsWindow(QWidget* parent) : QDialog(parent)
     layout->addWidget(summary);
     layout->addWidget(problemTable, 1);
     layout->addWidget(buttons);
-    resize(820, 420);
+    resize(800, 360);
 }
 
 void ProblemsWindow::ShowProblems(const std::vector<Problem>& problems)
@@ -101,9 +102,9 @@ void ProblemsWindow::GoToRow(int row)
         return;
     const Problem& problem = problems_[std::size_t(row)];
     if (problem.file == TeamLayout.file)
-        emit TeamChosen(problem.record);
+        emit teamChosen(problem.record);
     else
-        emit PlayerChosen(problem.record);
+        emit playerChosen(problem.record);
 }
 
 bool ProblemsWindow::eventFilter(QObject* watched, QEvent* event)

@@ -24,8 +24,8 @@ public:
     QTableWidget* problemTable = nullptr;
 
 signals:
-    void PlayerChosen(int number);
-    void TeamChosen(int number);
+    void playerChosen(int number);
+    void teamChosen(int number);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "data/squad.h"
 #include "search/player_find.h"
 #include "support/game_builder.h"
 
@@ -70,6 +71,22 @@ TEST(PlayerFindLimits, OnlyLoadedPlayersAreSearched)
     EXPECT_THAT(FindPlayers(*b.game, "smith"), ElementsAreArray<std::int16_t>({3}));
     b.game->PlayerCount = -5;
     EXPECT_THAT(FindPlayers(*b.game, "smith"), ::testing::IsEmpty());
+}
+
+TEST(PlayerFindClubs, AgreeWithPresentClubForEveryPlayer)
+{
+    GameBuilder b;
+    b.Players(30);
+    b.Team(1, "One", {1, 2, 3});
+    b.Team(2, "Two", {3, 4, 0, 5});   // 3 in two squads: the higher team is his club
+    b.Team(3, "Three", {6, 6, 2001, -4, 7});
+    b.game->Teams[MaxTeams].squad[1] = 8;  // past TeamCount: no squad the game searches
+    const std::vector<std::int16_t> clubs = PresentClubs(*b.game);
+    ASSERT_EQ(clubs.size(), std::size_t(MaxPlayers + 1));
+    for (int player = 0; player <= MaxPlayers; ++player)
+        EXPECT_EQ(clubs[std::size_t(player)], PresentClub(*b.game, std::int16_t(player))) << "player " << player;
+    EXPECT_EQ(clubs[3], 2);
+    EXPECT_EQ(clubs[6], 3);
 }
 
 struct AgeCase {

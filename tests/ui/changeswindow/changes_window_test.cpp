@@ -37,8 +37,8 @@ std::vector<QString> Texts(const QTreeWidgetItem& parent)
 TEST(ChangesWindowTest, GroupsTheChangesAndEachGoesToItsRecord)
 {
     ChangesWindow window;
-    QSignalSpy teams(&window, &ChangesWindow::TeamChosen);
-    QSignalSpy players(&window, &ChangesWindow::PlayerChosen);
+    QSignalSpy teams(&window, &ChangesWindow::teamChosen);
+    QSignalSpy players(&window, &ChangesWindow::playerChosen);
     window.ShowChanges("since the original files", FixtureChanges());
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));

@@ -49,7 +49,7 @@ class FindWindowTest : public ::testing::Test {
 protected:
     std::unique_ptr<Game> game = SampleGame();
     FindWindow window{*game, QDate(2000, 1, 1)};
-    QSignalSpy chosen{&window, &FindWindow::PlayerChosen};
+    QSignalSpy chosen{&window, &FindWindow::playerChosen};
 
     void SetUp() override
     {
@@ -96,7 +96,7 @@ TEST_F(FindWindowTest, ANumberFindsThePlayerAndADoubleClickChoosesHim)
 
     // Enter with nothing listed chooses nobody.
     FindWindow again(*game, QDate(2000, 1, 1));
-    QSignalSpy none(&again, &FindWindow::PlayerChosen);
+    QSignalSpy none(&again, &FindWindow::playerChosen);
     again.show();
     QTest::keyClicks(again.findBox, QStringLiteral("bisk"));
     again.findBox->insert(QStringLiteral("\u03A9"));  // no Windows-1252 character

@@ -35,8 +35,8 @@ void DoubleClickCell(QTableWidget& table, int row, int column)
 TEST(ProblemsWindowTest, EachRowGoesToItsTeamOrPlayer)
 {
     ProblemsWindow window;
-    QSignalSpy teams(&window, &ProblemsWindow::TeamChosen);
-    QSignalSpy players(&window, &ProblemsWindow::PlayerChosen);
+    QSignalSpy teams(&window, &ProblemsWindow::teamChosen);
+    QSignalSpy players(&window, &ProblemsWindow::playerChosen);
     window.ShowProblems(FixtureProblems());
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
@@ -85,7 +85,7 @@ TEST(ProblemsBarTest, ShowsOnlyWhenThereAreErrors)
     QWidget holder;
     auto* bar = new ProblemsBar(&holder);
     holder.show();
-    QSignalSpy asked(bar, &ProblemsBar::ShowProblemsRequested);
+    QSignalSpy asked(bar, &ProblemsBar::showProblemsRequested);
     EXPECT_FALSE(bar->isVisible());
     bar->SetErrorCount(3);
     EXPECT_TRUE(bar->isVisible());
