@@ -360,3 +360,11 @@ std::vector<RowFault> ApplyImport(Game& game, const ImportTables& tables)
     });
     return faults;
 }
+
+std::vector<RowFault> ImportCsv(Game& game, std::optional<std::string_view> playersCsv,
+                                std::optional<std::string_view> teamsCsv)
+{
+    const CsvTable players = ParseCsv(playersCsv.value_or(""));
+    const CsvTable teams = ParseCsv(teamsCsv.value_or(""));
+    return ApplyImport(game, {playersCsv ? &players : nullptr, teamsCsv ? &teams : nullptr});
+}

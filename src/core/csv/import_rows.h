@@ -1,6 +1,8 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "csv/csv.h"
@@ -22,3 +24,7 @@ struct ImportTables {
 // row with the next free number, or none, adds one. Returns every wrong row;
 // when there is one, `game` is half changed and must not be saved.
 std::vector<RowFault> ApplyImport(Game& game, const ImportTables& tables);
+
+// The same from the texts of players.csv and teams.csv; either may be missing.
+std::vector<RowFault> ImportCsv(Game& game, std::optional<std::string_view> playersCsv,
+                                std::optional<std::string_view> teamsCsv);

@@ -13,6 +13,8 @@ constexpr bool InFileOrder(const std::array<Field<Record>, Count>& fields)
 }
 
 static_assert(InFileOrder(PlayerFields) && InFileOrder(TeamFields));
+static_assert(PlayerFields.back().line == PlayerLayout.lines);
+static_assert(TeamLayout.firstSquadLine + SquadSize - 1 == TeamLayout.lines);
 
 }  // namespace
 

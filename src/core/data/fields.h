@@ -155,17 +155,6 @@ inline constexpr RecordLayout<TeamRecord> TeamLayout{
 // "squad7" for place 7, as the CSV column and `check` name it.
 std::string SquadPlaceName(int place);
 
-// The field of `fields` called `name`; nothing when there is none.
-template <class Record>
-const Field<Record>* FindField(std::span<const Field<Record>> fields, std::string_view name)
-{
-    for (const Field<Record>& field : fields) {
-        if (field.name == name)
-            return &field;
-    }
-    return nullptr;
-}
-
 // The field that stores `member`.
 template <class Record>
 const Field<Record>* FieldOf(std::span<const Field<Record>> fields, std::int16_t Record::*member)

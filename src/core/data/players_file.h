@@ -7,14 +7,8 @@
 #include "data/game.h"
 #include "data/load_report.h"
 
-// players.dat: 21 lines a player, then 21 empty lines.
-//   1 number          8 homeCountry    15 bowls
-//   2 "#"             9 teamNumber     16 bowlSkill
-//   3 initials + "#"  10 batPosition   17 bowlEconomy
-//   4 surname + "#"   11 bats          18 fieldAbility
-//   5 birthDay        12 batSkill      19 fieldsAt
-//   6 birthMonth      13 batAggression 20 potential
-//   7 birthYear       14 bowlType      21 carriedValue
+// players.dat: a record a player, laid out as PlayerLayout (data/fields.h)
+// says, then as many empty lines as a record has.
 
 // Reads players into their slots and sets PlayerCount, which is not reset
 // first: it ends as the last non-zero number read. The report lists what the

@@ -1,7 +1,7 @@
 #include "forms/player_column.h"
 
 #include <QLabel>
-#include <span>
+#include <stdexcept>
 #include <string_view>
 
 #include "data/fields.h"
@@ -25,6 +25,22 @@ constexpr std::array<const PlayerField*, PlayerBoxCount> ShownFields = [] {
         throw "every captioned field has a box";
     return shown;
 }();
+
+// PlayerBox names the boxes in the table's order.
+constexpr bool BoxesFollowTheTable()
+{
+    constexpr std::array<std::string_view, PlayerBoxCount> names{
+        "initials", "surname", "birthDay", "birthMonth", "birthYear", "homeCountry", "batPosition", "bats",
+        "batSkill", "batAggression", "bowlType", "bowls", "bowlSkill", "bowlEconomy", "fieldAbility", "fieldsAt",
+        "potential",
+    };
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (ShownFields[i]->name != names[i])
+            return false;
+    }
+    return true;
+}
+static_assert(BoxesFollowTheTable());
 
 const PlayerField& FieldOf(PlayerBox box)
 {
@@ -142,26 +158,20 @@ bool PlayerColumn::WriteBack(PlayerRecord& player) const
 
 NewPlayerEntries PlayerColumn::Entries() const
 {
-    const auto text = [this](PlayerBox box) { return ToGame(Text(box)->Text()); };
-    const auto entry = [this](PlayerBox box) { return Codes(box)->ListIndex(); };
+    const auto boxOf = [this](std::int16_t PlayerRecord::*member) {
+        for (int index = 0; index < PlayerBoxCount; ++index) {
+            if (FieldOf(PlayerBox(index)).number == member)
+                return PlayerBox(index);
+        }
+        throw std::logic_error("a new player's entry without a box");
+    };
     NewPlayerEntries entries;
-    entries.initials = text(PlayerBox::Initials);
-    entries.surname = text(PlayerBox::Surname);
-    entries.birthDay = text(PlayerBox::BirthDay);
-    entries.birthMonth = text(PlayerBox::BirthMonth);
-    entries.birthYear = text(PlayerBox::BirthYear);
-    entries.batSkill = text(PlayerBox::BatSkill);
-    entries.batAggression = text(PlayerBox::BatAggression);
-    entries.bowlSkill = text(PlayerBox::BowlSkill);
-    entries.bowlEconomy = text(PlayerBox::BowlEconomy);
-    entries.fieldAbility = text(PlayerBox::FieldAbility);
-    entries.potential = text(PlayerBox::Potential);
-    entries.homeCountry = entry(PlayerBox::HomeCountry);
-    entries.batPosition = entry(PlayerBox::BatPosition);
-    entries.bats = entry(PlayerBox::Bats);
-    entries.bowlType = entry(PlayerBox::BowlType);
-    entries.bowls = entry(PlayerBox::Bowls);
-    entries.fieldsAt = entry(PlayerBox::FieldsAt);
+    entries.initials = ToGame(Text(PlayerBox::Initials)->Text());
+    entries.surname = ToGame(Text(PlayerBox::Surname)->Text());
+    for (const NumberBox& number : NumberBoxes)
+        entries.*number.box = ToGame(Text(boxOf(number.field))->Text());
+    for (const CodeBox& code : CodeBoxes)
+        entries.*code.row = Codes(boxOf(code.field))->ListIndex();
     return entries;
 }
 

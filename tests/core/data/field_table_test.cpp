@@ -95,20 +95,3 @@ TEST(FieldTable, TheNewPlayersBoxesAreTheLabelledFields)
         EXPECT_EQ(field.range.has_value(), !field.rangeLabel.empty());
     }
 }
-
-// A new player's lists store their row as the field's code: the hands count
-// from 0, every other list from 1.
-TEST(FieldTable, ListRowsBecomeTheFieldsCodes)
-{
-    auto game = SoundGame();
-    NewPlayerEntries entries = GoodEntries();
-    for (const CodeBox& box : CodeBoxes)
-        entries.*box.row = 1;
-    ASSERT_EQ(CommitNewPlayer(*game, 1, entries), NewPlayerOutcome::Added);
-    for (const CodeBox& box : CodeBoxes) {
-        const PlayerField& field = *FieldOf<PlayerRecord>(PlayerFields, box.field);
-        EXPECT_EQ(*field.codes->WordFor(game->Players[2].*box.field), field.codes->words[1]) << field.name;
-    }
-    EXPECT_EQ(game->Players[2].bats, 1);
-    EXPECT_EQ(game->Players[2].batPosition, 2);
-}

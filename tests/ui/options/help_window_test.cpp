@@ -3,7 +3,7 @@
 // exactly the range the row shows.
 
 #include <QLabel>
-#include <map>
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -49,11 +49,6 @@ TEST(HelpWindow, ShowsTheRangesOfTheFieldTableThatTheNewPlayerChecksHoldTo)
                                   Pair("Bowl Skill", "0 - 60"), Pair("Bowl Econ.", "0 - 20"),
                                   Pair("Field Skill", "10 - 40"), Pair("Potential", "0 - 20")));
 
-    const std::map<std::string_view, std::string NewPlayerEntries::*> entryOf{
-        {"batSkill", &NewPlayerEntries::batSkill},         {"batAggression", &NewPlayerEntries::batAggression},
-        {"bowlSkill", &NewPlayerEntries::bowlSkill},       {"bowlEconomy", &NewPlayerEntries::bowlEconomy},
-        {"fieldAbility", &NewPlayerEntries::fieldAbility}, {"potential", &NewPlayerEntries::potential},
-    };
     std::size_t row = 0;
     for (const PlayerField& field : PlayerFields) {
         if (!field.range)
@@ -63,13 +58,14 @@ TEST(HelpWindow, ShowsTheRangesOfTheFieldTableThatTheNewPlayerChecksHoldTo)
         EXPECT_EQ(rows[row], Row(QString::fromLatin1(field.rangeLabel.data(), qsizetype(field.rangeLabel.size())),
                                  QString::fromStdString(RangeText(*field.range))));
         ++row;
-        const auto box = entryOf.find(field.name);
-        ASSERT_NE(box, entryOf.end());
+        const auto box = std::find_if(NumberBoxes.begin(), NumberBoxes.end(),
+                                      [&](const NumberBox& entry) { return entry.field == field.number; });
+        ASSERT_NE(box, NumberBoxes.end());
         const Range range = *field.range;
         for (const auto& [value, good] : {std::pair(range.low - 1, false), std::pair(range.low, true),
                                           std::pair(range.high, true), std::pair(range.high + 1, false)}) {
             NewPlayerEntries entries = GoodEntries();
-            entries.*box->second = std::to_string(value);
+            entries.*box->box = std::to_string(value);
             EXPECT_EQ(EntriesAreGood(entries), good) << value;
         }
     }
