@@ -25,11 +25,8 @@ CsvImport ImportCsvFolder(const Game& game, const std::string& folder)
     result.read = playersText || teamsText;
     if (!result.read)
         return result;
-    const CsvTable players = ParseCsv(playersText.value_or(""));
-    const CsvTable teams = ParseCsv(teamsText.value_or(""));
-
     auto copy = std::make_unique<Game>(game);
-    result.faults = ApplyImport(*copy, {playersText ? &players : nullptr, teamsText ? &teams : nullptr});
+    result.faults = ImportCsv(*copy, playersText, teamsText);
     if (!result.faults.empty())
         return result;
     result.changes = CompareGames(game, *copy);
