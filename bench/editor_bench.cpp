@@ -1,12 +1,17 @@
 // One tick of the main window's edit timer on a full-size game, the way it
-// runs ten times a second while the editor is open.
+// runs ten times a second while the editor is open; and one keystroke in the
+// Find Player window, the search and the listing of its matches.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QDate>
 #include <QFile>
+#include <QLineEdit>
+#include <QTreeWidget>
 #include <memory>
 
 #include "data/setting_file.h"
+#include "findwindow/find_window.h"
 #include "forms/text_box.h"
 #include "full_size_game.h"
 #include "mainwindow/main_window.h"
@@ -14,6 +19,7 @@
 namespace {
 
 MainWindow* form = nullptr;
+const Game* world = nullptr;
 
 // Nothing changed since the last tick: every field is copied all the same.
 void BM_TickUnchanged(benchmark::State& state)
@@ -38,6 +44,26 @@ void BM_TickAfterNameChange(benchmark::State& state)
 }
 BENCHMARK(BM_TickAfterNameChange)->Unit(benchmark::kMicrosecond);
 
+// The box goes from empty to the text, as one keystroke does: the window
+// searches and lists every match with his club, nationality and age. "e"
+// matches about half the players.
+void BM_FindWindowKeystroke(benchmark::State& state, const char* typed)
+{
+    FindWindow find(*world, QDate(2026, 1, 1));
+    find.show();
+    std::size_t listed = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        find.findBox->clear();
+        state.ResumeTiming();
+        find.findBox->setText(QString::fromLatin1(typed));
+        listed = std::size_t(find.matchList->topLevelItemCount());
+    }
+    state.counters["listed"] = double(listed);
+}
+BENCHMARK_CAPTURE(BM_FindWindowKeystroke, common_letter, "e")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(BM_FindWindowKeystroke, number, "12")->Unit(benchmark::kMicrosecond);
+
 }  // namespace
 
 int main(int argc, char** argv)
@@ -57,6 +83,7 @@ int main(int argc, char** argv)
     window.show();
     QApplication::processEvents();
     form = &window;
+    world = game.get();
 
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -2,6 +2,7 @@
 #include <QLabel>
 
 #include "forms/modal.h"
+#include "mainwindow/game_tools.h"
 #include "mainwindow/main_window.h"
 #include "options/options_window.h"
 
@@ -22,6 +23,7 @@ void MainWindow::LoadNewDirectory()
     teamNumberLabel_->clear();
     LoadGameDirectory();
     ShowFirstEntries();
+    tools_->CheckFiles();
 }
 
 void MainWindow::OnOptions()

@@ -17,6 +17,7 @@
 #include "forms/picture_box.h"
 #include "forms/player_column.h"
 #include "forms/text_box.h"
+#include "mainwindow/game_tools.h"
 #include "options/artwork.h"
 
 namespace {
@@ -182,6 +183,9 @@ void MainWindow::BuildMenu()
     saveAction_ = Named(file->addAction(QStringLiteral("&Update Player && Team data file")), "saveAction");
     saveAction_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
     exitAction_ = Named(file->addAction(QStringLiteral("E&xit")), "exitAction");
+    QMenu* edit = menuBar()->addMenu(QStringLiteral("&Edit"));
+    tools_ = new GameTools(*this, game_);
+    tools_->AddCommands(*file, exitAction_, *edit, *menuBar());
 
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
     helpAction_ = Named(help->addAction(QStringLiteral("Help On Editor")), "helpAction");

@@ -12,6 +12,7 @@
 
 class ComboBox;
 class FittedLayout;
+class GameTools;
 class ListBox;
 class PictureBox;
 class PlayerColumn;
@@ -49,6 +50,16 @@ public:
     // The team of the team list's chosen entry; the squad commands work on it.
     std::optional<int> CurrentTeam() const;
 
+    // Brings a player into view as picks would: his country, his team, his
+    // row. A player without a club is shown with no team chosen.
+    void GoToPlayer(int number);
+    // Brings a team into view: its country, then its entry, no row chosen.
+    void GoToTeam(int number);
+    // After records changed behind the boxes: the current player and team
+    // are shown again from their records, before a tick can write the old
+    // values back.
+    void ShowRecordsAgain();
+
 signals:
     // The squad list's chosen row, -1 when none is: a pick, or a rebuild.
     void squadRowChanged(int row);
@@ -70,11 +81,14 @@ private:
     void OnPlayerChosen();
     void ClearSquadList();
     void FillSquadList();
+    // Chooses the country of `team`, then its entry; false when no entry lists it.
+    bool ChooseTeamEntry(int team);
 
     // The player and team in the detail boxes, as records (null when none).
     PlayerRecord* ShownPlayer();
     TeamRecord* ShownTeam();
     void ShowTeam();
+    void FillTeamBoxes(const TeamRecord& team);
     void WriteBackTeam(TeamRecord& team);
 
     // Squad buttons.
@@ -118,6 +132,7 @@ private:
 
     PlayerColumn* playerColumn_ = nullptr;
     QTimer* editTimer_ = nullptr;
+    GameTools* tools_ = nullptr;
 
     QAction* optionsAction_ = nullptr;
     QAction* saveAction_ = nullptr;

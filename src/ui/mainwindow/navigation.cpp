@@ -3,6 +3,7 @@
 #include "forms/combo_box.h"
 #include "forms/game_text.h"
 #include "forms/list_box.h"
+#include "forms/listed_name.h"
 #include "mainwindow/main_window.h"
 
 namespace {
@@ -65,7 +66,7 @@ void MainWindow::FillSquadList()
         if (number < 1 || number > MaxPlayers)
             continue;
         const PlayerRecord& player = game_.Players[std::size_t(number)];
-        squadList_->AddItem(FromGame(player.initials) + QLatin1Char(' ') + FromGame(player.surname));
+        squadList_->AddItem(ListedName(player));
         squadList_->SetItemData(squadList_->ListCount() - 1, number);
     }
 }

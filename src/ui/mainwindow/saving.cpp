@@ -3,6 +3,7 @@
 #include "data/save.h"
 #include "forms/game_text.h"
 #include "forms/message_box.h"
+#include "mainwindow/game_tools.h"
 #include "mainwindow/main_window.h"
 
 bool MainWindow::SaveAll()
@@ -25,6 +26,7 @@ bool MainWindow::SaveAll()
         return false;
     }
     MsgBox(QStringLiteral("Updated Player and Team data successfully"), MbInformation, QStringLiteral("Info"));
+    tools_->CheckFiles();
     return true;
 }
 

@@ -42,6 +42,11 @@ void MainWindow::ShowTeam()
     // The team written back is the one the record's own number names.
     const TeamRecord& team = game_.Teams[std::size_t(*index)];
     shownTeam_ = team.teamNumber;
+    FillTeamBoxes(team);
+}
+
+void MainWindow::FillTeamBoxes(const TeamRecord& team)
+{
     teamNumberLabel_->setText(QString::number(team.teamNumber));
     for (std::size_t i = 0; i < TeamFields.size(); ++i)
         ShowField(*teamBoxes_[i], TeamFields[i], team);

@@ -5,6 +5,7 @@
 #include "data/load_game.h"
 #include "data/setting_file.h"
 #include "forms/message_box.h"
+#include "mainwindow/game_tools.h"
 #include "mainwindow/main_window.h"
 
 bool MainWindow::Start()
@@ -22,6 +23,7 @@ bool MainWindow::Start()
     // could be read, and another directory can be chosen from the menu.
     LoadGameDirectory();
     ShowFirstEntries();
+    tools_->CheckFiles();
     return true;
 }
 

@@ -1,8 +1,8 @@
 #include <cmath>
 
 #include "forms/combo_box.h"
-#include "forms/game_text.h"
 #include "forms/list_box.h"
+#include "forms/listed_name.h"
 #include "forms/shape.h"
 #include "search/player_sort.h"
 #include "search/search_filters.h"
@@ -31,7 +31,7 @@ void SearchWindow::OnSearch()
     SortWithBar();
 
     for (const PlayerRecord& candidate : results_) {
-        resultList_->AddItem(FromGame(candidate.surname));
+        resultList_->AddItem(ListedName(candidate));
         resultList_->SetItemData(resultList_->ListCount() - 1, candidate.playerNumber);
     }
 }

@@ -47,13 +47,14 @@ std::vector<QString> Rows(const ListBox& list)
     return rows;
 }
 
-// Searches with the filters as they stand and picks the candidate with that surname.
-void SearchAndPick(SearchWindow& form, const QString& surname)
+// Searches with the filters as they stand and picks the candidate listed as
+// `name`: his initials and surname.
+void SearchAndPick(SearchWindow& form, const QString& name)
 {
     Click(&Find<QPushButton>(form, "searchButton"));  // Search
     const auto rows = Rows(Find<ListBox>(form, "resultList"));
-    const auto at = std::find(rows.begin(), rows.end(), surname);
-    ASSERT_NE(at, rows.end()) << surname.toStdString();
+    const auto at = std::find(rows.begin(), rows.end(), name);
+    ASSERT_NE(at, rows.end()) << name.toStdString();
     ClickRow(Find<ListBox>(form, "resultList"), int(at - rows.begin()));
 }
 
@@ -127,17 +128,17 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
     Press(&Find<QPushButton>(*main, "addExistingPlayerButton"), [&](SearchWindow& form) {
         EXPECT_EQ(form.windowTitle(), "Add Player..");
         Click(&Find<QPushButton>(form, "addButton"));  // no candidate yet
-        SearchAndPick(form, "P0002");  // already in the squad
+        SearchAndPick(form, "A P0002");  // already in the squad
         Click(&Find<QPushButton>(form, "addButton"));
         EXPECT_EQ(game.Teams, teams);
 
-        SearchAndPick(form, "P0030");
+        SearchAndPick(form, "A P0030");
         // Filters and order take effect when Search is pressed.
         Find<ComboBox>(form, "clubFilter").SetText("Kiwis XI");
         Find<ComboBox>(form, "sortKeyList").SetText("Bat Skill");
         EXPECT_EQ(Find<ListBox>(form, "resultList").ListCount(), 40);
         Click(&Find<QPushButton>(form, "searchButton"));  // Search
-        EXPECT_THAT(Rows(Find<ListBox>(form, "resultList")), ElementsAre("P0007", "P0006"));
+        EXPECT_THAT(Rows(Find<ListBox>(form, "resultList")), ElementsAre("A P0007", "A P0006"));
         EXPECT_FALSE(Find<Shape>(form, "sortBar").isVisible()) << "the bar is hidden after the sort";
         Click(&Find<QPushButton>(form, "addButton"));
         Click(&Find<QPushButton>(form, "addButton"));  // him again
@@ -163,15 +164,15 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
         // first, also for a candidate who is in the squad.
         Find<ComboBox>(form, "clubFilter").SetText(Find<ComboBox>(form, "clubFilter").List(0));
         for (int number = 9; number <= 23; ++number) {
-            SearchAndPick(form, QStringLiteral("P00%1").arg(number, 2, 10, QLatin1Char('0')));
+            SearchAndPick(form, QStringLiteral("A P00%1").arg(number, 2, 10, QLatin1Char('0')));
             Click(&Find<QPushButton>(form, "addButton"));
         }
         EXPECT_EQ(Texts().back(), "A P0023 has been added to the Harbour CC squad.");
         EXPECT_EQ(Squad().ListCount(), 20);
         ClearShownMessages();
-        SearchAndPick(form, "P0025");
+        SearchAndPick(form, "A P0025");
         Click(&Find<QPushButton>(form, "addButton"));
-        SearchAndPick(form, "P0002");
+        SearchAndPick(form, "A P0002");
         Click(&Find<QPushButton>(form, "addButton"));
     });
     EXPECT_EQ(game.Teams[Harbour].squad[20], 23);
@@ -193,10 +194,10 @@ TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
                   EXPECT_EQ(form.windowTitle(), "Replace player..");
                   EXPECT_FALSE(Find<QPushButton>(form, "addButton").isVisible()) << "no Add in this mode";
                   Click(&Find<QPushButton>(form, "replaceButton"));         // no candidate
-                  SearchAndPick(form, "Venn");  // himself or a team mate
+                  SearchAndPick(form, "K Venn");  // himself or a team mate
                   Click(&Find<QPushButton>(form, "replaceButton"));
                   EXPECT_EQ(game.Teams, teams);
-                  SearchAndPick(form, "Quill");
+                  SearchAndPick(form, "S T Quill");
                   Find<ComboBox>(form, "nationalityFilter").SetText("India");
                   Find<ComboBox>(form, "sortKeyList").SetText("Bat Skill");
                   Click(&Find<QPushButton>(form, "replaceButton"));
@@ -217,7 +218,7 @@ TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
         EXPECT_EQ(form.Candidate(), std::nullopt);
         // A name edit carried over under the window rebuilds the squad list
         // and leaves no row chosen.
-        SearchAndPick(form, "P0003");
+        SearchAndPick(form, "A P0003");
         main->RefreshSquad();
         Click(&Find<QPushButton>(form, "replaceButton"));
         ClickRow(Squad(), 0);

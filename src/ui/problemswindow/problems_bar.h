@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QToolBar>
+
+class QLabel;
+class QPushButton;
+
+// The strip under the menu that says a loaded game has errors, with a button
+// that opens the list. A game without errors never shows it.
+class ProblemsBar : public QToolBar {
+    Q_OBJECT
+public:
+    explicit ProblemsBar(QWidget* parent = nullptr);
+
+    // Shows the bar with the count, or hides it for 0.
+    void SetErrorCount(int errors);
+
+    QLabel* message = nullptr;
+    QPushButton* showProblemsButton = nullptr;
+
+signals:
+    void showProblemsRequested();
+};

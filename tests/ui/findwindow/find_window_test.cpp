@@ -1,0 +1,108 @@
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "data/players_file.h"
+#include "data/teams_file.h"
+#include "findwindow/find_window.h"
+
+using ::testing::ElementsAre;
+
+inline void PrintTo(const QString& text, std::ostream* out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+namespace {
+
+// The sample game, as the editor loads it.
+std::unique_ptr<Game> SampleGame()
+{
+    auto game = std::make_unique<Game>();
+    SetGameDirectory(*game, KOLTA_SAMPLE);
+    ReadPlayersFile(*game);
+    ReadTeamsFile(*game);
+    return game;
+}
+
+std::vector<QString> RowTexts(const QTreeWidget& list, int column)
+{
+    std::vector<QString> texts;
+    for (int row = 0; row < list.topLevelItemCount(); ++row)
+        texts.push_back(list.topLevelItem(row)->text(column));
+    return texts;
+}
+
+void DoubleClickRow(QTreeWidget& list, int row)
+{
+    const QRect at = list.visualItemRect(list.topLevelItem(row));
+    // The first click of a double click arrives as a press of its own.
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at.center());
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at.center());
+}
+
+class FindWindowTest : public ::testing::Test {
+protected:
+    std::unique_ptr<Game> game = SampleGame();
+    FindWindow window{*game, QDate(2000, 1, 1)};
+    QSignalSpy chosen{&window, &FindWindow::playerChosen};
+
+    void SetUp() override
+    {
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        EXPECT_TRUE(window.findBox->hasFocus());
+    }
+};
+
+// Four players of the sample share a surname; the list tells them apart.
+TEST_F(FindWindowTest, TypingNarrowsTheListAndEnterChoosesTheRowOfTheArrowKeys)
+{
+    QTest::keyClicks(window.findBox, QStringLiteral("bisk"));
+    EXPECT_GT(window.matchList->topLevelItemCount(), 4);
+    QTest::keyClicks(window.findBox, QStringLiteral("DENE"));
+    EXPECT_THAT(RowTexts(*window.matchList, 1),
+                ElementsAre("C Biskdene", "E G Biskdene", "I Biskdene", "S Biskdene"));
+    EXPECT_THAT(RowTexts(*window.matchList, 0), ElementsAre("387", "538", "397", "466"));
+    const QTreeWidgetItem* first = window.matchList->topLevelItem(0);
+    EXPECT_EQ(first->text(3), "New Zealand");
+    EXPECT_EQ(first->text(4), "20");  // born 18/3/1979
+
+    QTest::keyClick(window.findBox, Qt::Key_Down);
+    QTest::keyClick(window.matchList, Qt::Key_Down);
+    QTest::keyClick(window.matchList, Qt::Key_Return);
+    ASSERT_EQ(chosen.count(), 1);
+    EXPECT_EQ(chosen.at(0).at(0).toInt(), 397);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(window.result(), QDialog::Accepted);
+}
+
+TEST_F(FindWindowTest, ANumberFindsThePlayerAndADoubleClickChoosesHim)
+{
+    QTest::keyClicks(window.findBox, QStringLiteral("84"));
+    EXPECT_THAT(RowTexts(*window.matchList, 0), ElementsAre("84", "840", "841", "842", "843", "844", "845", "846",
+                                                            "847", "848", "849"));
+    QTest::keyClick(window.findBox, Qt::Key_5);
+    ASSERT_EQ(window.matchList->topLevelItemCount(), 1);
+    EXPECT_EQ(window.matchList->topLevelItem(0)->text(1), "A L Wrennerly");
+    EXPECT_EQ(window.matchList->topLevelItem(0)->text(2), "no club");
+    DoubleClickRow(*window.matchList, 0);
+    ASSERT_EQ(chosen.count(), 1);
+    EXPECT_EQ(chosen.at(0).at(0).toInt(), 845);
+
+    // Enter with nothing listed chooses nobody.
+    FindWindow again(*game, QDate(2000, 1, 1));
+    QSignalSpy none(&again, &FindWindow::playerChosen);
+    again.show();
+    QTest::keyClicks(again.findBox, QStringLiteral("bisk"));
+    again.findBox->insert(QStringLiteral("\u03A9"));  // no Windows-1252 character
+    QTest::keyClick(again.findBox, Qt::Key_Return);
+    EXPECT_EQ(again.matchList->topLevelItemCount(), 0);
+    EXPECT_EQ(none.count(), 0);
+}
+
+}  // namespace

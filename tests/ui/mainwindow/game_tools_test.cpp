@@ -1,0 +1,219 @@
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTreeWidget>
+
+#include <gmock/gmock.h>
+
+#include "changeswindow/changes_window.h"
+#include "csvwindow/import_window.h"
+#include "diff/game_files.h"
+#include "editor_fixture.h"
+#include "findwindow/find_window.h"
+#include "forms/modal.h"
+#include "options/options_window.h"
+#include "problemswindow/problems_bar.h"
+#include "problemswindow/problems_window.h"
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace {
+
+QString Fixture(const char* name)
+{
+    return QStringLiteral(KOLTA_FIXTURES "/") + QLatin1String(name);
+}
+
+GameBuilder FromFixture(const char* name)
+{
+    GameBuilder built;
+    built.game = ReadGameFiles(Fixture(name).toStdString());
+    return built;
+}
+
+void DoubleClick(QAbstractItemView& view, const QRect& at)
+{
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, at.center());
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, at.center());
+}
+
+class GameToolsTest : public EditorTest {
+protected:
+    ~GameToolsTest() override { SetModalDriver({}); }
+
+    void Trigger(const char* action) { Find<QAction>(*main, action).trigger(); }
+
+    // Where the main window stands: country, team entry, squad row, shown player.
+    std::vector<QString> Place() const
+    {
+        const ListBox& squad = Squad();
+        return {Combo("countryList").currentText(), Combo("teamList").currentText(), squad.List(squad.ListIndex()),
+                BoxText("surname")};
+    }
+
+    // Answers the CSV folder chooser with `folder` and the import window
+    // with OK or Cancel, noting what the import window listed.
+    void DriveImport(const QString& folder, QDialogButtonBox::StandardButton press)
+    {
+        SetModalDriver([=, this](QDialog& window) {
+            if (auto* chooser = qobject_cast<QFileDialog*>(&window)) {
+                chooser->selectFile(folder);
+                window.accept();
+            } else if (auto* review = qobject_cast<ImportWindow*>(&window)) {
+                listed_.clear();
+                for (int row = 0; row < review->lineList->count(); ++row)
+                    listed_.push_back(review->lineList->item(row)->text());
+                offered_ = review->buttons->standardButtons();
+                if (QPushButton* button = review->buttons->button(press))
+                    button->click();
+            }
+        });
+    }
+
+    std::vector<QString> listed_;
+    QDialogButtonBox::StandardButtons offered_;
+};
+
+TEST_F(GameToolsTest, FindPlayerGoesToHisCountryTeamAndRow)
+{
+    GameBuilder world = SmallWorld();
+    world.Player(7, "Brinkwell", "Z");  // in no squad
+    Open(std::move(world));
+    const auto answer = [](const QString& typed) {
+        SetModalDriver([typed](QDialog& window) {
+            auto& finder = dynamic_cast<FindWindow&>(window);
+            QTest::keyClicks(finder.findBox, typed);
+            QTest::keyClick(finder.findBox, Qt::Key_Return);
+        });
+    };
+    const auto find = [&](const QString& typed) {
+        answer(typed);
+        Trigger("findPlayerAction");
+    };
+
+    answer("brindle");
+    QTest::keyClick(main.get(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_THAT(Place(), ElementsAre("Australia", "Darwin Dingoes", "P J Brindle", "Brindle"));
+    EXPECT_EQ(main->CurrentPlayer(), 5);
+    find("6");
+    EXPECT_THAT(Place(), ElementsAre("West Indies and Mics.", "Kingston Kites", "W Calloway", "Calloway"));
+
+    // A player without a club: no team chosen, an empty squad list, and he is
+    // the one the boxes show and the tick writes to.
+    find("brinkw");
+    EXPECT_EQ(main->CurrentPlayer(), 7);
+    EXPECT_EQ(main->CurrentTeam(), std::nullopt);
+    EXPECT_EQ(Squad().ListCount(), 0);
+    EXPECT_EQ(BoxText("surname"), "Brinkwell");
+    Retype("surname", "Brinkworth");
+    Tick();
+    EXPECT_EQ(game->Players[7].surname, "Brinkworth");
+    EXPECT_EQ(game->Teams[3].teamName, "Kingston Kites") << "the team shown before keeps its values";
+}
+
+TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
+{
+    Open(FromFixture("game_with_problems"));
+    auto& bar = Find<ProblemsBar>(*main, "problemsBar");
+    ASSERT_TRUE(bar.isVisible());
+    EXPECT_THAT(bar.message->text().toStdString(), ::testing::HasSubstr("3 errors"));
+    QTest::mouseClick(bar.showProblemsButton, Qt::LeftButton);
+
+    auto& problems = Find<ProblemsWindow>(*main, "problemsWindow");
+    ASSERT_TRUE(problems.isVisible());
+    QTableWidget& table = *problems.problemTable;
+    ASSERT_EQ(table.rowCount(), 4);
+    DoubleClick(table, table.visualItemRect(table.item(2, 4)));  // teams.dat 3: a squad names player 9
+    EXPECT_EQ(main->CurrentTeam(), 3);
+    EXPECT_EQ(Combo("teamList").currentText(), "Kentish Town");
+    table.setFocus();
+    QTest::keyClick(&table, Qt::Key_Down);
+    QTest::keyClick(&table, Qt::Key_Return);  // players.dat 5: a skill out of range
+    EXPECT_THAT(Place(), ElementsAre("Australia", "Bayside", "E Ellery", "Ellery"));
+
+    // Once the game is put right and saved, the bar goes.
+    Retype("batSkill", "50");
+    Tick();
+    game->Teams[2].squad[3] = 0;
+    game->Teams[3].squad[2] = 0;
+    Find<QAction>(*main, "saveAction").trigger();
+    EXPECT_FALSE(bar.isVisible());
+    Trigger("checkGameAction");
+    EXPECT_EQ(table.rowCount(), 0);
+}
+
+TEST_F(GameToolsTest, AGameWithoutErrorsShowsNoBar)
+{
+    Open();
+    EXPECT_FALSE(Find<ProblemsBar>(*main, "problemsBar").isVisible());
+}
+
+TEST_F(GameToolsTest, ChangesSinceTheOriginalAndSinceTheSaveGoToTheirRecords)
+{
+    Open(FromFixture("game_with_changes"));
+    auto& tools = Find<QMenu>(*main, "toolsMenu");
+    emit tools.aboutToShow();
+    EXPECT_FALSE(Find<QAction>(*main, "changesSinceOriginalAction").isEnabled());
+    for (const char* file : {"players.dat.orig", "teams.dat.orig"})
+        ASSERT_TRUE(QFile::copy(Fixture("game_with_changes/") + file, GameFolder() + "/" + file));
+    emit tools.aboutToShow();
+    Trigger("changesSinceOriginalAction");
+
+    auto& changes = Find<ChangesWindow>(*main, "changesWindow");
+    QTreeWidget& tree = *changes.changeTree;
+    EXPECT_EQ(changes.summary->text(), "6 changes since the original files:");
+    ASSERT_EQ(tree.topLevelItemCount(), 3);
+    DoubleClick(tree, tree.visualItemRect(tree.topLevelItem(1)->child(0)));  // Bayside's wealth
+    EXPECT_EQ(main->CurrentTeam(), 2);
+    DoubleClick(tree, tree.visualItemRect(tree.topLevelItem(2)->child(0)));  // Dunmore moved
+    EXPECT_THAT(Place(), ElementsAre("Australia", "Harbour CC", "D Dunmore", "Dunmore"));
+
+    Trigger("changesSinceSaveAction");
+    EXPECT_EQ(changes.summary->text(), "Nothing has changed since the last save.");
+    Retype("batSkill", "41");
+    Trigger("changesSinceSaveAction");
+    ASSERT_EQ(tree.topLevelItemCount(), 1);
+    EXPECT_EQ(tree.topLevelItem(0)->child(0)->text(0), "player 4 (D Dunmore): batSkill 40 -> 41");
+}
+
+TEST_F(GameToolsTest, AFaultyImportChangesNothingAndAGoodOneChangesOnlyTheOpenGame)
+{
+    Open(FromFixture("game_with_changes"));
+    const auto before = std::make_unique<Game>(*game);
+
+    DriveImport(Fixture("csv_faulty"), QDialogButtonBox::Close);
+    Trigger("importCsvAction");
+    EXPECT_THAT(listed_, ElementsAre("players.csv:2: batAggression \"fast\" is not a whole number from -32768 to 32767",
+                                     "players.csv:3: player numbers run from 1 to 2000, not 2001"));
+    EXPECT_EQ(offered_, QDialogButtonBox::Close);
+    EXPECT_EQ(game->Players, before->Players);
+
+    DriveImport(Fixture("csv_changes"), QDialogButtonBox::Cancel);
+    Trigger("importCsvAction");
+    EXPECT_EQ(listed_.size(), 3u);
+    EXPECT_EQ(game->Players, before->Players);
+
+    DriveImport(Fixture("csv_changes"), QDialogButtonBox::Ok);
+    Trigger("importCsvAction");
+    EXPECT_EQ(game->Players[5].surname, "Ellerby");
+    EXPECT_EQ(game->Teams[3].wealth, 99);
+    // Shown again at once, so that no tick writes the old values back.
+    Tick();
+    EXPECT_EQ(game->Players[5].surname, "Ellerby");
+    EXPECT_EQ(ReadGameFiles(ToSystemPath(GameFolder()))->Players[5].surname, "Ellery") << "nothing is saved";
+
+    // Export writes both files where the user points.
+    QTemporaryDir sheets;
+    DriveImport(sheets.path(), QDialogButtonBox::Ok);
+    Trigger("exportCsvAction");
+    const auto exported = ImportCsvFolder(*game, ToSystemPath(sheets.path()));
+    EXPECT_TRUE(exported.read);
+    EXPECT_THAT(exported.changes, IsEmpty());
+}
+
+}  // namespace
