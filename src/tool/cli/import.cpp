@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <ostream>
 
 #include "cli/commands.h"
@@ -35,11 +34,11 @@ int RunImport(const CommandLine& line, std::ostream& out, std::ostream& err)
         err << "kolta-data import: cannot read " << UnreadFiles(loaded) << '\n';
         return ExitFailed;
     }
-    const std::filesystem::path folder(line.positional[1]);
-    const auto playersText = ReadWholeFile((folder / "players.csv").string());
-    const auto teamsText = ReadWholeFile((folder / "teams.csv").string());
+    const std::string& folder = line.positional[1];
+    const auto playersText = ReadWholeFile(JoinPath(folder, "players.csv"));
+    const auto teamsText = ReadWholeFile(JoinPath(folder, "teams.csv"));
     if (!playersText && !teamsText) {
-        err << "kolta-data import: neither players.csv nor teams.csv can be read in " << folder.string() << '\n';
+        err << "kolta-data import: neither players.csv nor teams.csv can be read in " << folder << '\n';
         return ExitFailed;
     }
     const CsvTable players = ParseCsv(playersText.value_or(""));

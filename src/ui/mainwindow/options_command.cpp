@@ -1,4 +1,3 @@
-#include <QFile>
 #include <QLabel>
 #include <QPushButton>
 
@@ -17,7 +16,7 @@ void LoadNewDirectory(MainForm& main)
 {
     Game& game = main.game;
     main.setWindowTitle(QStringLiteral("KOLTA Editor (%1)")
-                            .arg(QFile::decodeName(QByteArray::fromStdString(game.GameDirectory))));
+                            .arg(QString::fromStdString(game.GameDirectory)));
     // Empty tables first: no team or player of the old game may turn up in
     // the lists, a search or the next save.
     ClearTables(game);

@@ -1,4 +1,3 @@
-#include <QFile>
 
 #include "data/players_file.h"
 #include "data/setting_file.h"
@@ -7,14 +6,14 @@
 
 bool MainForm::Form_Load()
 {
-    game.GameDirectory = ReadSettingFile(QFile::encodeName(places.PathToRead()).toStdString());
+    game.GameDirectory = ReadSettingFile(places.PathToRead().toStdString());
     if (game.GameDirectory.empty() && !ChooseFirstDirectory())
         return false;
     if (game.GameDirectory.empty())
         return false;
 
     setWindowTitle(QStringLiteral("KOLTA editor (%1)")
-                       .arg(QFile::decodeName(QByteArray::fromStdString(game.GameDirectory))));
+                       .arg(QString::fromStdString(game.GameDirectory)));
     SetGameDirectory(game, game.GameDirectory);
     // A missing or damaged file is no reason to stop: the window shows what
     // could be read, and another directory can be chosen from the menu.

@@ -51,6 +51,6 @@ private:
     SettingPlaces places_;
 };
 
-// Game paths are kept as the system's own bytes and separators.
+// Game paths go to the core as UTF-8 with the system's own separators.
 std::string ToSystemPath(const QString& path);
 QString FromSystemPath(const std::string& path);
