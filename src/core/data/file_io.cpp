@@ -8,6 +8,8 @@
 #include <fstream>
 #include <system_error>
 
+#include "data/cp1252.h"
+
 #if defined(_WIN32)
 #define WIN32_LEAN_AND_MEAN
 #include <io.h>
@@ -113,7 +115,18 @@ fs::path WrittenCopy(const std::string& path)
 
 fs::path NativePath(const std::string& path)
 {
+#if defined(_WIN32)
+    // Text that is not UTF-8 is a path the game's own editor wrote into
+    // editor.dat, in the game's code page.
+    try {
+        return fs::path(std::u8string(path.begin(), path.end()));
+    } catch (const std::system_error&) {
+        const std::u16string text = DecodeCp1252(path);
+        return fs::path(std::wstring(text.begin(), text.end()));
+    }
+#else
     return fs::path(std::u8string(path.begin(), path.end()));
+#endif
 }
 
 std::string PathText(const fs::path& path)

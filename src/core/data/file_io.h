@@ -15,7 +15,8 @@ struct FileResult {
 };
 
 // Paths travel through the program as UTF-8 text on every system; these turn
-// them into the system's own form (wide characters on Windows) and back.
+// them into the system's own form (wide characters on Windows) and back. On
+// Windows a path that is not UTF-8 is read as Windows-1252.
 std::filesystem::path NativePath(const std::string& path);
 std::string PathText(const std::filesystem::path& path);
 // `name` inside `folder`, with the system's separator.

@@ -158,6 +158,16 @@ TEST_F(FilePaths, TheGameSavesInADriveRoot)
 }
 
 #if defined(_WIN32)
+// The game's own editor wrote editor.dat in the game's code page.
+TEST_F(FilePaths, AnEditorSettingInWindows1252FindsTheFolder)
+{
+    const fs::path dir = Folder("Spiele/K\xC3\xB6lta");
+    const std::string setting = PathText(dir.parent_path() / "editor.dat");
+    ASSERT_TRUE(ReplaceFile(setting, PathText(dir.parent_path()) + "\\K\xF6lta\r\n").ok());
+    const auto game = LoadSampleIn(dir, ReadSettingFile(setting));
+    EXPECT_GT(game->PlayerCount, 0);
+}
+
 // Another program (the game) holds one file open and does not let it be
 // deleted or replaced, as Windows programs commonly open their files.
 class HeldFile {
