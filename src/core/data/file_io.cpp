@@ -1,22 +1,24 @@
 #include "data/file_io.h"
 
+#include "data/file_steps.h"
+
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <system_error>
 
 #include "data/cp1252.h"
 
 #if defined(_WIN32)
 #define WIN32_LEAN_AND_MEAN
-#include <io.h>
 #include <windows.h>
 // windows.h names a function of its own ReplaceFile; ours is meant here.
 #undef ReplaceFile
-#elif defined(__unix__) || defined(__APPLE__)
+#else
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -37,30 +39,6 @@ bool LacksWriteBits(const fs::file_status& status)
 }
 
 #if defined(_WIN32)
-// Why Windows refused, in words; a file in use is the common case, because
-// the game keeps its files open while it runs.
-std::string WindowsReason(DWORD code)
-{
-    switch (code) {
-    case ERROR_SHARING_VIOLATION:
-    case ERROR_LOCK_VIOLATION:
-        return "another program (the game?) has the file open";
-    case ERROR_ACCESS_DENIED:
-        return "access is denied: the file is read-only or another program (the game?) has it open";
-    default:
-        break;
-    }
-    wchar_t* text = nullptr;
-    const DWORD length = FormatMessageW(
-        FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-        code, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
-    std::wstring message(text ? text : L"", length);
-    LocalFree(text);
-    while (!message.empty() && (message.back() == L'\n' || message.back() == L'\r' || message.back() == L'.'))
-        message.pop_back();
-    return message.empty() ? "Windows error " + std::to_string(code) : PathText(message);
-}
-
 // Whether another program holds `target` open in a way that stops it being
 // replaced; the reason, or empty.
 std::string HeldOpenReason(const fs::path& target)
@@ -78,37 +56,15 @@ std::string HeldOpenReason(const fs::path& target)
 }
 #endif
 
-// Writes and flushes the temporary file, in binary so that the CR LF line
-// ends go out as they are; the reason of the first failure.
-std::string WriteTemporary(const fs::path& temporary, std::string_view bytes)
+std::string TooLarge()
 {
-#if defined(_WIN32)
-    std::FILE* file = _wfopen(temporary.c_str(), L"wb");
-#else
-    std::FILE* file = std::fopen(temporary.c_str(), "wb");
-#endif
-    if (!file)
-        return std::strerror(errno);
-    std::string reason;
-    if (std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size() || std::fflush(file) != 0)
-        reason = std::strerror(errno);
-#if defined(_WIN32)
-    if (reason.empty() && _commit(_fileno(file)) != 0)
-        reason = std::strerror(errno);
-#elif defined(__unix__) || defined(__APPLE__)
-    if (reason.empty() && ::fsync(fileno(file)) != 0)
-        reason = std::strerror(errno);
-#endif
-    if (std::fclose(file) != 0 && reason.empty())
-        reason = std::strerror(errno);
-    return reason;
+    return "the file is larger than " + std::to_string(MaxFileSize / (1024 * 1024)) +
+           " MB, more than any game makes";
 }
 
-fs::path WrittenCopy(const std::string& path)
+std::string NotRegular(bool folder)
 {
-    fs::path copy = NativePath(path);
-    copy += ".saving";
-    return copy;
+    return folder ? "it is a folder, not a file" : "it is not a regular file";
 }
 
 }  // namespace
@@ -149,23 +105,79 @@ FileResult MakeFolders(const std::string& path)
     return FileResult::Success(path);
 }
 
+#if defined(_WIN32)
+FileBytes ReadFileBytes(const std::string& path)
+{
+    const fs::path native = NativePath(path);
+    std::error_code error;
+    const fs::file_status status = fs::status(native, error);
+    if (error)
+        return {{}, error.message()};
+    if (!fs::is_regular_file(status))
+        return {{}, NotRegular(fs::is_directory(status))};
+    std::FILE* file = _wfopen(native.c_str(), L"rb");
+    if (!file)
+        return {{}, std::strerror(errno)};
+    FileBytes read;
+    std::array<char, 1 << 16> block;
+    std::size_t got = 0;
+    while ((got = std::fread(block.data(), 1, block.size(), file)) > 0) {
+        read.bytes.append(block.data(), got);
+        if (read.bytes.size() > MaxFileSize)
+            break;
+    }
+    if (std::ferror(file))
+        read.reason = std::strerror(errno);
+    std::fclose(file);
+    if (read.reason.empty() && read.bytes.size() > MaxFileSize)
+        read.reason = TooLarge();
+    if (!read.reason.empty())
+        read.bytes.clear();
+    return read;
+}
+#else
+FileBytes ReadFileBytes(const std::string& path)
+{
+    // Opened without waiting, so that a pipe with no writer cannot hold the
+    // load up; what it is decides whether it is read at all.
+    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0)
+        return {{}, std::strerror(errno)};
+    FileBytes read;
+    struct stat info {};
+    if (::fstat(fd, &info) != 0)
+        read.reason = std::strerror(errno);
+    else if (!S_ISREG(info.st_mode))
+        read.reason = NotRegular(S_ISDIR(info.st_mode));
+    else if (static_cast<std::uintmax_t>(info.st_size) > MaxFileSize)
+        read.reason = TooLarge();
+    std::array<char, 1 << 16> block;
+    while (read.reason.empty()) {
+        const ssize_t got = ::read(fd, block.data(), block.size());
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            read.reason = std::strerror(errno);
+        else if (got == 0)
+            break;
+        else
+            read.bytes.append(block.data(), static_cast<std::size_t>(got));
+        if (read.bytes.size() > MaxFileSize)
+            read.reason = TooLarge();
+    }
+    ::close(fd);
+    if (!read.reason.empty())
+        read.bytes.clear();
+    return read;
+}
+#endif
+
 std::optional<std::string> ReadWholeFile(const std::string& path)
 {
-    // Some systems open a folder for reading as if it were an empty file.
-    const fs::path file = NativePath(path);
-    std::error_code error;
-    if (fs::is_directory(file, error))
+    FileBytes file = ReadFileBytes(path);
+    if (!file.ok())
         return std::nullopt;
-    std::ifstream in(file, std::ios::binary);
-    if (!in)
-        return std::nullopt;
-    std::string bytes;
-    std::array<char, 1 << 16> block;
-    while (in.read(block.data(), block.size()) || in.gcount() > 0)
-        bytes.append(block.data(), static_cast<std::size_t>(in.gcount()));
-    if (in.bad())
-        return std::nullopt;
-    return bytes;
+    return std::move(file.bytes);
 }
 
 FileResult CheckWritable(const std::string& path)
@@ -191,67 +203,22 @@ FileResult CheckWritable(const std::string& path)
     return FileResult::Success(path);
 }
 
-FileResult WriteBeside(const std::string& path, std::string_view bytes)
+FileResult ReplaceFile(const std::string& path, std::string_view bytes)
 {
     if (FileResult writable = CheckWritable(path); !writable.ok())
         return writable;
-    if (std::string reason = WriteTemporary(WrittenCopy(path), bytes); !reason.empty()) {
-        DropWritten(path);
+    // A link stays a link: the file it points to is the one replaced.
+    const std::string target = FollowLinks(path);
+    const std::string writing = TemporaryName(target, "saving");
+    std::string reason = WriteNewFile(writing, bytes);
+    std::error_code error;
+    if (reason.empty() && fs::exists(NativePath(target), error))
+        fs::permissions(NativePath(writing), fs::status(NativePath(target), error).permissions(), error);
+    if (reason.empty())
+        reason = MoveReplacing(writing, target);
+    if (!reason.empty()) {
+        RemoveFile(writing);
         return Failure(path, reason);
     }
     return FileResult::Success(path);
-}
-
-FileResult MoveOver(const std::string& path)
-{
-    const fs::path target = NativePath(path);
-    const fs::path copy = WrittenCopy(path);
-    std::error_code error;
-    if (fs::exists(target, error))
-        fs::permissions(copy, fs::status(target, error).permissions(), error);
-#if defined(_WIN32)
-    // A plain rename will not replace a file on Windows; this does, and
-    // returns only when the move is on the disk.
-    if (!MoveFileExW(copy.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-        const DWORD code = GetLastError();
-        DropWritten(path);
-        return Failure(path, WindowsReason(code));
-    }
-#else
-    fs::rename(copy, target, error);
-    if (error) {
-        DropWritten(path);
-        return Failure(path, error.message());
-    }
-#endif
-    return FileResult::Success(path);
-}
-
-void DropWritten(const std::string& path)
-{
-    std::error_code ignored;
-    fs::remove(WrittenCopy(path), ignored);
-}
-
-FileResult ReplaceFile(const std::string& path, std::string_view bytes)
-{
-    if (FileResult written = WriteBeside(path, bytes); !written.ok())
-        return written;
-    return MoveOver(path);
-}
-
-FileResult KeepBackup(const std::string& path)
-{
-    std::error_code error;
-    if (!fs::exists(NativePath(path), error))
-        return FileResult::Success(path);
-    // Copied beside and moved over like any save, so that a copy cut short
-    // never replaces a good one from an earlier session.
-    const std::string backup = path + ".bak";
-    fs::copy_file(NativePath(path), WrittenCopy(backup), fs::copy_options::overwrite_existing, error);
-    if (error) {
-        DropWritten(backup);
-        return Failure(backup, error.message());
-    }
-    return MoveOver(backup);
 }

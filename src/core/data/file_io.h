@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -22,6 +23,21 @@ std::string PathText(const std::filesystem::path& path);
 // `name` inside `folder`, with the system's separator.
 std::string JoinPath(const std::string& folder, const std::string& name);
 
+// Larger than any file the game or the editor could make: a file past this is
+// refused rather than read.
+inline constexpr std::uintmax_t MaxFileSize = 16 * 1024 * 1024;
+
+// The bytes of a file, or why they could not be read.
+struct FileBytes {
+    std::string bytes;
+    std::string reason;
+
+    bool ok() const { return reason.empty(); }
+};
+
+// Reads only a regular file, or one a link points to, of at most MaxFileSize
+// bytes; a device, a pipe or a folder is refused without waiting on it.
+FileBytes ReadFileBytes(const std::string& path);
 std::optional<std::string> ReadWholeFile(const std::string& path);
 
 // Makes the folder and any missing folders above it.
@@ -36,15 +52,5 @@ FileResult CheckWritable(const std::string& path);
 
 // Writes `bytes` beside `path` and moves them over it in one step, so the old
 // file is either replaced whole or left as it was. What CheckWritable refuses
-// is refused here too.
+// is refused here too. A link is followed: the file it points to is replaced.
 FileResult ReplaceFile(const std::string& path, std::string_view bytes);
-
-// ReplaceFile in two halves, for files that must change together: write each
-// beside its target, and only when all are written move each over. Until its
-// move the old file is untouched, and DropWritten takes the copy back.
-FileResult WriteBeside(const std::string& path, std::string_view bytes);
-FileResult MoveOver(const std::string& path);
-void DropWritten(const std::string& path);
-
-// Copies `path` to `path` + ".bak"; a missing file needs no copy.
-FileResult KeepBackup(const std::string& path);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <vector>
 
 #include "data/field_reader.h"
 #include "data/text_lines.h"
@@ -52,15 +53,19 @@ void TakeInitials(const std::optional<std::string>& line, std::string& initials)
 
 }  // namespace
 
-void ReadPlayers(Game& game, std::string_view bytes)
+LoadReport ReadPlayers(Game& game, std::string_view bytes)
 {
+    LoadReport report = LoadReport::For("players.dat");
+    std::vector<int> numbersRead;
     FieldReader reader(bytes);
-    for (;;) {
+    for (int place = 1;; ++place) {
         if (reader.AtEnd())
             break;
         const std::optional<std::int16_t> parsed = reader.ReadNumber();
         if (!parsed || *parsed < 0 || *parsed > MaxPlayers) {
             // No slot for this record: pass over it and keep the rhythm.
+            report.skippedRecords.push_back(place);
+            report.numberedPastLimit += parsed && *parsed > MaxPlayers;
             SkipFields(reader, LinesPerPlayer - 1);
             continue;
         }
@@ -80,7 +85,14 @@ void ReadPlayers(Game& game, std::string_view bytes)
         if (number == 0 || game.PlayerCount == number)
             break;
         game.PlayerCount = number;
+        numbersRead.push_back(number);
     }
+    report.valuesAfterEnd = CountValuesLeft(reader);
+    for (const int number : numbersRead) {
+        if (number > game.PlayerCount)
+            report.pastLastNumber.push_back(number);
+    }
+    return report;
 }
 
 std::string WritePlayers(const Game& game)
@@ -100,13 +112,12 @@ std::string WritePlayers(const Game& game)
     return out.Take();
 }
 
-bool ReadPlayersFile(Game& game)
+LoadReport ReadPlayersFile(Game& game)
 {
-    const auto bytes = ReadWholeFile(game.PlayersPath);
-    if (!bytes)
-        return false;
-    ReadPlayers(game, *bytes);
-    return true;
+    FileBytes file = ReadFileBytes(game.PlayersPath);
+    if (!file.ok())
+        return LoadReport::Unread("players.dat", std::move(file.reason));
+    return ReadPlayers(game, file.bytes);
 }
 
 FileResult WritePlayersFile(const Game& game)

@@ -9,6 +9,7 @@
 namespace {
 
 constexpr int ClosingEmptyLines = 20;
+constexpr int LinesPerTeam = 30;
 
 // Lines 4 to 7 give 0 when empty and leave the field alone when they are no number.
 void TakeNumber(const std::optional<std::string>& line, std::int16_t& field)
@@ -27,10 +28,30 @@ void TakeName(const std::optional<std::string>& line, std::string& name)
         name = line->substr(0, line->size() - 1);
 }
 
+// Teams past the table's end, read only to be counted: records up to the one
+// whose line 10 is empty, leaving out the empty records that close the file.
+int CountTeamsLeft(FieldReader& reader)
+{
+    int count = 0;
+    bool ended = false;
+    while (!ended && !reader.AtEnd()) {
+        bool anything = false;
+        for (int line = 1; line <= LinesPerTeam; ++line) {
+            const std::string value = reader.ReadText().value_or(std::string{});
+            anything = anything || !value.empty();
+            if (line == 10)
+                ended = value.empty();
+        }
+        count += anything;
+    }
+    return count;
+}
+
 }  // namespace
 
-void ReadTeams(Game& game, std::string_view bytes)
+LoadReport ReadTeams(Game& game, std::string_view bytes)
 {
+    LoadReport report = LoadReport::For("teams.dat");
     FieldReader reader(bytes);
     std::string marker = "2";
     int slot = 1;
@@ -38,6 +59,7 @@ void ReadTeams(Game& game, std::string_view bytes)
         if (slot > MaxTeams) {
             // The table is full: whatever follows is not read.
             game.TeamCount = MaxTeams + 2;
+            report.teamsPastLimit = CountTeamsLeft(reader);
             break;
         }
         // Past the end of the file every line reads as empty, so a file that
@@ -68,6 +90,8 @@ void ReadTeams(Game& game, std::string_view bytes)
         ++slot;
         game.TeamCount = static_cast<std::int16_t>(slot);
     }
+    report.valuesAfterEnd = CountValuesLeft(reader);
+    return report;
 }
 
 std::string WriteTeams(const Game& game)
@@ -93,16 +117,15 @@ std::string WriteTeams(const Game& game)
     return out.Take();
 }
 
-bool ReadTeamsFile(Game& game)
+LoadReport ReadTeamsFile(Game& game)
 {
-    const auto bytes = ReadWholeFile(game.TeamsPath);
-    if (!bytes) {
+    FileBytes file = ReadFileBytes(game.TeamsPath);
+    if (!file.ok()) {
         // A missing file reads like an empty one.
         ReadTeams(game, {});
-        return false;
+        return LoadReport::Unread("teams.dat", std::move(file.reason));
     }
-    ReadTeams(game, *bytes);
-    return true;
+    return ReadTeams(game, file.bytes);
 }
 
 FileResult WriteTeamsFile(const Game& game)

@@ -5,6 +5,7 @@
 
 #include "data/file_io.h"
 #include "data/game.h"
+#include "data/load_report.h"
 
 // teams.dat: 30 lines a team, then 20 empty lines.
 //   1 "0"                 5 reputation   9 "0"
@@ -14,9 +15,10 @@
 // A team is numbered by its place in the file, whatever line 8 says.
 
 // Reads teams into slots 1, 2, ... and sets TeamCount to two above the number
-// of teams: the pass over the closing empty lines counts as one more.
-void ReadTeams(Game& game, std::string_view bytes);
+// of teams: the pass over the closing empty lines counts as one more. The
+// report lists the teams and lines a save would not write back.
+LoadReport ReadTeams(Game& game, std::string_view bytes);
 std::string WriteTeams(const Game& game);
 
-bool ReadTeamsFile(Game& game);
+LoadReport ReadTeamsFile(Game& game);
 FileResult WriteTeamsFile(const Game& game);

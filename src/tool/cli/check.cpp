@@ -48,6 +48,7 @@ void AddGameProblems(std::vector<Problem>& fromFiles, const std::vector<Problem>
 int RunCheck(const CommandLine& line, std::ostream& out, std::ostream& err)
 {
     const LoadedGame loaded = LoadGameFolder(line.positional[0]);
+    TellRecovery(loaded, "check", err);
     const auto playersBytes = ReadWholeFile(loaded.game->PlayersPath);
     const auto teamsBytes = ReadWholeFile(loaded.game->TeamsPath);
     if (!loaded.BothRead() || !playersBytes || !teamsBytes) {

@@ -61,6 +61,10 @@ std::string TeamLineName(int line)
 void FindUncarriableLines(std::string_view bytes, const char* file, int linesPerRecord,
                           std::string (*lineName)(int), std::vector<Problem>& problems)
 {
+    // A file of nothing but such lines would list a million of them; past the
+    // first hundred they are only counted.
+    constexpr int Listed = 100;
+    int found = 0;
     int index = 0;
     for (std::size_t start = 0; start < bytes.size(); ++index) {
         std::size_t end = bytes.find_first_of("\r\n", start);
@@ -74,11 +78,14 @@ void FindUncarriableLines(std::string_view bytes, const char* file, int linesPer
             reason = "holds a comma, which ends the value early";
         else if (firstChar != std::string_view::npos && line[firstChar] == '"')
             reason = "begins with a double quote, which makes the value run on to the next one";
-        if (reason)
+        if (reason && ++found <= Listed)
             AddError(problems, file, index / linesPerRecord + 1, lineName(index % linesPerRecord),
                      "line " + std::to_string(index + 1) + " \"" + Utf8FromCp1252(line) + "\" " + reason +
                          ": the format cannot carry it, and the values after it are read out of place");
     }
+    if (found > Listed)
+        AddError(problems, file, index / linesPerRecord + 1, "lines",
+                 std::to_string(found - Listed) + " more lines like these, not listed");
 }
 
 enum class LineKind { Dropped, Name, Number };

@@ -1,18 +1,20 @@
 #include "cli/game_folder.h"
 
-#include "data/players_file.h"
-#include "data/teams_file.h"
+#include "data/load_game.h"
 
 namespace {
 
 LoadedGame Load(const std::string& directory, const std::string& suffix)
 {
-    LoadedGame loaded{std::make_unique<Game>()};
+    LoadedGame loaded;
+    loaded.game = std::make_unique<Game>();
     SetGameDirectory(*loaded.game, directory);
     loaded.game->PlayersPath += suffix;
     loaded.game->TeamsPath += suffix;
-    loaded.playersRead = ReadPlayersFile(*loaded.game);
-    loaded.teamsRead = ReadTeamsFile(*loaded.game);
+    GameLoad load = LoadGame(*loaded.game);
+    loaded.players = std::move(load.players);
+    loaded.teams = std::move(load.teams);
+    loaded.recovered = std::move(load.recovered);
     return loaded;
 }
 
@@ -23,20 +25,29 @@ LoadedGame LoadGameFolder(const std::string& directory)
     return Load(directory, "");
 }
 
-LoadedGame LoadGameBackups(const std::string& directory)
+LoadedGame LoadGameBeside(const std::string& directory, const std::string& suffix)
 {
-    return Load(directory, ".bak");
+    return Load(directory, suffix);
 }
 
 std::string UnreadFiles(const LoadedGame& loaded)
 {
-    const std::string players = loaded.game->PlayersPath;
-    const std::string teams = loaded.game->TeamsPath;
-    if (!loaded.playersRead && !loaded.teamsRead)
-        return players + " and " + teams;
-    if (!loaded.playersRead)
-        return players;
-    if (!loaded.teamsRead)
-        return teams;
+    const auto unread = [](const std::string& path, const LoadReport& report) {
+        return path + " (" + report.failure + ")";
+    };
+    const std::string& players = loaded.game->PlayersPath;
+    const std::string& teams = loaded.game->TeamsPath;
+    if (!loaded.players.Read() && !loaded.teams.Read())
+        return unread(players, loaded.players) + " and " + unread(teams, loaded.teams);
+    if (!loaded.players.Read())
+        return unread(players, loaded.players);
+    if (!loaded.teams.Read())
+        return unread(teams, loaded.teams);
     return {};
+}
+
+void TellRecovery(const LoadedGame& loaded, std::string_view command, std::ostream& err)
+{
+    if (!loaded.recovered.empty())
+        err << "kolta-data " << command << ": " << loaded.recovered << '\n';
 }

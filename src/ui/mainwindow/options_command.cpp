@@ -1,8 +1,8 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "data/players_file.h"
-#include "data/teams_file.h"
+#include "data/load_game.h"
+#include "forms/message_box.h"
 #include "forms/modal.h"
 #include "mainwindow/main_form.h"
 #include "options/folder_lists.h"
@@ -25,8 +25,9 @@ void LoadNewDirectory(MainForm& main)
     // game has the old numbers, before a team and a player are shown again.
     main.Label3->clear();
     main.lblteamno->clear();
-    ReadPlayersFile(game);
-    ReadTeamsFile(game);
+    const GameLoad load = LoadGame(game);
+    if (!load.recovered.empty())
+        MsgBox(QString::fromStdString(load.recovered), MbInformation, QStringLiteral("Info"));
     main.RunStartupChain();
 }
 

@@ -6,7 +6,15 @@
 
 bool MainForm::SaveAll()
 {
-    const FileResult result = SaveGame(game);
+    // What the load could not keep is lost by saving; the user decides.
+    const bool dropConfirmed =
+        !game.LoadDropped.empty() &&
+        MsgBox(QStringLiteral("Saving will leave out what the editor could not load:\n%1\n\nSave anyway?")
+                   .arg(QString::fromStdString(game.LoadDropped)),
+               MbYesNo | MbExclamation, QStringLiteral("Saving..")) == IdYes;
+    if (!game.LoadDropped.empty() && !dropConfirmed)
+        return false;
+    const FileResult result = SaveGame(game, dropConfirmed);
     if (!result.ok()) {
         MsgBox(QStringLiteral("Could not save %1:\n%2\n\nNothing more was written. "
                               "Your changes are still in the editor.")

@@ -1,7 +1,7 @@
 
-#include "data/players_file.h"
+#include "data/load_game.h"
 #include "data/setting_file.h"
-#include "data/teams_file.h"
+#include "forms/message_box.h"
 #include "mainwindow/main_form.h"
 
 bool MainForm::Form_Load()
@@ -17,8 +17,9 @@ bool MainForm::Form_Load()
     SetGameDirectory(game, game.GameDirectory);
     // A missing or damaged file is no reason to stop: the window shows what
     // could be read, and another directory can be chosen from the menu.
-    ReadPlayersFile(game);
-    ReadTeamsFile(game);
+    const GameLoad load = LoadGame(game);
+    if (!load.recovered.empty())
+        MsgBox(QString::fromStdString(load.recovered), MbInformation, QStringLiteral("Info"));
     RunStartupChain();
     return true;
 }

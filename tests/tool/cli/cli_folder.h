@@ -98,15 +98,20 @@ struct ToolArg {
     ToolArg(const fs::path& path) : text(PathText(path)) {}
 };
 
+inline ToolRun RunTool(const std::vector<std::string>& args)
+{
+    std::ostringstream out;
+    std::ostringstream err;
+    const int code = RunKoltaData(args, out, err);
+    return {code, out.str(), err.str()};
+}
+
 inline ToolRun RunTool(std::initializer_list<ToolArg> toolArgs)
 {
     std::vector<std::string> args;
     for (const ToolArg& arg : toolArgs)
         args.push_back(arg.text);
-    std::ostringstream out;
-    std::ostringstream err;
-    const int code = RunKoltaData(args, out, err);
-    return {code, out.str(), err.str()};
+    return RunTool(args);
 }
 
 inline std::string FileBytes(const fs::path& path)

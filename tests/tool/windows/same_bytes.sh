@@ -19,19 +19,22 @@ for folder in "$@"; do
   mkdir -p "$scratch/linux" "$scratch/windows"
   cp -r "$folder" "$scratch/linux/$name"
   cp -r "$folder" "$scratch/windows/$name"
-  linux_code=0 windows_code=0
+  linux_code=0 windows_code=0 differs=0
   "$linux_tool" normalize "$scratch/linux/$name" >/dev/null 2>&1 || linux_code=$?
   "$wine" "$windows_tool" normalize "Z:$scratch/windows/$name" >/dev/null 2>&1 || windows_code=$?
   if [ "$linux_code" -ne "$windows_code" ]; then
     echo "$name: exit $linux_code on Linux, $windows_code on Windows"
-    failed=1
+    differs=1
   fi
   if ! diff -r "$scratch/linux/$name" "$scratch/windows/$name" >/dev/null; then
     echo "$name: the files differ:"
     diff -rq "$scratch/linux/$name" "$scratch/windows/$name" || true
-    failed=1
+    differs=1
   fi
-  echo "$name: exit $linux_code, $(ls "$scratch/linux/$name" | wc -l) files, same bytes"
+  if [ "$differs" -eq 0 ]; then
+    echo "$name: exit $linux_code, $(ls "$scratch/linux/$name" | wc -l) files, same bytes"
+  fi
+  failed=$((failed | differs))
 done
 [ "$failed" -eq 0 ] && rm -rf "$scratch"
 exit "$failed"

@@ -47,7 +47,7 @@ protected:
     {
         const auto read = std::make_unique<Game>();
         SetGameDirectory(*read, ToSystemPath(GameFolder()));
-        return ReadPlayersFile(*read) && ReadTeamsFile(*read) && read->Players == game->Players &&
+        return ReadPlayersFile(*read).Read() && ReadTeamsFile(*read).Read() && read->Players == game->Players &&
                read->Teams == game->Teams && read->Players[1].batSkill == 58 &&
                read->Teams[1].teamName == "Perth Pelicans XI";
     }
