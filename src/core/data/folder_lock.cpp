@@ -22,9 +22,11 @@ namespace {
 
 constexpr std::chrono::milliseconds Retry{50};
 
-const char* const Busy = "another save or import is writing in this folder; nothing was changed";
+const char* const BusyReason = "another save or import is writing in this folder; nothing was changed";
 
 }  // namespace
+
+const char* const PresenceFile = "kolta-editor.open";
 
 #if defined(_WIN32)
 // Windows cannot lock a folder itself, so a lock file stands for it; it goes
@@ -49,7 +51,8 @@ FolderLock::FolderLock(const std::string& folder, std::chrono::milliseconds pati
         }
         CloseHandle(handle);
         if (std::chrono::steady_clock::now() >= deadline) {
-            reason_ = Busy;
+            reason_ = BusyReason;
+            busy_ = true;
             return;
         }
         std::this_thread::sleep_for(Retry);
@@ -57,6 +60,29 @@ FolderLock::FolderLock(const std::string& folder, std::chrono::milliseconds pati
 }
 
 FolderLock::~FolderLock()
+{
+    if (handle_)
+        CloseHandle(static_cast<HANDLE>(handle_));
+}
+FolderPresence::FolderPresence(const std::string& folder)
+    : path_(JoinPath(folder, PresenceFile))
+{
+    HANDLE handle = CreateFileW(NativePath(path_).c_str(), GENERIC_READ | GENERIC_WRITE,
+                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_ALWAYS,
+                                FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return;
+    handle_ = handle;
+    OVERLAPPED first{};
+    if (LockFileEx(handle, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &first))
+        UnlockFileEx(handle, 0, 1, 0, &first);
+    else
+        othersHadItOpen_ = true;
+    OVERLAPPED shared{};
+    LockFileEx(handle, LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &shared);
+}
+
+FolderPresence::~FolderPresence()
 {
     if (handle_)
         CloseHandle(static_cast<HANDLE>(handle_));
@@ -76,7 +102,8 @@ FolderLock::FolderLock(const std::string& folder, std::chrono::milliseconds pati
             return;
         }
         if (std::chrono::steady_clock::now() >= deadline) {
-            reason_ = Busy;
+            reason_ = BusyReason;
+            busy_ = true;
             return;
         }
         std::this_thread::sleep_for(Retry);
@@ -88,5 +115,24 @@ FolderLock::~FolderLock()
 {
     if (fd_ >= 0)
         ::close(fd_);
+}
+
+FolderPresence::FolderPresence(const std::string& folder)
+    : path_(JoinPath(folder, PresenceFile))
+{
+    fd_ = ::open(path_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+    if (fd_ < 0)
+        return;
+    othersHadItOpen_ = ::flock(fd_, LOCK_EX | LOCK_NB) != 0;
+    ::flock(fd_, LOCK_SH | LOCK_NB);
+}
+
+FolderPresence::~FolderPresence()
+{
+    if (fd_ < 0)
+        return;
+    if (::flock(fd_, LOCK_EX | LOCK_NB) == 0)
+        ::unlink(path_.c_str());
+    ::close(fd_);
 }
 #endif

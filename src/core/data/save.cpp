@@ -72,7 +72,8 @@ std::string RecoverInterruptedSave(const std::string& folder)
     if (!std::filesystem::is_directory(NativePath(folder), error))
         return {};
     const FolderLock lock(folder, WriterPatience);
-    if (!lock.Held())
-        return "could not wait for the save in progress: " + lock.Reason();
-    return RecoverPair(folder);
+    if (lock.Busy())
+        return "another program was still saving in this folder; the files were read as they stood";
+    // A folder that cannot be locked cannot be written either: nothing to put right.
+    return lock.Held() ? RecoverPair(folder) : std::string{};
 }

@@ -5,11 +5,12 @@
 #include "cli/json.h"
 #include "cli/record_fields.h"
 #include "cli/squads.h"
+#include "cli/utf8.h"
 
 std::string ProblemLine(const Problem& problem)
 {
     return problem.file + ": " + std::to_string(problem.record) + ": " + problem.field + ": " +
-           (problem.severity == Severity::Error ? "error: " : "warning: ") + problem.message;
+           (problem.severity == Severity::Error ? "error: " : "warning: ") + OnOneLine(problem.message);
 }
 
 std::string ProblemJson(const Problem& problem)

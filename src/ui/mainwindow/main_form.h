@@ -2,8 +2,10 @@
 
 #include <QMainWindow>
 #include <array>
+#include <memory>
 #include <optional>
 
+#include "data/folder_lock.h"
 #include "data/game.h"
 #include "forms/control_indexes.h"
 #include "mainwindow/player_display.h"
@@ -42,6 +44,9 @@ public:
     void RunStartupChain();
     // Asks a first-time user for the game's directory; true when one was set.
     bool ChooseFirstDirectory();
+    // Loads the game's directory, says what became of a save cut off there
+    // and whether another editor has it open.
+    void LoadGameDirectory();
 
     // Navigation.
     void Combo1_Click();
@@ -75,6 +80,7 @@ public:
 
     Game& game;
     SettingPlaces places;
+    std::unique_ptr<FolderPresence> presence;
 
     ComboBox* Combo1 = nullptr;
     ComboBox* Combo2 = nullptr;

@@ -1,8 +1,6 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "data/load_game.h"
-#include "forms/message_box.h"
 #include "forms/modal.h"
 #include "mainwindow/main_form.h"
 #include "options/folder_lists.h"
@@ -25,9 +23,7 @@ void LoadNewDirectory(MainForm& main)
     // game has the old numbers, before a team and a player are shown again.
     main.Label3->clear();
     main.lblteamno->clear();
-    const GameLoad load = LoadGame(game);
-    if (!load.recovered.empty())
-        MsgBox(QString::fromStdString(load.recovered), MbInformation, QStringLiteral("Info"));
+    main.LoadGameDirectory();
     main.RunStartupChain();
 }
 

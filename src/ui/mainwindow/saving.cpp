@@ -1,4 +1,3 @@
-
 #include "data/save.h"
 #include "forms/game_text.h"
 #include "forms/message_box.h"

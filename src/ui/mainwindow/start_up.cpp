@@ -1,3 +1,5 @@
+#include <QDir>
+#include <QFileInfo>
 
 #include "data/load_game.h"
 #include "data/setting_file.h"
@@ -17,9 +19,29 @@ bool MainForm::Form_Load()
     SetGameDirectory(game, game.GameDirectory);
     // A missing or damaged file is no reason to stop: the window shows what
     // could be read, and another directory can be chosen from the menu.
+    LoadGameDirectory();
+    RunStartupChain();
+    return true;
+}
+
+void MainForm::LoadGameDirectory()
+{
     const GameLoad load = LoadGame(game);
     if (!load.recovered.empty())
         MsgBox(QString::fromStdString(load.recovered), MbInformation, QStringLiteral("Info"));
-    RunStartupChain();
-    return true;
+    // A missing file loads as an empty one without a word; a file refused
+    // for what it is (a device, a folder, a giant) is named with the reason.
+    for (const LoadReport* report : {&load.players, &load.teams}) {
+        if (!report->Read() && QFileInfo::exists(QDir(QString::fromStdString(game.GameDirectory))
+                                                .filePath(QString::fromStdString(report->file))))
+            MsgBox(QStringLiteral("%1 was not read: %2")
+                       .arg(QString::fromStdString(report->file), QString::fromStdString(report->failure)),
+                   MbExclamation, QStringLiteral("Info"));
+    }
+    presence.reset();
+    presence = std::make_unique<FolderPresence>(game.GameDirectory);
+    if (presence->OthersHadItOpen())
+        MsgBox(QStringLiteral("Another editor has this game directory open. If both of you save, "
+                              "the second save is refused."),
+               MbInformation, QStringLiteral("Info"));
 }

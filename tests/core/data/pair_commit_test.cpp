@@ -217,4 +217,20 @@ TEST_F(PairCommit, ASecondWriterWaitsThenChangesNothing)
 #endif
 }
 
+TEST_F(PairCommit, ASecondEditorOnTheFolderIsToldAndTheLastOneTidiesUp)
+{
+    auto game = NewGame();
+    const fs::path dir = ChangedCopy(*game);
+    {
+        const FolderPresence first(dir.string());
+        EXPECT_FALSE(first.OthersHadItOpen());
+        const FolderPresence second(dir.string());
+        EXPECT_TRUE(second.OthersHadItOpen());
+        EXPECT_TRUE(SaveGame(*game).ok());  // an open editor is no writer
+    }
+    EXPECT_FALSE(fs::exists(dir / "kolta-editor.open"));
+    const FolderPresence alone(dir.string());
+    EXPECT_FALSE(alone.OthersHadItOpen());
+}
+
 }  // namespace
