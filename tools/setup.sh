@@ -5,7 +5,8 @@ set -euo pipefail
 KOLTA_ROOT="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 KOLTA_BUILD="${KOLTA_BUILD:-$KOLTA_ROOT/build}"
 
-kolta_packages=(cmake ninja-build g++ ccache qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core)
+kolta_packages=(cmake ninja-build g++ ccache qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core
+                desktop-file-utils appstream dpkg-dev)
 
 kolta_install_missing() {
   local missing=()

@@ -3,7 +3,8 @@
 
     python3 tools/artwork/make_artwork.py [output-folder]
 
-Writes icon.png (32x32, stumps and a ball), image1.jpg (400x100, the banner
+Writes icon.png (32x32, stumps and a ball) with the same drawing at the icon
+theme's sizes and as a Windows .ico under icons/, image1.jpg (400x100, the banner
 that leads to the user guide) and image2.gif (270x135, a scorecard that leads
 to the file format reference). Everything is drawn from shapes and the DejaVu
 fonts, so the pictures can be made again on any machine with ImageMagick 6.
@@ -24,8 +25,8 @@ def convert(args, out):
     subprocess.run(["convert", *args, *REPRODUCIBLE, out], check=True)
 
 
-def icon(out):
-    # Drawn eight times larger and scaled down, then held to a small palette.
+def icon_drawing():
+    # Drawn eight times larger than the 32-pixel icon and scaled down.
     s = 8
     draw = []
     # Three stumps and two bails, in willow cream with a dark outline.
@@ -42,8 +43,28 @@ def icon(out):
              "-draw", f"arc {19*s},{11*s} {41*s},{33*s} 135,225",
              "-stroke", "#f6b4a8", "-strokewidth", str(s // 2),
              "-draw", f"circle {17*s},{18*s} {18*s},{18*s}"]
-    convert(["-size", f"{32*s}x{32*s}", "xc:none", *draw,
-             "-filter", "box", "-resize", "32x32", "-colors", "24", "-depth", "8"], out)
+    return ["-size", f"{32*s}x{32*s}", "xc:none", *draw]
+
+
+def icon(out):
+    # The window's icon, held to a small palette.
+    convert([*icon_drawing(), "-filter", "box", "-resize", "32x32", "-colors", "24", "-depth", "8"], out)
+
+
+# The sizes a desktop's icon theme looks for, and those a Windows .ico holds.
+THEME_SIZES = (16, 24, 32, 48, 64, 128, 256)
+ICO_SIZES = (16, 24, 32, 48, 256)
+
+
+def theme_icons(folder):
+    for size in THEME_SIZES:
+        filter_ = "box" if size <= 32 else "lanczos"
+        convert([*icon_drawing(), "-filter", filter_, "-resize", f"{size}x{size}", "-depth", "8"],
+                os.path.join(folder, f"{size}.png"))
+
+
+def windows_icon(out):
+    convert([*icon_drawing(), "-define", "icon:auto-resize=" + ",".join(map(str, ICO_SIZES))], out)
 
 
 def banner(out):
@@ -117,6 +138,10 @@ def main():
     folder = sys.argv[1] if len(sys.argv) > 1 else os.path.join(here, "..", "..", "assets")
     os.makedirs(folder, exist_ok=True)
     icon(os.path.join(folder, "icon.png"))
+    icons = os.path.join(folder, "icons")
+    os.makedirs(icons, exist_ok=True)
+    theme_icons(icons)
+    windows_icon(os.path.join(icons, "kolta-editor.ico"))
     banner(os.path.join(folder, "image1.jpg"))
     scorecard(os.path.join(folder, "image2.gif"))
 

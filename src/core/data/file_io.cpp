@@ -9,8 +9,13 @@
 #include <filesystem>
 #include <system_error>
 
+#include "data/cp1252.h"
+
 #if defined(_WIN32)
+#define WIN32_LEAN_AND_MEAN
 #include <windows.h>
+// windows.h names a function of its own ReplaceFile; ours is meant here.
+#undef ReplaceFile
 #else
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -33,6 +38,24 @@ bool LacksWriteBits(const fs::file_status& status)
     return (status.permissions() & AnyWrite) == fs::perms::none;
 }
 
+#if defined(_WIN32)
+// Whether another program holds `target` open in a way that stops it being
+// replaced; the reason, or empty.
+std::string HeldOpenReason(const fs::path& target)
+{
+    const HANDLE handle = CreateFileW(target.c_str(), DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle != INVALID_HANDLE_VALUE) {
+        CloseHandle(handle);
+        return {};
+    }
+    const DWORD code = GetLastError();
+    if (code == ERROR_FILE_NOT_FOUND || code == ERROR_PATH_NOT_FOUND)
+        return {};
+    return WindowsReason(code);
+}
+#endif
+
 std::string TooLarge()
 {
     return "the file is larger than " + std::to_string(MaxFileSize / (1024 * 1024)) +
@@ -46,16 +69,53 @@ std::string NotRegular(bool folder)
 
 }  // namespace
 
+fs::path NativePath(const std::string& path)
+{
+#if defined(_WIN32)
+    // Text that is not UTF-8 is a path the game's own editor wrote into
+    // editor.dat, in the game's code page.
+    try {
+        return fs::path(std::u8string(path.begin(), path.end()));
+    } catch (const std::system_error&) {
+        const std::u16string text = DecodeCp1252(path);
+        return fs::path(std::wstring(text.begin(), text.end()));
+    }
+#else
+    return fs::path(std::u8string(path.begin(), path.end()));
+#endif
+}
+
+std::string PathText(const fs::path& path)
+{
+    const std::u8string text = path.u8string();
+    return std::string(text.begin(), text.end());
+}
+
+std::string JoinPath(const std::string& folder, const std::string& name)
+{
+    return PathText(NativePath(folder) / NativePath(name));
+}
+
+FileResult MakeFolders(const std::string& path)
+{
+    std::error_code error;
+    fs::create_directories(NativePath(path), error);
+    if (error)
+        return Failure(path, error.message());
+    return FileResult::Success(path);
+}
+
 #if defined(_WIN32)
 FileBytes ReadFileBytes(const std::string& path)
 {
+    const fs::path native = NativePath(path);
     std::error_code error;
-    const fs::file_status status = fs::status(path, error);
+    const fs::file_status status = fs::status(native, error);
     if (error)
         return {{}, error.message()};
     if (!fs::is_regular_file(status))
         return {{}, NotRegular(fs::is_directory(status))};
-    std::FILE* file = _wfopen(fs::path(path).c_str(), L"rb");
+    std::FILE* file = _wfopen(native.c_str(), L"rb");
     if (!file)
         return {{}, std::strerror(errno)};
     FileBytes read;
@@ -122,20 +182,24 @@ std::optional<std::string> ReadWholeFile(const std::string& path)
 
 FileResult CheckWritable(const std::string& path)
 {
-    const fs::path target(path);
+    const fs::path target = NativePath(path);
     const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
     std::error_code error;
     const fs::file_status folderStatus = fs::status(folder, error);
     if (!fs::is_directory(folderStatus))
-        return Failure(path, "the folder " + folder.string() + " does not exist");
+        return Failure(path, "the folder " + PathText(folder) + " does not exist");
 #if !defined(_WIN32)
     // A read-only mark on a Windows folder does not stop files being written in it.
     if (LacksWriteBits(folderStatus))
-        return Failure(path, "the folder " + folder.string() + " is read-only");
+        return Failure(path, "the folder " + PathText(folder) + " is read-only");
 #endif
     const fs::file_status fileStatus = fs::status(target, error);
     if (fs::exists(fileStatus) && LacksWriteBits(fileStatus))
         return Failure(path, "the file is read-only");
+#if defined(_WIN32)
+    if (std::string held = HeldOpenReason(target); !held.empty())
+        return Failure(path, held);
+#endif
     return FileResult::Success(path);
 }
 
@@ -148,8 +212,8 @@ FileResult ReplaceFile(const std::string& path, std::string_view bytes)
     const std::string writing = TemporaryName(target, "saving");
     std::string reason = WriteNewFile(writing, bytes);
     std::error_code error;
-    if (reason.empty() && fs::exists(target, error))
-        fs::permissions(writing, fs::status(target, error).permissions(), error);
+    if (reason.empty() && fs::exists(NativePath(target), error))
+        fs::permissions(NativePath(writing), fs::status(NativePath(target), error).permissions(), error);
     if (reason.empty())
         reason = MoveReplacing(writing, target);
     if (!reason.empty()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,6 +14,14 @@ struct FileResult {
     bool ok() const { return reason.empty(); }
     static FileResult Success(std::string path) { return {std::move(path), {}}; }
 };
+
+// Paths travel through the program as UTF-8 text on every system; these turn
+// them into the system's own form (wide characters on Windows) and back. On
+// Windows a path that is not UTF-8 is read as Windows-1252.
+std::filesystem::path NativePath(const std::string& path);
+std::string PathText(const std::filesystem::path& path);
+// `name` inside `folder`, with the system's separator.
+std::string JoinPath(const std::string& folder, const std::string& name);
 
 // Larger than any file the game or the editor could make: a file past this is
 // refused rather than read.
@@ -31,10 +40,14 @@ struct FileBytes {
 FileBytes ReadFileBytes(const std::string& path);
 std::optional<std::string> ReadWholeFile(const std::string& path);
 
+// Makes the folder and any missing folders above it.
+FileResult MakeFolders(const std::string& path);
+
 // Whether `path` can be replaced: its folder exists and neither the file nor,
 // where folders have such a thing, the folder forbids writing. Permission bits
 // are checked here rather than left to the system, which lets an
-// administrator write anything.
+// administrator write anything. On Windows a file that another program holds
+// open without letting it be replaced (the game, while it runs) is refused.
 FileResult CheckWritable(const std::string& path);
 
 // Writes `bytes` beside `path` and moves them over it in one step, so the old

@@ -9,6 +9,7 @@
 #include "data/file_io.h"
 
 #if defined(_WIN32)
+#define WIN32_LEAN_AND_MEAN
 #include <io.h>
 #include <process.h>
 #include <windows.h>
@@ -19,16 +20,29 @@
 
 namespace fs = std::filesystem;
 
-namespace {
-
 #if defined(_WIN32)
-std::string WindowsReason(DWORD code)
+std::string WindowsReason(unsigned long code)
 {
-    return std::system_category().message(static_cast<int>(code));
+    switch (code) {
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+        return "another program (the game?) has the file open";
+    case ERROR_ACCESS_DENIED:
+        return "access is denied: the file is read-only or another program (the game?) has it open";
+    default:
+        break;
+    }
+    wchar_t* text = nullptr;
+    const DWORD length = FormatMessageW(
+        FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+        code, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
+    std::wstring message(text ? text : L"", length);
+    LocalFree(text);
+    while (!message.empty() && (message.back() == L'\n' || message.back() == L'\r' || message.back() == L'.'))
+        message.pop_back();
+    return message.empty() ? "Windows error " + std::to_string(code) : PathText(message);
 }
 #endif
-
-}  // namespace
 
 std::string TemporaryName(const std::string& path, std::string_view kind)
 {
@@ -43,7 +57,7 @@ std::string TemporaryName(const std::string& path, std::string_view kind)
 std::string WriteNewFile(const std::string& path, std::string_view bytes)
 {
 #if defined(_WIN32)
-    std::FILE* file = _wfopen(fs::path(path).c_str(), L"wb");
+    std::FILE* file = _wfopen(NativePath(path).c_str(), L"wb");
 #else
     std::FILE* file = std::fopen(path.c_str(), "wb");
 #endif
@@ -67,14 +81,14 @@ std::string WriteNewFile(const std::string& path, std::string_view bytes)
 std::string MoveReplacing(const std::string& from, const std::string& to)
 {
 #if defined(_WIN32)
-    if (!MoveFileExW(fs::path(from).c_str(), fs::path(to).c_str(),
+    if (!MoveFileExW(NativePath(from).c_str(), NativePath(to).c_str(),
                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
         return WindowsReason(GetLastError());
     return {};
 #else
     if (std::rename(from.c_str(), to.c_str()) != 0)
         return std::strerror(errno);
-    SyncFolder(fs::path(to).parent_path().string());
+    SyncFolder(PathText(NativePath(to).parent_path()));
     return {};
 #endif
 }
@@ -84,7 +98,7 @@ std::string LinkOrCopy(const std::string& from, const std::string& to)
     if (std::string removed = RemoveFile(to); !removed.empty())
         return removed;
     std::error_code error;
-    fs::create_hard_link(from, to, error);
+    fs::create_hard_link(NativePath(from), NativePath(to), error);
     if (!error)
         return {};
     // Copied through our own reader and writer, so that a full disk says so
@@ -101,14 +115,14 @@ std::string LinkOrCopy(const std::string& from, const std::string& to)
 std::string RemoveFile(const std::string& path)
 {
     std::error_code error;
-    fs::remove(path, error);
+    fs::remove(NativePath(path), error);
     return error ? error.message() : std::string{};
 }
 
 bool Exists(const std::string& path)
 {
     std::error_code error;
-    return fs::exists(fs::symlink_status(path, error));
+    return fs::exists(fs::symlink_status(NativePath(path), error));
 }
 
 void SyncFolder(const std::string& folder)
@@ -128,8 +142,8 @@ void SyncFolder(const std::string& folder)
 std::string FollowLinks(const std::string& path)
 {
     std::error_code error;
-    if (!fs::is_symlink(fs::symlink_status(path, error)))
+    if (!fs::is_symlink(fs::symlink_status(NativePath(path), error)))
         return path;
-    const fs::path target = fs::weakly_canonical(path, error);
-    return error ? path : target.string();
+    const fs::path target = fs::weakly_canonical(NativePath(path), error);
+    return error ? path : PathText(target);
 }

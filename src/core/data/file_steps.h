@@ -26,6 +26,12 @@ std::string RemoveFile(const std::string& path);
 // Whether `path` names anything, a dangling link included.
 bool Exists(const std::string& path);
 
+#if defined(_WIN32)
+// Why Windows refused, in words, from its error code; a file in use is the
+// common case, because the game keeps its files open while it runs.
+std::string WindowsReason(unsigned long code);
+#endif
+
 // Puts the names changed in `folder` on the disk.
 void SyncFolder(const std::string& folder);
 

@@ -6,7 +6,11 @@
 #include <system_error>
 #include <thread>
 
+#include "data/file_io.h"
+#include "data/file_steps.h"
+
 #if defined(_WIN32)
+#define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 #else
 #include <fcntl.h>
@@ -29,14 +33,14 @@ const char* const PresenceFile = "kolta-editor.open";
 // away when the last handle on it closes.
 FolderLock::FolderLock(const std::string& folder, std::chrono::milliseconds patience)
 {
-    const std::filesystem::path file = std::filesystem::path(folder) / "kolta-save.lock";
+    const std::filesystem::path file = NativePath(folder) / "kolta-save.lock";
     const auto deadline = std::chrono::steady_clock::now() + patience;
     for (;;) {
         HANDLE handle = CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE,
                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_ALWAYS,
                                     FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
         if (handle == INVALID_HANDLE_VALUE) {
-            reason_ = std::system_category().message(static_cast<int>(GetLastError()));
+            reason_ = WindowsReason(GetLastError());
             return;
         }
         OVERLAPPED whole{};
@@ -61,9 +65,9 @@ FolderLock::~FolderLock()
         CloseHandle(static_cast<HANDLE>(handle_));
 }
 FolderPresence::FolderPresence(const std::string& folder)
-    : path_((std::filesystem::path(folder) / PresenceFile).string())
+    : path_(JoinPath(folder, PresenceFile))
 {
-    HANDLE handle = CreateFileW(std::filesystem::path(path_).c_str(), GENERIC_READ | GENERIC_WRITE,
+    HANDLE handle = CreateFileW(NativePath(path_).c_str(), GENERIC_READ | GENERIC_WRITE,
                                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_ALWAYS,
                                 FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
     if (handle == INVALID_HANDLE_VALUE)
@@ -114,7 +118,7 @@ FolderLock::~FolderLock()
 }
 
 FolderPresence::FolderPresence(const std::string& folder)
-    : path_((std::filesystem::path(folder) / PresenceFile).string())
+    : path_(JoinPath(folder, PresenceFile))
 {
     fd_ = ::open(path_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
     if (fd_ < 0)

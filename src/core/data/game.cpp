@@ -1,18 +1,18 @@
 #include "data/game.h"
 
 #include <algorithm>
-#include <filesystem>
+
+#include "data/file_io.h"
 
 void SetGameDirectory(Game& game, const std::string& directory)
 {
-    const std::filesystem::path dir(directory);
     if (directory != game.GameDirectory) {
         game.BackupsKept = false;
         game.LoadedStamp.clear();
     }
     game.GameDirectory = directory;
-    game.PlayersPath = (dir / "players.dat").string();
-    game.TeamsPath = (dir / "teams.dat").string();
+    game.PlayersPath = JoinPath(directory, "players.dat");
+    game.TeamsPath = JoinPath(directory, "teams.dat");
 }
 
 void ClearTables(Game& game)

@@ -2,15 +2,16 @@
 
 #include <filesystem>
 
+#include "data/file_io.h"
 #include "data/players_file.h"
 #include "data/save.h"
 #include "data/teams_file.h"
 
 GameLoad LoadGame(Game& game)
 {
-    const std::filesystem::path players(game.PlayersPath);
+    const std::filesystem::path players = NativePath(game.PlayersPath);
     GameLoad load;
-    load.recovered = RecoverInterruptedSave(players.has_parent_path() ? players.parent_path().string() : ".");
+    load.recovered = RecoverInterruptedSave(players.has_parent_path() ? PathText(players.parent_path()) : ".");
     load.players = ReadPlayersFile(game);
     load.teams = ReadTeamsFile(game);
     game.LoadedStamp = GameFilesStamp(game);

@@ -61,7 +61,7 @@ std::optional<std::vector<Move>> Parse(const std::string& text)
 
 std::string Named(const std::string& folder, const char* name)
 {
-    return (fs::path(folder) / name).string();
+    return JoinPath(folder, name);
 }
 
 // Puts back what the moves already made to the game files, and drops the
@@ -122,7 +122,7 @@ FileResult Apply(const std::vector<Move>& moves)
         }
         if (std::string reason = MoveReplacing(move.from, move.to); !reason.empty())
             return {move.to, reason};
-        Step("moved " + fs::path(move.to).filename().string());
+        Step("moved " + PathText(NativePath(move.to).filename()));
     }
     return FileResult::Success({});
 }
@@ -151,17 +151,17 @@ std::string RemoveRecord(const std::string& folder)
 // are left to it: it writes them afresh.
 void ClearLeftovers(const std::string& folder)
 {
-    const std::string own = fs::path(TemporaryName("", "")).filename().string();
+    const std::string own = PathText(NativePath(TemporaryName("", "")).filename());
     std::error_code error;
-    for (const auto& entry : fs::directory_iterator(folder, error)) {
-        const std::string name = entry.path().filename().string();
+    for (const auto& entry : fs::directory_iterator(NativePath(folder), error)) {
+        const std::string name = PathText(entry.path().filename());
         if (name.ends_with(own.substr(own.rfind('-'))))
             continue;
         for (const char* prefix : {"players.dat.", "teams.dat.", "kolta-save.commit."}) {
             const std::string start = prefix;
             if (name.starts_with(start) && (name.find(".saving-", start.size() - 1) != std::string::npos ||
                                             name.find(".restoring-", start.size() - 1) != std::string::npos))
-                RemoveFile(entry.path().string());
+                RemoveFile(PathText(entry.path()));
         }
     }
     for (const char* suffix : {".bak", ".orig", ".prev"}) {
@@ -222,13 +222,13 @@ FileResult CommitPair(const PairSave& save)
     for (const Target& target : targets) {
         const std::string from = TemporaryName(target.file, "saving");
         std::error_code error;
-        const bool existed = fs::exists(target.file, error);
+        const bool existed = fs::exists(NativePath(target.file), error);
         main.push_back({'m', from, target.file, existed ? target.path + ".prev" : std::string{}});
         if (std::string reason = WriteNewFile(from, target.bytes); !reason.empty())
             return fail(target.path, reason);
         if (existed)
-            fs::permissions(from, fs::status(target.file, error).permissions(), error);
-        Step("wrote new " + fs::path(target.path).filename().string());
+            fs::permissions(NativePath(from), fs::status(NativePath(target.file), error).permissions(), error);
+        Step("wrote new " + PathText(NativePath(target.path).filename()));
     }
 
     const bool keepOriginal = !Exists(save.playersPath + ".orig") && !Exists(save.teamsPath + ".orig");

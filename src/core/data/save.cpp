@@ -13,8 +13,8 @@ namespace {
 
 std::string FolderOf(const std::string& path)
 {
-    const std::filesystem::path file(path);
-    return file.has_parent_path() ? file.parent_path().string() : std::string(".");
+    const std::filesystem::path file = NativePath(path);
+    return file.has_parent_path() ? PathText(file.parent_path()) : std::string(".");
 }
 
 }  // namespace
@@ -69,7 +69,7 @@ std::string GameFilesStamp(const Game& game)
 std::string RecoverInterruptedSave(const std::string& folder)
 {
     std::error_code error;
-    if (!std::filesystem::is_directory(folder, error))
+    if (!std::filesystem::is_directory(NativePath(folder), error))
         return {};
     const FolderLock lock(folder, WriterPatience);
     if (lock.Busy())

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cctype>
-#include <filesystem>
 #include <ostream>
 
 #include "cli/commands.h"
@@ -71,15 +70,13 @@ int RunExport(const CommandLine& line, std::ostream& out, std::ostream& err)
             << LoadedTeamCount(*loaded.game) << '\n';
         return ExitFailed;
     }
-    const std::filesystem::path folder(line.positional[1]);
-    std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    if (error) {
-        err << "kolta-data export: cannot make " << folder.string() << ": " << error.message() << '\n';
+    const std::string& folder = line.positional[1];
+    if (const FileResult made = MakeFolders(folder); !made.ok()) {
+        err << "kolta-data export: cannot make " << folder << ": " << made.reason << '\n';
         return ExitFailed;
     }
     for (const bool players : {true, false}) {
-        const std::string path = (folder / (players ? "players.csv" : "teams.csv")).string();
+        const std::string path = JoinPath(folder, players ? "players.csv" : "teams.csv");
         const std::string text = players ? PlayersCsv(*loaded.game, filter) : TeamsCsv(*loaded.game, filter);
         if (const FileResult written = ReplaceFile(path, text); !written.ok()) {
             err << "kolta-data export: " << written.path << ": " << written.reason << '\n';

@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <optional>
 #include <ostream>
 #include <utility>
@@ -42,11 +41,11 @@ int RunImport(const CommandLine& line, std::ostream& out, std::ostream& err)
         err << "kolta-data import: cannot read " << UnreadFiles(loaded) << '\n';
         return ExitFailed;
     }
-    const std::filesystem::path folder(line.positional[1]);
+    const std::string& folder = line.positional[1];
     std::optional<std::string> playersText;
     std::optional<std::string> teamsText;
     for (auto [name, text] : {std::pair{"players.csv", &playersText}, std::pair{"teams.csv", &teamsText}}) {
-        const std::string path = (folder / name).string();
+        const std::string path = JoinPath(folder, name);
         if (!Exists(path))
             continue;  // left out
         FileBytes read = ReadFileBytes(path);
@@ -57,7 +56,7 @@ int RunImport(const CommandLine& line, std::ostream& out, std::ostream& err)
         *text = std::move(read.bytes);
     }
     if (!playersText && !teamsText) {
-        err << "kolta-data import: neither players.csv nor teams.csv can be read in " << folder.string() << '\n';
+        err << "kolta-data import: neither players.csv nor teams.csv can be read in " << folder << '\n';
         return ExitFailed;
     }
     Game& game = *loaded.game;

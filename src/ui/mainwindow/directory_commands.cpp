@@ -1,4 +1,3 @@
-#include <QFile>
 #include <QLabel>
 
 #include "forms/modal.h"
@@ -11,7 +10,7 @@ void MainWindow::LoadNewDirectory()
     // Edits not saved are dropped without a question, as the old files stay
     // as last saved.
     setWindowTitle(QStringLiteral("KOLTA Editor (%1)")
-                       .arg(QFile::decodeName(QByteArray::fromStdString(game_.GameDirectory))));
+                       .arg(QString::fromStdString(game_.GameDirectory)));
     // Empty tables first: no team or player of the old game may turn up in
     // the lists, a search or the next save.
     ClearTables(game_);

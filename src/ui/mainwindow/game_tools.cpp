@@ -31,12 +31,12 @@ constexpr const char* OriginalSuffix = ".orig";
 
 QString FromPath(const std::string& path)
 {
-    return QDir::toNativeSeparators(QFile::decodeName(QByteArray::fromStdString(path)));
+    return QDir::toNativeSeparators(QString::fromStdString(path));
 }
 
 std::string ToPath(const QString& path)
 {
-    return QFile::encodeName(path).toStdString();
+    return path.toStdString();
 }
 
 // The scans of the files speak of the files as they lie on disk, the rest of

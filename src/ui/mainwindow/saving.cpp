@@ -1,5 +1,3 @@
-#include <QFile>
-
 #include "data/save.h"
 #include "forms/game_text.h"
 #include "forms/message_box.h"
@@ -20,7 +18,7 @@ bool MainWindow::SaveAll()
     if (!result.ok()) {
         MsgBox(QStringLiteral("Could not save %1:\n%2\n\nNothing more was written. "
                               "Your changes are still in the editor.")
-                   .arg(QFile::decodeName(QByteArray::fromStdString(result.path)),
+                   .arg(QString::fromStdString(result.path),
                         QString::fromStdString(result.reason)),
                MbCritical, QStringLiteral("Saving.."));
         return false;

@@ -1,6 +1,5 @@
-#include <QFile>
-
-#include <filesystem>
+#include <QDir>
+#include <QFileInfo>
 
 #include "data/load_game.h"
 #include "data/setting_file.h"
@@ -10,14 +9,14 @@
 
 bool MainWindow::Start()
 {
-    game_.GameDirectory = ReadSettingFile(QFile::encodeName(places_.PathToRead()).toStdString());
+    game_.GameDirectory = ReadSettingFile(places_.PathToRead().toStdString());
     if (game_.GameDirectory.empty() && !ChooseFirstDirectory())
         return false;
     if (game_.GameDirectory.empty())
         return false;
 
     setWindowTitle(QStringLiteral("KOLTA editor (%1)")
-                       .arg(QFile::decodeName(QByteArray::fromStdString(game_.GameDirectory))));
+                       .arg(QString::fromStdString(game_.GameDirectory)));
     SetGameDirectory(game_, game_.GameDirectory);
     // A missing or damaged file is no reason to stop: the window shows what
     // could be read, and another directory can be chosen from the menu.
@@ -35,7 +34,8 @@ void MainWindow::LoadGameDirectory()
     // A missing file loads as an empty one without a word; a file refused
     // for what it is (a device, a folder, a giant) is named with the reason.
     for (const LoadReport* report : {&load.players, &load.teams}) {
-        if (!report->Read() && std::filesystem::exists(std::filesystem::path(game_.GameDirectory) / report->file))
+        if (!report->Read() && QFileInfo::exists(QDir(QString::fromStdString(game_.GameDirectory))
+                                                .filePath(QString::fromStdString(report->file))))
             MsgBox(QStringLiteral("%1 was not read: %2")
                        .arg(QString::fromStdString(report->file), QString::fromStdString(report->failure)),
                    MbExclamation, QStringLiteral("Info"));

@@ -1,7 +1,6 @@
 #include "options/options_window.h"
 
 #include <QDir>
-#include <QFile>
 #include <QLabel>
 #include <QPushButton>
 
@@ -40,12 +39,12 @@ QLabel* MakeLabel(FittedLayout& at, QWidget* form, const char* name, const QStri
 
 std::string ToSystemPath(const QString& path)
 {
-    return QFile::encodeName(QDir::toNativeSeparators(path)).toStdString();
+    return QDir::toNativeSeparators(path).toStdString();
 }
 
 QString FromSystemPath(const std::string& path)
 {
-    return QDir::fromNativeSeparators(QFile::decodeName(QByteArray::fromStdString(path)));
+    return QDir::fromNativeSeparators(QString::fromStdString(path));
 }
 
 OptionsWindow::OptionsWindow(Game& game, SettingPlaces places, Mode mode, QWidget* parent)

@@ -1,11 +1,11 @@
 #include "options/web_pages.h"
 
-#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 
 #include "forms/message_box.h"
+#include "options/shipped_files.h"
 
 namespace {
 
@@ -15,21 +15,16 @@ PageOpener& Opener()
     return opener;
 }
 
-QUrl PageBesideProgram(const QString& name)
-{
-    return QUrl::fromLocalFile(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(name));
-}
-
 }  // namespace
 
 QUrl UserGuidePage()
 {
-    return PageBesideProgram(QStringLiteral("guide.html"));
+    return QUrl::fromLocalFile(ShippedFile(QStringLiteral("guide.html")));
 }
 
 QUrl FileFormatsPage()
 {
-    return PageBesideProgram(QStringLiteral("file-formats.html"));
+    return QUrl::fromLocalFile(ShippedFile(QStringLiteral("file-formats.html")));
 }
 
 void OpenWebPage(const QUrl& page)

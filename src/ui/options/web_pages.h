@@ -4,8 +4,8 @@
 #include <QUrl>
 #include <functional>
 
-// The two pages that ship beside the program and open from the main
-// window's pictures: the user guide and the layout of the game's files.
+// The two pages that ship with the program and open from the main window's
+// pictures: the user guide and the layout of the game's files.
 QUrl UserGuidePage();
 QUrl FileFormatsPage();
 

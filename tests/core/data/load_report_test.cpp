@@ -7,8 +7,10 @@
 #include <string>
 #include <vector>
 
+#if !defined(_WIN32)
 #include <sys/stat.h>
 #include <unistd.h>
+#endif
 
 #include "data/file_io.h"
 #include "data/players_file.h"
@@ -84,6 +86,8 @@ TEST(LoadReport, LongListsAreCut)
               "players.dat: 12 records without a usable player number (record 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, ...)");
 }
 
+#if !defined(_WIN32)
+// Pipes, devices and permission bits are Unix things.
 class ReadFile : public testing::Test {
 protected:
     void SetUp() override
@@ -145,5 +149,7 @@ TEST_F(ReadFile, RefusesWhatIsNoGameFileAndSaysWhy)
     EXPECT_EQ(report.failure, "it is not a regular file");
     EXPECT_FALSE(report.Read());
 }
+
+#endif
 
 }  // namespace

@@ -19,8 +19,8 @@ TEST(SettingFile, KeepsTheDirectoryUpToTheFirstCommaOrLineEnd)
     const std::string directory = "C:\\Spiele\\K\xF6lta Cricket";
     EXPECT_EQ(WriteSetting(directory), directory + "\r\n");
     const std::filesystem::path file = std::filesystem::temp_directory_path() / "kolta-setting-test-editor.dat";
-    ASSERT_TRUE(WriteSettingFile(file.string(), directory).ok());
-    EXPECT_EQ(ReadSettingFile(file.string()), directory);
+    ASSERT_TRUE(WriteSettingFile(PathText(file), directory).ok());
+    EXPECT_EQ(ReadSettingFile(PathText(file)), directory);
     std::filesystem::remove(file);
 }
 

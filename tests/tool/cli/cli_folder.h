@@ -90,6 +90,14 @@ struct ToolRun {
     std::string err;
 };
 
+// An argument as the tool is handed it: text, or a path as UTF-8 text.
+struct ToolArg {
+    std::string text;
+    ToolArg(const char* text) : text(text) {}
+    ToolArg(std::string text) : text(std::move(text)) {}
+    ToolArg(const fs::path& path) : text(PathText(path)) {}
+};
+
 inline ToolRun RunTool(const std::vector<std::string>& args)
 {
     std::ostringstream out;
@@ -98,14 +106,22 @@ inline ToolRun RunTool(const std::vector<std::string>& args)
     return {code, out.str(), err.str()};
 }
 
+inline ToolRun RunTool(std::initializer_list<ToolArg> toolArgs)
+{
+    std::vector<std::string> args;
+    for (const ToolArg& arg : toolArgs)
+        args.push_back(arg.text);
+    return RunTool(args);
+}
+
 inline std::string FileBytes(const fs::path& path)
 {
-    return ReadWholeFile(path.string()).value_or("<missing>");
+    return ReadWholeFile(PathText(path)).value_or("<missing>");
 }
 
 inline void WriteBytes(const fs::path& path, const std::string& bytes)
 {
-    ASSERT_TRUE(ReplaceFile(path.string(), bytes).ok()) << path;
+    ASSERT_TRUE(ReplaceFile(PathText(path), bytes).ok()) << path;
 }
 
 // Temporary folders of one test, removed when it ends.

@@ -1,0 +1,278 @@
+// Files as each system keeps them: bytes go out and come back exactly (no
+// CR added or lost), an existing file is replaced, folders may be named in
+// any script or be a drive's root, editor.dat may stand beside the program,
+// and on Windows a file the game holds open stops the save with both old
+// files left as they were. These run on Linux and, built for Windows, under Wine.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
+
+#if defined(_WIN32)
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+#undef ReplaceFile
+#endif
+
+#include "data/file_io.h"
+#include "data/load_game.h"
+#include "data/pair_commit.h"
+#include "data/players_file.h"
+#include "data/save.h"
+#include "data/setting_file.h"
+#include "data/teams_file.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path ProgramFolder()
+{
+#if defined(_WIN32)
+    std::wstring program(32768, L'\0');
+    program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
+    return fs::path(program).parent_path();
+#else
+    return fs::read_symlink("/proc/self/exe").parent_path();
+#endif
+}
+
+std::string Bytes(const fs::path& path)
+{
+    return ReadWholeFile(PathText(path)).value_or("<missing>");
+}
+
+// Files a save writes on the way, which it must not leave behind.
+std::vector<std::string> Temporaries(const fs::path& dir)
+{
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(dir)) {
+        const std::string name = PathText(entry.path().filename());
+        if (name.find(".saving") != std::string::npos || name.find("kolta-save.commit") != std::string::npos)
+            names.push_back(name);
+    }
+    return names;
+}
+
+// Folder names as UTF-8 text, the form paths take inside the program.
+const std::vector<std::string> FolderNames = {
+    "KOLTA",
+    "Spiele/K\xC3\xB6lta",                                   // Költa
+    "\xD0\x9A\xD0\xBE\xD0\xBB\xD1\x8C\xD1\x82\xD0\xB0 2",  // Кольта 2
+};
+
+// Bytes a text-mode stream would change: lone CR and LF, CR LF, Ctrl-Z (the
+// end of a text file to the Windows C library), a NUL and high bytes.
+const std::string AwkwardBytes = std::string("a\r\nb\nc\rd\x1a" "e") + '\0' + "\xF6\xFF\r\n";
+
+class FilePaths : public testing::TestWithParam<std::string> {
+protected:
+    void TearDown() override
+    {
+        SetCommitStepHook(nullptr);
+        std::error_code ignored;
+        fs::remove_all(root_, ignored);
+    }
+
+    // A new folder named `name` under a scratch folder of this test.
+    fs::path Folder(const std::string& name)
+    {
+        const fs::path dir = root_ / NativePath(name);
+        fs::create_directories(dir);
+        return dir;
+    }
+
+    // The sample game copied into `dir` and loaded.
+    std::unique_ptr<Game> LoadSampleIn(const fs::path& dir, const std::string& asText)
+    {
+        for (const char* file : {"players.dat", "teams.dat"})
+            fs::copy_file(fs::path(KOLTA_SAMPLE) / file, dir / file, fs::copy_options::overwrite_existing);
+        auto game = std::make_unique<Game>();
+        SetGameDirectory(*game, asText);
+        EXPECT_TRUE(ReadPlayersFile(*game).Read());
+        EXPECT_TRUE(ReadTeamsFile(*game).Read());
+        return game;
+    }
+
+    // Saves the loaded game twice, the second time over files the first
+    // wrote, and checks each file and its backup byte for byte.
+    void SaveTwiceAndCompare(Game& game, const fs::path& dir)
+    {
+        const std::string oldPlayers = Bytes(dir / "players.dat");
+        const std::string oldTeams = Bytes(dir / "teams.dat");
+        game.Players[1].surname = "Renamed";
+        for (int round = 0; round < 2; ++round) {
+            const FileResult saved = SaveGame(game);
+            ASSERT_TRUE(saved.ok()) << saved.path << ": " << saved.reason;
+        }
+        EXPECT_EQ(Bytes(dir / "players.dat"), WritePlayers(game));
+        EXPECT_EQ(Bytes(dir / "teams.dat"), WriteTeams(game));
+        EXPECT_EQ(Bytes(dir / "players.dat.bak"), oldPlayers);
+        EXPECT_EQ(Bytes(dir / "teams.dat.bak"), oldTeams);
+        EXPECT_EQ(Temporaries(dir), std::vector<std::string>{});
+    }
+
+    const fs::path root_ = fs::temp_directory_path() / ("kolta-paths-" + std::to_string(std::random_device{}()));
+};
+
+TEST_P(FilePaths, ReplacingAFileKeepsEveryByte)
+{
+    const fs::path dir = Folder(GetParam());
+    const std::string file = JoinPath(PathText(dir), "editor.dat");
+    ASSERT_TRUE(ReplaceFile(file, "old contents, longer than the new ones\r\n").ok());
+    const FileResult replaced = ReplaceFile(file, AwkwardBytes);
+    ASSERT_TRUE(replaced.ok()) << replaced.reason;
+    EXPECT_EQ(ReadWholeFile(file), AwkwardBytes);
+    EXPECT_EQ(fs::file_size(NativePath(file)), AwkwardBytes.size());
+}
+
+TEST_P(FilePaths, TheGameSavesInTheFolder)
+{
+    const fs::path dir = Folder(GetParam());
+    const auto game = LoadSampleIn(dir, PathText(dir));
+    EXPECT_EQ(game->PlayersPath, PathText(dir / "players.dat"));
+    SaveTwiceAndCompare(*game, dir);
+}
+
+INSTANTIATE_TEST_SUITE_P(Scripts, FilePaths, testing::ValuesIn(FolderNames));
+
+// The game's folder named in editor.dat, which stands beside the program.
+// One test for all names, so that no two write the file at once.
+TEST_F(FilePaths, EditorSettingBesideTheProgram)
+{
+    const std::string setting = JoinPath(PathText(ProgramFolder()), "editor.dat");
+    for (const std::string& name : FolderNames) {
+        SCOPED_TRACE(name);
+        const fs::path dir = Folder(name);
+        ASSERT_TRUE(WriteSettingFile(setting, PathText(dir)).ok());
+        const std::string named = ReadSettingFile(setting);
+        EXPECT_EQ(named, PathText(dir));
+        const auto game = LoadSampleIn(dir, named);
+        EXPECT_GT(game->PlayerCount, 0);
+    }
+    fs::remove(NativePath(setting));
+}
+
+// A drive's root as the game's folder ("K:\"), where there is no folder name
+// to join to. The test runs where a scratch drive is named in KOLTA_DRIVE_ROOT.
+TEST_F(FilePaths, TheGameSavesInADriveRoot)
+{
+    const char* root = std::getenv("KOLTA_DRIVE_ROOT");
+    if (!root || !*root)
+        GTEST_SKIP() << "no scratch drive named in KOLTA_DRIVE_ROOT";
+    const fs::path dir = NativePath(root);
+    for (const char* file : {"players.dat.bak", "teams.dat.bak"})
+        fs::remove(dir / file);
+    const auto game = LoadSampleIn(dir, root);
+    EXPECT_EQ(game->PlayersPath, std::string(root) + "players.dat");
+    SaveTwiceAndCompare(*game, dir);
+}
+
+#if defined(_WIN32)
+// The game's own editor wrote editor.dat in the game's code page.
+TEST_F(FilePaths, AnEditorSettingInWindows1252FindsTheFolder)
+{
+    const fs::path dir = Folder("Spiele/K\xC3\xB6lta");
+    const std::string setting = PathText(dir.parent_path() / "editor.dat");
+    ASSERT_TRUE(ReplaceFile(setting, PathText(dir.parent_path()) + "\\K\xF6lta\r\n").ok());
+    const auto game = LoadSampleIn(dir, ReadSettingFile(setting));
+    EXPECT_GT(game->PlayerCount, 0);
+}
+
+// Another program (the game) holds one file open and does not let it be
+// deleted or replaced, as Windows programs commonly open their files.
+class HeldFile {
+public:
+    explicit HeldFile(const fs::path& path)
+        : handle_(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                              OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr))
+    {
+    }
+    ~HeldFile() { CloseHandle(handle_); }
+    bool held() const { return handle_ != INVALID_HANDLE_VALUE; }
+
+private:
+    HANDLE handle_;
+};
+
+// A save cut off after any one of its steps. Where Unix tests kill a child
+// process there, this one throws out of the save, which leaves the files as
+// a dead process would.
+struct CutOff {};
+std::vector<std::string> stepsSeen;
+std::string cutAt;
+
+TEST_F(FilePaths, ASaveCutOffAtAnyStepIsFinishedOrUndoneByTheNextLoad)
+{
+    const auto changed = [](Game& game) {
+        game.Players[1].surname = "Renamed";
+        game.Teams[1].wealth = 77;
+    };
+    const fs::path first = Folder("K\xC3\xB6lta");
+    auto game = LoadSampleIn(first, PathText(first));
+    changed(*game);
+    stepsSeen.clear();
+    SetCommitStepHook([](std::string_view step) { stepsSeen.emplace_back(step); });
+    ASSERT_TRUE(SaveGame(*game).ok());
+    ASSERT_GE(stepsSeen.size(), 8u);
+
+    const std::vector<std::string> steps = stepsSeen;
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        SCOPED_TRACE("cut off after: " + steps[i]);
+        const fs::path dir = Folder("K\xC3\xB6lta " + std::to_string(i));
+        auto saving = LoadSampleIn(dir, PathText(dir));
+        const std::string oldPlayers = Bytes(dir / "players.dat");
+        const std::string oldTeams = Bytes(dir / "teams.dat");
+        changed(*saving);
+        const std::string newPlayers = WritePlayers(*saving);
+        const std::string newTeams = WriteTeams(*saving);
+        cutAt = steps[i];
+        SetCommitStepHook([](std::string_view step) {
+            if (step == cutAt)
+                throw CutOff{};
+        });
+        EXPECT_THROW(SaveGame(*saving), CutOff);
+        SetCommitStepHook(nullptr);
+
+        const auto loaded = std::make_unique<Game>();
+        SetGameDirectory(*loaded, PathText(dir));
+        LoadGame(*loaded);
+        const std::string players = Bytes(dir / "players.dat");
+        const std::string teams = Bytes(dir / "teams.dat");
+        EXPECT_TRUE((players == oldPlayers && teams == oldTeams) || (players == newPlayers && teams == newTeams));
+        EXPECT_FALSE(fs::exists(NativePath(CommitRecordPath(PathText(dir)))));
+    }
+}
+
+TEST_F(FilePaths, AFileHeldOpenStopsTheSaveAndBothFilesStay)
+{
+    for (const char* heldName : {"players.dat", "teams.dat"}) {
+        SCOPED_TRACE(heldName);
+        const fs::path dir = Folder(std::string("held ") + heldName);
+        const auto game = LoadSampleIn(dir, PathText(dir));
+        const std::string oldPlayers = Bytes(dir / "players.dat");
+        const std::string oldTeams = Bytes(dir / "teams.dat");
+        game->Players[1].surname = "Renamed";
+        FileResult saved;
+        {
+            const HeldFile held(dir / heldName);
+            ASSERT_TRUE(held.held());
+            saved = SaveGame(*game);
+        }
+        EXPECT_FALSE(saved.ok());
+        EXPECT_EQ(saved.path, PathText(dir / heldName));
+        EXPECT_NE(saved.reason.find("another program"), std::string::npos) << saved.reason;
+        EXPECT_EQ(Bytes(dir / "players.dat"), oldPlayers);
+        EXPECT_EQ(Bytes(dir / "teams.dat"), oldTeams);
+        EXPECT_EQ(Temporaries(dir), std::vector<std::string>{});
+        // Once the game lets go, the same edit saves.
+        EXPECT_TRUE(SaveGame(*game).ok());
+    }
+}
+#endif
+
+}  // namespace
