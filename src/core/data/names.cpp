@@ -3,17 +3,40 @@
 #include <algorithm>
 #include <utility>
 
-std::optional<std::string> NameProblem(std::string_view name)
+namespace {
+
+struct NameFlaw {
+    const char* problem;   // as a save reports it
+    const char* refusal;   // as a name box reports it
+};
+
+std::optional<NameFlaw> FindFlaw(std::string_view name)
 {
     if (name.find(',') != std::string_view::npos)
-        return "it contains a comma";
+        return NameFlaw{"it contains a comma", "A name cannot hold a comma"};
     if (name.find_first_of("\r\n") != std::string_view::npos)
-        return "it contains a line break";
+        return NameFlaw{"it contains a line break", "A name cannot hold a line break"};
     // The reader skips blanks before a value, so they would be gone on the next load.
     if (name.starts_with(' '))
-        return "it begins with a blank";
+        return NameFlaw{"it begins with a blank", "A name cannot begin with a blank"};
     if (name.starts_with('"'))
-        return "it begins with a double quote";
+        return NameFlaw{"it begins with a double quote", "A name cannot begin with a double quote"};
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::string> NameProblem(std::string_view name)
+{
+    if (const auto flaw = FindFlaw(name))
+        return flaw->problem;
+    return std::nullopt;
+}
+
+std::optional<std::string> NameRefusal(std::string_view name)
+{
+    if (const auto flaw = FindFlaw(name))
+        return flaw->refusal;
     return std::nullopt;
 }
 
