@@ -1,0 +1,79 @@
+// The guards around what a person types: the wheel passes over a control
+// that is not being worked, and a box shows what its field made of its text.
+#include "forms/box_marks.h"
+#include "forms/combo_box.h"
+#include "forms/text_box.h"
+#include "forms/wheel_guard.h"
+
+#include <QApplication>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// One notch of the wheel, down, over the middle of `control`; whether the
+// control took it.
+bool WheelDown(QWidget& control)
+{
+    const QPointF middle = QRectF(control.rect()).center();
+    QWheelEvent wheel(middle, control.mapToGlobal(middle), QPoint(), QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&control, &wheel);
+    return wheel.isAccepted();
+}
+
+TEST(WheelGuard, TheWheelChangesAComboOnlyWhileItHasTheFocus)
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* guarded = new ComboBox;
+    auto* other = new TextBox;
+    layout->addWidget(guarded);
+    layout->addWidget(other);
+    for (const char* entry : {"Opener", "Top order", "Middle order"})
+        guarded->AddItem(entry);
+    guarded->setCurrentIndex(0);
+    IgnoreWheelUnlessFocused(*guarded);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+
+    other->setFocus();
+    EXPECT_FALSE(WheelDown(*guarded));
+    EXPECT_EQ(guarded->ListIndex(), 0);
+    EXPECT_EQ(QApplication::focusWidget(), other);   // the wheel took no focus either
+
+    guarded->setFocus();
+    EXPECT_TRUE(WheelDown(*guarded));
+    EXPECT_EQ(guarded->ListIndex(), 1);
+}
+
+TEST(BoxMarks, EachMarkTintsTheBoxAndPlainTakesTheTintAndTooltipAway)
+{
+    TextBox box;
+    const QColor plain = box.palette().color(QPalette::Base);
+    const struct {
+        BoxMark mark;
+        QString why;
+        bool tinted;
+    } steps[] = {
+        {BoxMark::Refused, "not taken", true},
+        {BoxMark::Unusual, "out of range", true},
+        {BoxMark::Plain, "", false},
+    };
+    QColor refusedTint;
+    for (const auto& step : steps) {
+        MarkBox(box, step.mark, step.why);
+        EXPECT_EQ(MarkOf(box), step.mark);
+        EXPECT_EQ(box.toolTip(), step.why);
+        EXPECT_EQ(box.palette().color(QPalette::Base) != plain, step.tinted);
+        if (step.mark == BoxMark::Refused)
+            refusedTint = box.palette().color(QPalette::Base);
+        else
+            EXPECT_NE(box.palette().color(QPalette::Base), refusedTint);
+    }
+}
+
+}  // namespace
