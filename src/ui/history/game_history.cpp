@@ -2,9 +2,11 @@
 
 #include <QStringList>
 #include <QUndoCommand>
+#include <algorithm>
 #include <span>
 
 #include "data/fields.h"
+#include "data/squad.h"
 #include "forms/game_text.h"
 
 namespace {
@@ -112,10 +114,17 @@ void GameHistory::EndTyping()
 
 void GameHistory::RecordStep(const QString& text, StepPlace place)
 {
+    RecordStep([&text](const RecordChange&) { return text; }, place);
+}
+
+void GameHistory::RecordStep(const StepNamer& name, StepPlace place)
+{
     RecordChange change = ledger_.TakeAllChanges(game_);
     EndTyping();
-    if (!change.Empty())
-        stack_.push(new RecordStepCommand(*this, std::move(change), place, text));
+    if (change.Empty())
+        return;
+    const QString text = name(change);
+    stack_.push(new RecordStepCommand(*this, std::move(change), place, text));
 }
 
 void GameHistory::Apply(const RecordChange& change, bool undo, StepPlace place)
@@ -153,6 +162,28 @@ QString ReplaceStepText(const PlayerRecord& replaced, const PlayerRecord& candid
 QString NewPlayerStepText(const PlayerRecord& player)
 {
     return QStringLiteral("new player %1").arg(PlayerName(player));
+}
+
+QString TransferStepText(const Game& game, const RecordChange& change, int team)
+{
+    const auto copy = std::find_if(change.teams.begin(), change.teams.end(),
+                                   [team](const RecordChange::TeamCopy& c) { return c.number == team; });
+    if (copy == change.teams.end())
+        return QStringLiteral("transfer");
+    const auto missingFrom = [](const TeamRecord& from, const TeamRecord& in) {
+        for (int slot = 1; slot <= SquadSize; ++slot) {
+            const int player = from.squad[std::size_t(slot)];
+            if (IsPlayerNumber(player) && std::find(in.squad.begin() + 1, in.squad.end(), player) == in.squad.end())
+                return player;
+        }
+        return 0;
+    };
+    const int joined = missingFrom(copy->after, copy->before);
+    const int left = missingFrom(copy->before, copy->after);
+    const PlayerRecord& candidate = game.Players[std::size_t(joined)];
+    if (left != 0)
+        return ReplaceStepText(game.Players[std::size_t(left)], candidate);
+    return AddStepText(candidate, copy->after);
 }
 
 QString TypingStepText(const RecordChange& change)

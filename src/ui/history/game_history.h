@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QString>
 #include <QUndoStack>
+#include <functional>
 
 #include "data/game.h"
 #include "data/record_changes.h"
@@ -46,6 +47,9 @@ public:
     // After a squad command: everything it changed, in any record, is one
     // step called `text` ("delete of A Neskerly").
     void RecordStep(const QString& text, StepPlace place);
+    // The same, named from what it changed.
+    using StepNamer = std::function<QString(const RecordChange& change)>;
+    void RecordStep(const StepNamer& name, StepPlace place);
 
     // Undoes or redoes a step: the records go back, the ledger follows and
     // StepShown tells the window where to look.
@@ -69,6 +73,9 @@ QString DeleteStepText(const PlayerRecord& player);
 QString AddStepText(const PlayerRecord& player, const TeamRecord& team);
 QString ReplaceStepText(const PlayerRecord& replaced, const PlayerRecord& candidate);
 QString NewPlayerStepText(const PlayerRecord& player);
+// An add or a replace into the squad of `team`, told apart by whether the
+// step put a player out of that squad.
+QString TransferStepText(const Game& game, const RecordChange& change, int team);
 // A typed step: "edit of Bat skill for A Neskerly", "edit of Wealth for Perth
 // Pelicans"; "edits for ..." when several fields of one record changed.
 QString TypingStepText(const RecordChange& change);
