@@ -33,3 +33,13 @@ BoxMark MarkOf(const QLineEdit& box)
 {
     return BoxMark(box.property(MarkProperty).toInt());
 }
+
+QString MarkNumberBox(QLineEdit& box, const NumberEntry& entry)
+{
+    const BoxMark mark = entry.kind == NumberEntry::Kind::Refused  ? BoxMark::Refused
+                         : entry.kind == NumberEntry::Kind::Unusual ? BoxMark::Unusual
+                                                                    : BoxMark::Plain;
+    const QString why = QString::fromStdString(entry.message);
+    MarkBox(box, mark, why);
+    return why;
+}

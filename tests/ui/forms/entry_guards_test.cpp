@@ -76,4 +76,33 @@ TEST(BoxMarks, EachMarkTintsTheBoxAndPlainTakesTheTintAndTooltipAway)
     }
 }
 
+TEST(BoxMarks, ANumberBoxIsMarkedByWhatItsFieldMadeOfItsText)
+{
+    const auto& wealth = *FieldOf<TeamRecord>(TeamFields, &TeamRecord::wealth);
+    const auto& potential = *FieldOf<PlayerRecord>(PlayerFields, &PlayerRecord::potential);
+    TeamRecord team;
+    team.wealth = 12345;
+    PlayerRecord player;
+    TextBox box;
+    const struct {
+        QString text;
+        bool isTeam;
+        BoxMark mark;
+        QString said;
+    } cases[] = {
+        {"1234567", true, BoxMark::Refused, "Wealth takes a whole number from -32768 to 32767: the record holds 12345."},
+        {"-250", true, BoxMark::Plain, ""},
+        {"21", false, BoxMark::Unusual, "Potential runs from 0 to 20 in the game: 21 is stored all the same."},
+        {"20", false, BoxMark::Plain, ""},
+    };
+    for (const auto& c : cases) {
+        box.setText(c.text);
+        player.potential = std::int16_t(c.text.toInt());
+        const QString said = c.isTeam ? MarkNumberBox(box, wealth, team) : MarkNumberBox(box, potential, player);
+        EXPECT_EQ(said, c.said);
+        EXPECT_EQ(MarkOf(box), c.mark) << c.text.toStdString();
+        EXPECT_EQ(box.toolTip(), c.said);
+    }
+}
+
 }  // namespace
