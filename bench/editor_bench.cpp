@@ -7,34 +7,33 @@
 #include <memory>
 
 #include "data/setting_file.h"
-#include "forms/control_indexes.h"
 #include "forms/text_box.h"
 #include "full_size_game.h"
-#include "mainwindow/main_form.h"
+#include "mainwindow/main_window.h"
 
 namespace {
 
-MainForm* form = nullptr;
+MainWindow* form = nullptr;
 
 // Nothing changed since the last tick: every field is copied all the same.
 void BM_TickUnchanged(benchmark::State& state)
 {
     for (auto _ : state)
-        form->Timer1_Timer();
+        form->CarryEditsIntoRecords();
 }
 BENCHMARK(BM_TickUnchanged)->Unit(benchmark::kMicrosecond);
 
 // The surname changes before every tick, so each one also rebuilds the squad list.
 void BM_TickAfterNameChange(benchmark::State& state)
 {
-    TextBox& surname = *form->Text1[SurnameBox];
+    TextBox& surname = *form->findChild<TextBox*>(QStringLiteral("surname"));
     const QString names[2] = {surname.Text() + QStringLiteral("a"), surname.Text()};
     int turn = 0;
     for (auto _ : state) {
         state.PauseTiming();
         surname.SetText(names[turn ^= 1]);
         state.ResumeTiming();
-        form->Timer1_Timer();
+        form->CarryEditsIntoRecords();
     }
 }
 BENCHMARK(BM_TickAfterNameChange)->Unit(benchmark::kMicrosecond);
@@ -52,8 +51,8 @@ int main(int argc, char** argv)
     auto game = FullSizeGameIn(folder);
     const QString setting = QFile::decodeName((folder / "editor.dat").string().c_str());
     WriteSettingFile(QFile::encodeName(setting).toStdString(), game->GameDirectory);
-    MainForm window(*game, SettingPlaces{setting, setting});
-    if (!window.Form_Load())
+    MainWindow window(*game, SettingPlaces{setting, setting});
+    if (!window.Start())
         return 1;
     window.show();
     QApplication::processEvents();

@@ -11,7 +11,7 @@
 #include "data/setting_file.h"
 #include "first_paint.h"
 #include "full_size_game.h"
-#include "mainwindow/main_form.h"
+#include "mainwindow/main_window.h"
 
 int main(int argc, char** argv)
 {
@@ -27,8 +27,8 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     auto game = std::make_unique<Game>();
     const QString settingPath = QFile::decodeName(setting.c_str());
-    MainForm form(*game, SettingPlaces{settingPath, settingPath});
-    if (!form.Form_Load())
+    MainWindow form(*game, SettingPlaces{settingPath, settingPath});
+    if (!form.Start())
         return 1;
     EndAtFirstPaint(form);
     form.show();

@@ -23,32 +23,31 @@ std::unique_ptr<Game> GameInOrder(SortKey key, Order order)
     auto game = std::make_unique<Game>();
     GenerateFullSizeWorld(*game);
     const int count = game->PlayerCount;
-    auto& rows = game->FieldMatches;
-    std::copy(game->Players.begin() + 1, game->Players.begin() + count + 1, rows.begin() + 1);
-    SortRows(rows, 1, count, key, [](double) {});
+    SearchRows rows(game->Players.begin() + 1, game->Players.begin() + count + 1);
+    SortRows(rows, key, [](double) {});
     if (order == Order::Reversed)
-        std::reverse(rows.begin() + 1, rows.begin() + count + 1);
+        std::reverse(rows.begin(), rows.end());
     if (order == Order::Random) {
         std::mt19937 random(1997);
         for (int i = count; i > 1; --i)
-            std::swap(rows[i], rows[1 + static_cast<int>(random() % static_cast<unsigned>(i))]);
+            std::swap(rows[i - 1], rows[static_cast<int>(random() % static_cast<unsigned>(i))]);
     }
     for (int i = 1; i <= count; ++i) {
-        game->Players[i] = rows[i];
+        game->Players[i] = rows[i - 1];
         game->Players[i].playerNumber = static_cast<std::int16_t>(i);
     }
     return game;
 }
 
-// Clear, five stages, sort: what the Search button runs before it lists.
+// Five stages, sort: what the Search button runs before it lists.
 void BM_SearchAllSorted(benchmark::State& state)
 {
     const auto key = static_cast<SortKey>(state.range(0));
     const auto game = GameInOrder(key, static_cast<Order>(state.range(1)));
     for (auto _ : state) {
-        RunFilters(*game, {});
-        SortResults(*game, static_cast<int>(key), [](double width) { benchmark::DoNotOptimize(width); });
-        benchmark::DoNotOptimize(game->FieldMatches[1]);
+        SearchRows rows = RunFilters(*game, {});
+        SortResults(rows, static_cast<int>(key), [](double width) { benchmark::DoNotOptimize(width); });
+        benchmark::DoNotOptimize(rows.front());
     }
 }
 BENCHMARK(BM_SearchAllSorted)

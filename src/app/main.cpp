@@ -2,7 +2,7 @@
 #include <memory>
 
 #include "data/game.h"
-#include "mainwindow/main_form.h"
+#include "mainwindow/main_window.h"
 
 int main(int argc, char** argv)
 {
@@ -10,9 +10,9 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("kolta-editor"));
 
     auto game = std::make_unique<Game>();
-    MainForm form(*game, SettingPlaces::ForThisProgram());
-    if (!form.Form_Load())
+    MainWindow window(*game, SettingPlaces::ForThisProgram());
+    if (!window.Start())
         return 0;
-    form.show();
+    window.show();
     return QApplication::exec();
 }

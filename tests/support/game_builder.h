@@ -44,7 +44,7 @@ struct GameBuilder {
         for (int p : players)
             if (p >= 1 && p <= MaxPlayers)
                 game->Players[p].teamNumber = static_cast<std::int16_t>(number);
-        game->TeamCount = static_cast<std::int16_t>(std::max<int>(game->TeamCount, number + 2));
+        game->TeamCount = std::max(game->TeamCount, TeamCountFor(number));
         return t;
     }
 };

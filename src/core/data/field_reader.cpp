@@ -84,3 +84,11 @@ std::optional<std::int16_t> FieldReader::ReadNumber()
         return std::int16_t{0};
     return TextAsNumber(*field);
 }
+
+int CountValuesLeft(FieldReader& reader)
+{
+    int count = 0;
+    while (const auto field = reader.ReadText())
+        count += !field->empty();
+    return count;
+}

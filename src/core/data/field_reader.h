@@ -40,3 +40,6 @@ private:
     std::string_view bytes_;
     std::size_t pos_ = 0;
 };
+
+// Reads the rest of the input and counts the fields that are not empty.
+int CountValuesLeft(FieldReader& reader);

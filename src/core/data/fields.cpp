@@ -13,6 +13,8 @@ constexpr bool InFileOrder(const std::array<Field<Record>, Count>& fields)
 }
 
 static_assert(InFileOrder(PlayerFields) && InFileOrder(TeamFields));
+static_assert(PlayerFields.back().line == PlayerLayout.lines);
+static_assert(TeamLayout.firstSquadLine + SquadSize - 1 == TeamLayout.lines);
 
 }  // namespace
 
@@ -27,4 +29,9 @@ std::optional<std::string_view> CodeList::WordFor(int code) const
 std::string RangeText(const Range& range)
 {
     return std::to_string(range.low) + " - " + std::to_string(range.high);
+}
+
+std::string SquadPlaceName(int place)
+{
+    return "squad" + std::to_string(place);
 }

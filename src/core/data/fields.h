@@ -152,16 +152,8 @@ inline constexpr RecordLayout<PlayerRecord> PlayerLayout{
 inline constexpr RecordLayout<TeamRecord> TeamLayout{
     "teams.dat", 30, 20, "teamNumber", "Team number", 8, TeamConstantLines, TeamFields, 11};
 
-// The field of `fields` called `name`; nothing when there is none.
-template <class Record>
-const Field<Record>* FindField(std::span<const Field<Record>> fields, std::string_view name)
-{
-    for (const Field<Record>& field : fields) {
-        if (field.name == name)
-            return &field;
-    }
-    return nullptr;
-}
+// "squad7" for place 7, as the CSV column and `check` name it.
+std::string SquadPlaceName(int place);
 
 // The field that stores `member`.
 template <class Record>
@@ -205,6 +197,6 @@ std::string NameOfLine(const RecordLayout<Record>& layout, int line)
             return std::string(field.name);
     }
     if (layout.firstSquadLine != 0 && line >= layout.firstSquadLine)
-        return "squad" + std::to_string(line - layout.firstSquadLine + 1);
+        return SquadPlaceName(line - layout.firstSquadLine + 1);
     return "line " + std::to_string(line);
 }

@@ -5,10 +5,13 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <system_error>
 
-#if defined(__unix__) || defined(__APPLE__)
+#if defined(_WIN32)
+#include <windows.h>
+#else
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -37,7 +40,7 @@ std::string WriteTemporary(const fs::path& temporary, std::string_view bytes)
     std::string reason;
     if (std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size() || std::fflush(file) != 0)
         reason = std::strerror(errno);
-#if defined(__unix__) || defined(__APPLE__)
+#if !defined(_WIN32)
     if (reason.empty() && ::fsync(fileno(file)) != 0)
         reason = std::strerror(errno);
 #endif
@@ -53,24 +56,91 @@ fs::path WrittenCopy(const std::string& path)
     return copy;
 }
 
+std::string TooLarge()
+{
+    return "the file is larger than " + std::to_string(MaxFileSize / (1024 * 1024)) +
+           " MB, more than any game makes";
+}
+
+std::string NotRegular(bool folder)
+{
+    return folder ? "it is a folder, not a file" : "it is not a regular file";
+}
+
 }  // namespace
+
+#if defined(_WIN32)
+FileBytes ReadFileBytes(const std::string& path)
+{
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (error)
+        return {{}, error.message()};
+    if (!fs::is_regular_file(status))
+        return {{}, NotRegular(fs::is_directory(status))};
+    std::FILE* file = _wfopen(fs::path(path).c_str(), L"rb");
+    if (!file)
+        return {{}, std::strerror(errno)};
+    FileBytes read;
+    std::array<char, 1 << 16> block;
+    std::size_t got = 0;
+    while ((got = std::fread(block.data(), 1, block.size(), file)) > 0) {
+        read.bytes.append(block.data(), got);
+        if (read.bytes.size() > MaxFileSize)
+            break;
+    }
+    if (std::ferror(file))
+        read.reason = std::strerror(errno);
+    std::fclose(file);
+    if (read.reason.empty() && read.bytes.size() > MaxFileSize)
+        read.reason = TooLarge();
+    if (!read.reason.empty())
+        read.bytes.clear();
+    return read;
+}
+#else
+FileBytes ReadFileBytes(const std::string& path)
+{
+    // Opened without waiting, so that a pipe with no writer cannot hold the
+    // load up; what it is decides whether it is read at all.
+    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0)
+        return {{}, std::strerror(errno)};
+    FileBytes read;
+    struct stat info {};
+    if (::fstat(fd, &info) != 0)
+        read.reason = std::strerror(errno);
+    else if (!S_ISREG(info.st_mode))
+        read.reason = NotRegular(S_ISDIR(info.st_mode));
+    else if (static_cast<std::uintmax_t>(info.st_size) > MaxFileSize)
+        read.reason = TooLarge();
+    std::array<char, 1 << 16> block;
+    while (read.reason.empty()) {
+        const ssize_t got = ::read(fd, block.data(), block.size());
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            read.reason = std::strerror(errno);
+        else if (got == 0)
+            break;
+        else
+            read.bytes.append(block.data(), static_cast<std::size_t>(got));
+        if (read.bytes.size() > MaxFileSize)
+            read.reason = TooLarge();
+    }
+    ::close(fd);
+    if (!read.reason.empty())
+        read.bytes.clear();
+    return read;
+}
+#endif
 
 std::optional<std::string> ReadWholeFile(const std::string& path)
 {
-    // Some systems open a folder for reading as if it were an empty file.
-    std::error_code error;
-    if (fs::is_directory(path, error))
+    FileBytes file = ReadFileBytes(path);
+    if (!file.ok())
         return std::nullopt;
-    std::ifstream in(path, std::ios::binary);
-    if (!in)
-        return std::nullopt;
-    std::string bytes;
-    std::array<char, 1 << 16> block;
-    while (in.read(block.data(), block.size()) || in.gcount() > 0)
-        bytes.append(block.data(), static_cast<std::size_t>(in.gcount()));
-    if (in.bad())
-        return std::nullopt;
-    return bytes;
+    return std::move(file.bytes);
 }
 
 FileResult CheckWritable(const std::string& path)

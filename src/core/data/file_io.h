@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,6 +14,21 @@ struct FileResult {
     static FileResult Success(std::string path) { return {std::move(path), {}}; }
 };
 
+// Larger than any file the game or the editor could make: a file past this is
+// refused rather than read.
+inline constexpr std::uintmax_t MaxFileSize = 16 * 1024 * 1024;
+
+// The bytes of a file, or why they could not be read.
+struct FileBytes {
+    std::string bytes;
+    std::string reason;
+
+    bool ok() const { return reason.empty(); }
+};
+
+// Reads only a regular file, or one a link points to, of at most MaxFileSize
+// bytes; a device, a pipe or a folder is refused without waiting on it.
+FileBytes ReadFileBytes(const std::string& path);
 std::optional<std::string> ReadWholeFile(const std::string& path);
 
 // Whether `path` can be replaced: its folder exists and neither the file nor,

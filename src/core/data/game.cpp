@@ -21,7 +21,22 @@ void ClearTables(Game& game)
     game.TeamCount = 0;
 }
 
+std::int16_t TeamCountFor(int teams)
+{
+    return static_cast<std::int16_t>(teams + 2);
+}
+
 int LoadedTeamCount(const Game& game)
 {
-    return std::clamp(game.TeamCount - 2, 0, MaxTeams);
+    return std::clamp(game.TeamCount - TeamCountFor(0), 0, MaxTeams);
+}
+
+int LastTeamSearched(const Game& game)
+{
+    return std::min<int>(game.TeamCount, MaxTeams);
+}
+
+int LoadedPlayerCount(const Game& game)
+{
+    return std::clamp<int>(game.PlayerCount, 0, MaxPlayers);
 }

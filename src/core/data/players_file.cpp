@@ -1,25 +1,13 @@
 #include "data/players_file.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
+#include <vector>
 
 #include "data/field_reader.h"
-#include "data/text_lines.h"
+#include "data/record_lines.h"
 
 namespace {
-
-constexpr int LinesPerPlayer = 21;
-
-// Lines 5 to 21, in file order.
-constexpr std::array<std::int16_t PlayerRecord::*, 17> NumberLines{
-    &PlayerRecord::birthDay,     &PlayerRecord::birthMonth,    &PlayerRecord::birthYear,
-    &PlayerRecord::homeCountry,  &PlayerRecord::teamNumber,    &PlayerRecord::batPosition,
-    &PlayerRecord::bats,         &PlayerRecord::batSkill,      &PlayerRecord::batAggression,
-    &PlayerRecord::bowlType,     &PlayerRecord::bowls,         &PlayerRecord::bowlSkill,
-    &PlayerRecord::bowlEconomy,  &PlayerRecord::fieldAbility,  &PlayerRecord::fieldsAt,
-    &PlayerRecord::potential,    &PlayerRecord::carriedValue,
-};
 
 void SkipFields(FieldReader& reader, int count)
 {
@@ -27,86 +15,81 @@ void SkipFields(FieldReader& reader, int count)
         reader.ReadText();
 }
 
-// A failed read leaves the field as it was.
-void ReadNumbers(FieldReader& reader, PlayerRecord& player)
+// The lines after the number, in file order. A number that fails to read
+// leaves its field as it was; the names of the closing record numbered 0
+// are read and dropped.
+void ReadFields(FieldReader& reader, PlayerRecord& player, bool keepNames)
 {
-    for (auto field : NumberLines) {
-        if (const auto value = reader.ReadNumber())
-            player.*field = *value;
+    auto field = PlayerFields.begin();
+    for (int line = PlayerLayout.keyLine + 1; line <= PlayerLayout.lines; ++line) {
+        if (field == PlayerFields.end() || field->line != line) {
+            reader.ReadText();  // a constant line means nothing to the editor
+        } else if (field->text) {
+            const auto text = reader.ReadText();
+            if (keepNames)
+                TakeName(text, *field, player);
+            ++field;
+        } else {
+            if (const auto value = reader.ReadNumber())
+                player.*field->number = *value;
+            ++field;
+        }
     }
-}
-
-// A stored name keeps the line but for its last character, which the game
-// writes as "#" to guard trailing blanks; an empty line leaves the name alone.
-void TakeName(const std::optional<std::string>& line, std::string& name)
-{
-    if (line && !line->empty())
-        name = line->substr(0, line->size() - 1);
-}
-
-void TakeInitials(const std::optional<std::string>& line, std::string& initials)
-{
-    if (line && !line->empty())
-        initials = TrimBlanks(line->substr(0, line->size() - 1));
 }
 
 }  // namespace
 
-void ReadPlayers(Game& game, std::string_view bytes)
+LoadReport ReadPlayers(Game& game, std::string_view bytes)
 {
+    LoadReport report = LoadReport::For(std::string(PlayerLayout.file));
+    std::vector<int> numbersRead;
     FieldReader reader(bytes);
-    for (;;) {
+    for (int place = 1;; ++place) {
         if (reader.AtEnd())
             break;
         const std::optional<std::int16_t> parsed = reader.ReadNumber();
         if (!parsed || *parsed < 0 || *parsed > MaxPlayers) {
             // No slot for this record: pass over it and keep the rhythm.
-            SkipFields(reader, LinesPerPlayer - 1);
+            report.skippedRecords.push_back(place);
+            report.numberedPastLimit += parsed && *parsed > MaxPlayers;
+            SkipFields(reader, PlayerLayout.lines - 1);
             continue;
         }
         const std::int16_t number = *parsed;
-        reader.ReadText();  // line 2 means nothing to the editor
         PlayerRecord& player = game.Players[number];
-        const auto initials = reader.ReadText();
-        const auto surname = reader.ReadText();
-        if (number != 0) {
-            TakeInitials(initials, player.initials);
-            TakeName(surname, player.surname);
-        }
+        ReadFields(reader, player, number != 0);
         player.playerNumber = number;
-        ReadNumbers(reader, player);
         // The empty lines at the end read as a record numbered 0. A number
         // equal to the one before also ends the file, as the game reads it.
         if (number == 0 || game.PlayerCount == number)
             break;
         game.PlayerCount = number;
+        numbersRead.push_back(number);
     }
+    report.valuesAfterEnd = CountValuesLeft(reader);
+    for (const int number : numbersRead) {
+        if (number > game.PlayerCount)
+            report.pastLastNumber.push_back(number);
+    }
+    return report;
 }
 
 std::string WritePlayers(const Game& game)
 {
     TextLines out;
     const int count = std::min<int>(game.PlayerCount, MaxPlayers);
-    for (int i = 1; i <= count; ++i) {
-        const PlayerRecord& player = game.Players[i];
-        out.Number(i);
-        out.Line("#");
-        out.Line(player.initials + "#");
-        out.Line(player.surname + "#");
-        for (auto field : NumberLines)
-            out.Number(player.*field);
-    }
-    out.EmptyLines(LinesPerPlayer);
+    for (int i = 1; i <= count; ++i)
+        WriteRecordLines(out, PlayerLayout, game.Players[i], i);
+    out.EmptyLines(PlayerLayout.closingEmptyLines);
     return out.Take();
 }
 
-bool ReadPlayersFile(Game& game)
+LoadReport ReadPlayersFile(Game& game)
 {
-    const auto bytes = ReadWholeFile(game.PlayersPath);
-    if (!bytes)
-        return false;
-    ReadPlayers(game, *bytes);
-    return true;
+    FileBytes file = ReadFileBytes(game.PlayersPath);
+    if (!file.ok())
+        return LoadReport::Unread(std::string(PlayerLayout.file), std::move(file.reason));
+    return ReadPlayers(game, file.bytes);
 }
 
 FileResult WritePlayersFile(const Game& game)

@@ -4,13 +4,6 @@
 
 namespace {
 
-// Teams that a search over all squads looks at: up to TeamCount, which stands
-// two above the last team, and never past the table.
-int LastTeamToScan(const Game& game)
-{
-    return std::min<int>(game.TeamCount, MaxTeams);
-}
-
 // Closes the gaps a file may have left, keeping the order of the players.
 // Whatever the free places held stays behind the players.
 void PackSquad(Squad& squad)
@@ -66,7 +59,7 @@ std::int16_t DetachFromSquads(Game& game, std::int16_t player)
     std::int16_t oldTeam = 0;
     if (!IsPlayerNumber(player))
         return oldTeam;
-    const int lastTeam = LastTeamToScan(game);
+    const int lastTeam = LastTeamSearched(game);
     for (int team = 1; team <= lastTeam; ++team) {
         const Squad& squad = game.Teams[team].squad;
         for (int slot = 1; slot <= SquadSize; ++slot) {
@@ -93,7 +86,7 @@ std::int16_t PresentClub(const Game& game, std::int16_t player)
     std::int16_t club = 0;
     if (!IsPlayerNumber(player))
         return club;
-    const int lastTeam = LastTeamToScan(game);
+    const int lastTeam = LastTeamSearched(game);
     for (int team = 1; team <= lastTeam; ++team) {
         if (IsInSquad(game, team, player))
             club = static_cast<std::int16_t>(team);
@@ -138,4 +131,17 @@ Replacement ReplaceInSquad(Game& game, int team, int row, std::int16_t candidate
     game.Players[candidate].teamNumber = static_cast<std::int16_t>(team);
     game.Teams[team].squad[slot] = candidate;
     return result;
+}
+
+std::vector<std::vector<int>> TeamsHoldingEachPlayer(const Game& game)
+{
+    std::vector<std::vector<int>> holders(MaxPlayers + 1);
+    for (int team = 1; team <= LoadedTeamCount(game); ++team) {
+        for (int place = 1; place <= SquadSize; ++place) {
+            const int player = game.Teams[team].squad[place];
+            if (IsPlayerNumber(player))
+                holders[player].push_back(team);
+        }
+    }
+    return holders;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "data/game.h"
 
@@ -55,3 +56,8 @@ struct Replacement {
     std::int16_t replaced = 0;   // the player put out of the squad
 };
 Replacement ReplaceInSquad(Game& game, int team, int row, std::int16_t candidate);
+
+// For every player number from 0 to 2000, the loaded teams whose squads name
+// him, once per place, in team order. Places that hold 0 or a number with no
+// slot in the table are left out.
+std::vector<std::vector<int>> TeamsHoldingEachPlayer(const Game& game);

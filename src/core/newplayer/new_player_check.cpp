@@ -4,48 +4,36 @@
 #include <cstdint>
 #include <optional>
 
+#include "data/fields.h"
 #include "data/squad.h"
 #include "data/text_number.h"
 
 namespace {
 
-bool InRange(const NewPlayerEntries& entries, const StatRange& range)
+const PlayerField& FieldOfBox(std::int16_t PlayerRecord::*member)
 {
-    const std::optional<double> value = TextAsDecimal(entries.*range.box);
-    return value && *value >= range.lowest && *value <= range.highest;
+    return *FieldOf<PlayerRecord>(PlayerFields, member);
 }
 
-void StoreNumber(std::int16_t& field, const std::string& text)
+bool BoxIsGood(const NewPlayerEntries& entries, const NumberBox& box)
 {
-    if (const std::optional<std::int16_t> value = TextAsNumber(text))
-        field = *value;
-}
-
-void StoreCode(std::int16_t& field, int position, int offset)
-{
-    field = static_cast<std::int16_t>(position + offset);
+    const std::optional<double> value = TextAsDecimal(entries.*box.box);
+    const std::optional<Range> range = FieldOfBox(box.field).range;
+    return value && (!range || (*value >= range->low && *value <= range->high));
 }
 
 // Fills the slot field by field over what it held: carriedValue and the
-// team are not among the entries.
+// team are not among the entries, and a number that does not fit the game's
+// 16 bits leaves its field alone.
 void FillRecord(PlayerRecord& player, std::int16_t number, const NewPlayerEntries& entries)
 {
     player.playerNumber = number;
-    StoreCode(player.homeCountry, entries.homeCountry, 1);
-    StoreCode(player.batPosition, entries.batPosition, 1);
-    StoreCode(player.bats, entries.bats, 0);
-    StoreCode(player.bowlType, entries.bowlType, 1);
-    StoreCode(player.bowls, entries.bowls, 0);
-    StoreCode(player.fieldsAt, entries.fieldsAt, 1);
-    StoreNumber(player.birthDay, entries.birthDay);
-    StoreNumber(player.birthMonth, entries.birthMonth);
-    StoreNumber(player.birthYear, entries.birthYear);
-    StoreNumber(player.batSkill, entries.batSkill);
-    StoreNumber(player.batAggression, entries.batAggression);
-    StoreNumber(player.bowlSkill, entries.bowlSkill);
-    StoreNumber(player.bowlEconomy, entries.bowlEconomy);
-    StoreNumber(player.fieldAbility, entries.fieldAbility);
-    StoreNumber(player.potential, entries.potential);
+    for (const CodeBox& box : CodeBoxes)
+        player.*box.field = static_cast<std::int16_t>(entries.*box.row + FieldOfBox(box.field).codes->firstCode);
+    for (const NumberBox& box : NumberBoxes) {
+        if (const std::optional<std::int16_t> value = TextAsNumber(entries.*box.box))
+            player.*box.field = *value;
+    }
     player.initials = entries.initials;
     player.surname = entries.surname;
 }
@@ -54,11 +42,8 @@ void FillRecord(PlayerRecord& player, std::int16_t number, const NewPlayerEntrie
 
 bool EntriesAreGood(const NewPlayerEntries& entries)
 {
-    const bool allNumbers = std::all_of(NumberBoxes.begin(), NumberBoxes.end(), [&](EntryBox box) {
-        return TextAsDecimal(entries.*box).has_value();
-    });
-    return allNumbers && std::all_of(StatRanges.begin(), StatRanges.end(),
-                                     [&](const StatRange& range) { return InRange(entries, range); });
+    return std::all_of(NumberBoxes.begin(), NumberBoxes.end(),
+                       [&](const NumberBox& box) { return BoxIsGood(entries, box); });
 }
 
 bool CanAddNewPlayer(const Game& game)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 
 #include "data/game.h"
@@ -30,33 +31,41 @@ struct NewPlayerEntries {
 
 using EntryBox = std::string NewPlayerEntries::*;
 
-// The boxes that must hold a number: the six skills and the three parts of
-// the date of birth. The names may be anything, empty included.
-inline constexpr std::array<EntryBox, 9> NumberBoxes{
-    &NewPlayerEntries::batSkill,     &NewPlayerEntries::batAggression, &NewPlayerEntries::bowlSkill,
-    &NewPlayerEntries::bowlEconomy,  &NewPlayerEntries::fieldAbility,  &NewPlayerEntries::potential,
-    &NewPlayerEntries::birthDay,     &NewPlayerEntries::birthMonth,    &NewPlayerEntries::birthYear,
-};
-
-// The range a new player's skill must lie in, both ends included. The date
-// of birth has none: any number goes, 31 February and month 0 included.
-struct StatRange {
+// The boxes that must hold a number, each with the field it fills: the three
+// parts of the date of birth and the six skills. Their ranges are the field
+// table's. The names may be anything, empty included.
+struct NumberBox {
     EntryBox box;
-    int lowest;
-    int highest;
+    std::int16_t PlayerRecord::*field;
 };
-
-// In the order the Help window lists them.
-inline constexpr std::array<StatRange, 6> StatRanges{{
-    {&NewPlayerEntries::batSkill, 0, 60},
-    {&NewPlayerEntries::batAggression, 0, 20},
-    {&NewPlayerEntries::bowlSkill, 0, 60},
-    {&NewPlayerEntries::bowlEconomy, 0, 20},
-    {&NewPlayerEntries::fieldAbility, 10, 40},
-    {&NewPlayerEntries::potential, 0, 20},
+inline constexpr std::array<NumberBox, 9> NumberBoxes{{
+    {&NewPlayerEntries::birthDay, &PlayerRecord::birthDay},
+    {&NewPlayerEntries::birthMonth, &PlayerRecord::birthMonth},
+    {&NewPlayerEntries::birthYear, &PlayerRecord::birthYear},
+    {&NewPlayerEntries::batSkill, &PlayerRecord::batSkill},
+    {&NewPlayerEntries::batAggression, &PlayerRecord::batAggression},
+    {&NewPlayerEntries::bowlSkill, &PlayerRecord::bowlSkill},
+    {&NewPlayerEntries::bowlEconomy, &PlayerRecord::bowlEconomy},
+    {&NewPlayerEntries::fieldAbility, &PlayerRecord::fieldAbility},
+    {&NewPlayerEntries::potential, &PlayerRecord::potential},
 }};
 
-// Whether every number box holds a number and every skill lies in its range.
+// The lists of the window, each with the coded field it fills.
+struct CodeBox {
+    int NewPlayerEntries::*row;
+    std::int16_t PlayerRecord::*field;
+};
+inline constexpr std::array<CodeBox, 6> CodeBoxes{{
+    {&NewPlayerEntries::homeCountry, &PlayerRecord::homeCountry},
+    {&NewPlayerEntries::batPosition, &PlayerRecord::batPosition},
+    {&NewPlayerEntries::bats, &PlayerRecord::bats},
+    {&NewPlayerEntries::bowlType, &PlayerRecord::bowlType},
+    {&NewPlayerEntries::bowls, &PlayerRecord::bowls},
+    {&NewPlayerEntries::fieldsAt, &PlayerRecord::fieldsAt},
+}};
+
+// Whether every number box holds a number and every skill lies in its range;
+// the date of birth has none, so 31 February and month 0 pass.
 // A pasted value is judged as written, before any rounding: 60.4 is too much.
 bool EntriesAreGood(const NewPlayerEntries& entries);
 

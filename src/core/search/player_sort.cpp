@@ -1,7 +1,6 @@
 #include "search/player_sort.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -22,8 +21,9 @@ struct SortEntry {
     int row;
 };
 
+// Entries count from 1, as the rows do on the bar; entry 0 is never used.
 template <typename Key>
-using SortEntries = std::array<SortEntry<Key>, MaxPlayers + 1>;
+using SortEntries = std::vector<SortEntry<Key>>;
 
 // A two-way bubble sort. An entry that is out of place is carried along as the
 // held entry while the entries it passes shift by one, and each sweep shrinks
@@ -68,36 +68,43 @@ void CocktailSort(SortEntries<Key>& entries, int first, int last, Before before,
     }
 }
 
+// Row `row` of the sort, counted from 1.
+PlayerRecord& Row(SearchRows& rows, int row)
+{
+    return rows[std::size_t(row - 1)];
+}
+
 // Moves each record to the row its entry ended on, following each cycle of the
 // new order with one held record. Texts are moved, never copied.
 template <typename Key>
-void PlaceRows(WorkingTable& rows, SortEntries<Key>& entries, int first, int last)
+void PlaceRows(SearchRows& rows, SortEntries<Key>& entries, int last)
 {
-    for (int start = first; start <= last; ++start) {
+    for (int start = 1; start <= last; ++start) {
         if (entries[start].row == start)
             continue;
-        PlayerRecord held = std::move(rows[start]);
+        PlayerRecord held = std::move(Row(rows, start));
         int to = start;
         while (entries[to].row != start) {
             const int from = entries[to].row;
-            rows[to] = std::move(rows[from]);
+            Row(rows, to) = std::move(Row(rows, from));
             entries[to].row = to;
             to = from;
         }
-        rows[to] = std::move(held);
+        Row(rows, to) = std::move(held);
         entries[to].row = to;
     }
 }
 
 // `keyOf` gives the key of a row by its number.
 template <typename Key, typename KeyOf, typename Before>
-void SortBy(WorkingTable& rows, int first, int last, KeyOf keyOf, Before before, const SortProgress& progress)
+void SortBy(SearchRows& rows, KeyOf keyOf, Before before, const SortProgress& progress)
 {
-    SortEntries<Key> entries;
-    for (int row = first; row <= last; ++row)
+    const int last = static_cast<int>(rows.size());
+    SortEntries<Key> entries(rows.size() + 1);
+    for (int row = 1; row <= last; ++row)
         entries[row] = {keyOf(row), row};
-    CocktailSort(entries, first, last, before, progress);
-    PlaceRows(rows, entries, first, last);
+    CocktailSort(entries, 1, last, before, progress);
+    PlaceRows(rows, entries, last);
 }
 
 // Only bytes 0x80 to 0x9F decode to a character of another number; every other
@@ -140,13 +147,13 @@ bool SurnameBefore(const Surname& a, const Surname& b)
 // The sweeps compare about two million pairs at full size, too many to walk
 // and decode surnames each time. So the surnames are ranked once by a quick
 // sort, and the sweeps compare ranks: same order, and equal surnames share one.
-void SortBySurname(WorkingTable& rows, int first, int last, const SortProgress& progress)
+void SortBySurname(SearchRows& rows, const SortProgress& progress)
 {
     std::vector<std::pair<Surname, int>> byName;
-    for (int row = first; row <= last; ++row)
-        byName.emplace_back(SurnameOf(rows[row]), row);
+    for (int row = 1; row <= static_cast<int>(rows.size()); ++row)
+        byName.emplace_back(SurnameOf(Row(rows, row)), row);
     std::sort(byName.begin(), byName.end(), [](const auto& a, const auto& b) { return SurnameBefore(a.first, b.first); });
-    std::array<int, MaxPlayers + 1> rankOfRow{};
+    std::vector<int> rankOfRow(rows.size() + 1);
     int rank = 0;
     for (std::size_t i = 0; i < byName.size(); ++i) {
         if (i > 0 && SurnameBefore(byName[i - 1].first, byName[i].first))
@@ -154,46 +161,43 @@ void SortBySurname(WorkingTable& rows, int first, int last, const SortProgress& 
         rankOfRow[byName[i].second] = rank;
     }
     SortBy<int>(
-        rows, first, last, [&rankOfRow](int row) { return rankOfRow[row]; }, [](int a, int b) { return a < b; },
+        rows, [&rankOfRow](int row) { return rankOfRow[row]; }, [](int a, int b) { return a < b; },
         progress);
 }
 
 // Skills sort the highest first.
-void SortBySkill(WorkingTable& rows, int first, int last, std::int16_t PlayerRecord::*skill,
-                 const SortProgress& progress)
+void SortBySkill(SearchRows& rows, std::int16_t PlayerRecord::*skill, const SortProgress& progress)
 {
     SortBy<std::int16_t>(
-        rows, first, last, [&rows, skill](int row) { return rows[row].*skill; },
+        rows, [&rows, skill](int row) { return Row(rows, row).*skill; },
         [](std::int16_t a, std::int16_t b) { return a > b; }, progress);
 }
 
 }  // namespace
 
-void SortRows(WorkingTable& rows, int first, int last, SortKey key, const SortProgress& progress)
+void SortRows(SearchRows& rows, SortKey key, const SortProgress& progress)
 {
-    first = std::max(first, 1);
-    last = std::min(last, MaxPlayers);
     switch (key) {
     case SortKey::Surname:
-        return SortBySurname(rows, first, last, progress);
+        return SortBySurname(rows, progress);
     case SortKey::BatSkill:
-        return SortBySkill(rows, first, last, &PlayerRecord::batSkill, progress);
+        return SortBySkill(rows, &PlayerRecord::batSkill, progress);
     case SortKey::BatAggression:
-        return SortBySkill(rows, first, last, &PlayerRecord::batAggression, progress);
+        return SortBySkill(rows, &PlayerRecord::batAggression, progress);
     case SortKey::BowlSkill:
-        return SortBySkill(rows, first, last, &PlayerRecord::bowlSkill, progress);
+        return SortBySkill(rows, &PlayerRecord::bowlSkill, progress);
     case SortKey::BowlEconomy:
-        return SortBySkill(rows, first, last, &PlayerRecord::bowlEconomy, progress);
+        return SortBySkill(rows, &PlayerRecord::bowlEconomy, progress);
     case SortKey::FieldSkill:
-        return SortBySkill(rows, first, last, &PlayerRecord::fieldAbility, progress);
+        return SortBySkill(rows, &PlayerRecord::fieldAbility, progress);
     case SortKey::Potential:
-        return SortBySkill(rows, first, last, &PlayerRecord::potential, progress);
+        return SortBySkill(rows, &PlayerRecord::potential, progress);
     }
 }
 
-void SortResults(Game& game, int sortKeyIndex, const SortProgress& progress)
+void SortResults(SearchRows& rows, int sortKeyIndex, const SortProgress& progress)
 {
     if (sortKeyIndex < 0 || sortKeyIndex >= SortKeyCount)
         return;
-    SortRows(game.FieldMatches, 1, RowsInUse(game.FieldMatches), static_cast<SortKey>(sortKeyIndex), progress);
+    SortRows(rows, static_cast<SortKey>(sortKeyIndex), progress);
 }

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "data/game.h"
+#include "search/search_filters.h"
 
 // The orders a search can list its results in, as the sort box offers them.
 // Names sort A to Z; every skill sorts the highest first.
@@ -21,11 +21,11 @@ inline constexpr int SortKeyCount = 7;
 // sweeps over the rows.
 using SortProgress = std::function<void(double widthTwips)>;
 
-// Sorts rows `first` to `last` of `rows` in place, stable: rows whose keys are
-// equal keep their order. Surnames compare by character code, capitals before
-// small letters; the initials never break a tie.
-void SortRows(WorkingTable& rows, int first, int last, SortKey key, const SortProgress& progress);
+// Sorts the rows in place, stable: rows whose keys are equal keep their
+// order. Surnames compare by character code, capitals before small letters;
+// the initials never break a tie.
+void SortRows(SearchRows& rows, SortKey key, const SortProgress& progress);
 
-// Sorts the rows in use of FieldMatches by the sort box's entry `sortKeyIndex`.
-// An index that names no key leaves them in the order the filters gave.
-void SortResults(Game& game, int sortKeyIndex, const SortProgress& progress);
+// Sorts by the sort box's entry `sortKeyIndex`. An index that names no key
+// leaves the rows in the order the filters gave.
+void SortResults(SearchRows& rows, int sortKeyIndex, const SortProgress& progress);

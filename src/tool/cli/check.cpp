@@ -1,14 +1,12 @@
 #include <algorithm>
 #include <ostream>
-#include <set>
 #include <string>
-#include <utility>
 #include <vector>
-#include <tuple>
 
+#include "check/problems.h"
 #include "cli/commands.h"
 #include "cli/game_folder.h"
-#include "cli/problems.h"
+#include "cli/json.h"
 #include "data/file_io.h"
 
 namespace {
@@ -29,20 +27,18 @@ constexpr std::string_view Usage =
     "  --json   one JSON object a line instead, the count last\n"
     "Exit 0 when there is no error, 1 when there is, 2 when the folder can't be read.\n";
 
-// The values of a record that the load reads out of step are whatever lines
-// land there; warnings about them would only bury the error that explains them.
-// Adds the problems of the loaded game to those of the files.
-void AddGameProblems(std::vector<Problem>& fromFiles, const std::vector<Problem>& inGame)
+// "players.dat: 17: surname: warning: is empty ..."
+std::string ProblemLine(const Problem& problem)
 {
-    std::set<std::pair<std::string, int>> misread;
-    for (const Problem& problem : fromFiles) {
-        if (problem.severity == Severity::Error && problem.field != "end of file")
-            misread.insert({problem.file, problem.record});
-    }
-    fromFiles.insert(fromFiles.end(), inGame.begin(), inGame.end());
-    std::erase_if(fromFiles, [&misread](const Problem& problem) {
-        return problem.severity == Severity::Warning && misread.contains({problem.file, problem.record});
-    });
+    return problem.file + ": " + std::to_string(problem.record) + ": " + problem.field + ": " +
+           (problem.severity == Severity::Error ? "error: " : "warning: ") + problem.message;
+}
+
+std::string ProblemJson(const Problem& problem)
+{
+    return "{\"severity\":" + JsonString(problem.severity == Severity::Error ? "error" : "warning") +
+           ",\"file\":" + JsonString(problem.file) + ",\"record\":" + std::to_string(problem.record) +
+           ",\"field\":" + JsonString(problem.field) + ",\"message\":" + JsonString(problem.message) + "}";
 }
 
 int RunCheck(const CommandLine& line, std::ostream& out, std::ostream& err)
@@ -55,15 +51,7 @@ int RunCheck(const CommandLine& line, std::ostream& out, std::ostream& err)
         return ExitFailed;
     }
 
-    std::vector<Problem> problems = ProblemsInPlayersFile(*playersBytes);
-    const std::vector<Problem> teamsFile = ProblemsInTeamsFile(*teamsBytes);
-    problems.insert(problems.end(), teamsFile.begin(), teamsFile.end());
-    const std::vector<Problem> inGame = ProblemsInGame(*loaded.game);
-    AddGameProblems(problems, inGame);
-    // Errors first; within each, players.dat before teams.dat, in record order.
-    std::stable_sort(problems.begin(), problems.end(), [](const Problem& a, const Problem& b) {
-        return std::tuple(a.severity, a.file, a.record) < std::tuple(b.severity, b.file, b.record);
-    });
+    const std::vector<Problem> problems = ProblemsOfGame(*loaded.game, *playersBytes, *teamsBytes);
 
     const auto errors = std::count_if(problems.begin(), problems.end(),
                                       [](const Problem& p) { return p.severity == Severity::Error; });

@@ -1,8 +1,9 @@
 #include <ostream>
 
 #include "cli/commands.h"
-#include "cli/differences.h"
 #include "cli/game_folder.h"
+#include "cli/json.h"
+#include "diff/differences.h"
 
 namespace {
 
@@ -15,6 +16,19 @@ constexpr std::string_view Usage =
     "first save kept, with the files as they are now.\n"
     "  --json   one JSON object a line instead\n"
     "Exit 0 when nothing differs, 1 when something does, 2 when a file can't be read.\n";
+
+std::string DifferenceJson(const Difference& d)
+{
+    std::string json = "{\"change\":" + JsonString(d.change) + ",\"file\":" + JsonString(d.file) +
+                       ",\"record\":" + std::to_string(d.record);
+    if (!d.field.empty())
+        json += ",\"field\":" + JsonString(d.field);
+    if (d.change != "added" && d.change != "rearranged")
+        json += ",\"from\":" + JsonString(d.from);
+    if (d.change != "removed" && d.change != "rearranged")
+        json += ",\"to\":" + JsonString(d.to);
+    return json + ",\"text\":" + JsonString(d.text) + "}";
+}
 
 int RunDiff(const CommandLine& line, std::ostream& out, std::ostream& err)
 {

@@ -4,10 +4,10 @@
 #include <ostream>
 
 #include "cli/commands.h"
-#include "cli/csv_layout.h"
 #include "cli/game_folder.h"
-#include "cli/record_fields.h"
-#include "cli/squads.h"
+#include "csv/csv_export.h"
+#include "csv/csv_layout.h"
+#include "data/fields.h"
 #include "data/file_io.h"
 
 namespace {
@@ -42,38 +42,9 @@ std::optional<int> CountryCode(const std::string& text)
     return std::nullopt;
 }
 
-struct Filter {
-    std::optional<int> team;
-    std::optional<int> country;
-};
-
-std::string WriteTable(const Game& game, const Filter& filter, bool players)
-{
-    std::string text = CsvLine(players ? PlayerColumns() : TeamColumns());
-    if (players) {
-        const auto holders = TeamsHoldingEachPlayer(game);
-        for (int number = 1; number <= LoadedPlayerCount(game); ++number) {
-            const auto& teams = holders[number];
-            if (filter.team && std::find(teams.begin(), teams.end(), *filter.team) == teams.end())
-                continue;
-            if (filter.country && game.Players[number].homeCountry != *filter.country)
-                continue;
-            text += CsvLine(PlayerRow(game, number));
-        }
-        return text;
-    }
-    for (int number = 1; number <= LoadedTeamCount(game); ++number) {
-        if ((filter.team && number != *filter.team) ||
-            (filter.country && game.Teams[number].homeCountry != *filter.country))
-            continue;
-        text += CsvLine(TeamRow(game, number));
-    }
-    return text;
-}
-
 int RunExport(const CommandLine& line, std::ostream& out, std::ostream& err)
 {
-    Filter filter;
+    CsvSelection filter;
     if (line.values.contains("--team")) {
         filter.team = WholeNumber(line.values.at("--team"));
         if (!filter.team) {
@@ -108,7 +79,8 @@ int RunExport(const CommandLine& line, std::ostream& out, std::ostream& err)
     }
     for (const bool players : {true, false}) {
         const std::string path = (folder / (players ? "players.csv" : "teams.csv")).string();
-        if (const FileResult written = ReplaceFile(path, WriteTable(*loaded.game, filter, players)); !written.ok()) {
+        const std::string text = players ? PlayersCsv(*loaded.game, filter) : TeamsCsv(*loaded.game, filter);
+        if (const FileResult written = ReplaceFile(path, text); !written.ok()) {
             err << "kolta-data export: " << written.path << ": " << written.reason << '\n';
             return ExitFailed;
         }

@@ -7,12 +7,13 @@ namespace {
 
 LoadedGame Load(const std::string& directory, const std::string& suffix)
 {
-    LoadedGame loaded{std::make_unique<Game>()};
+    LoadedGame loaded;
+    loaded.game = std::make_unique<Game>();
     SetGameDirectory(*loaded.game, directory);
     loaded.game->PlayersPath += suffix;
     loaded.game->TeamsPath += suffix;
-    loaded.playersRead = ReadPlayersFile(*loaded.game);
-    loaded.teamsRead = ReadTeamsFile(*loaded.game);
+    loaded.players = ReadPlayersFile(*loaded.game);
+    loaded.teams = ReadTeamsFile(*loaded.game);
     return loaded;
 }
 
@@ -30,13 +31,16 @@ LoadedGame LoadGameBackups(const std::string& directory)
 
 std::string UnreadFiles(const LoadedGame& loaded)
 {
-    const std::string players = loaded.game->PlayersPath;
-    const std::string teams = loaded.game->TeamsPath;
-    if (!loaded.playersRead && !loaded.teamsRead)
-        return players + " and " + teams;
-    if (!loaded.playersRead)
-        return players;
-    if (!loaded.teamsRead)
-        return teams;
+    const auto unread = [](const std::string& path, const LoadReport& report) {
+        return path + " (" + report.failure + ")";
+    };
+    const std::string& players = loaded.game->PlayersPath;
+    const std::string& teams = loaded.game->TeamsPath;
+    if (!loaded.players.Read() && !loaded.teams.Read())
+        return unread(players, loaded.players) + " and " + unread(teams, loaded.teams);
+    if (!loaded.players.Read())
+        return unread(players, loaded.players);
+    if (!loaded.teams.Read())
+        return unread(teams, loaded.teams);
     return {};
 }

@@ -4,14 +4,15 @@
 #include <string>
 
 #include "data/game.h"
+#include "data/load_report.h"
 
 // A game loaded as the editor loads it: a fresh Game, players first, then teams.
 struct LoadedGame {
     std::unique_ptr<Game> game;
-    bool playersRead = false;
-    bool teamsRead = false;
+    LoadReport players;
+    LoadReport teams;
 
-    bool BothRead() const { return playersRead && teamsRead; }
+    bool BothRead() const { return players.Read() && teams.Read(); }
 };
 
 LoadedGame LoadGameFolder(const std::string& directory);
@@ -19,6 +20,6 @@ LoadedGame LoadGameFolder(const std::string& directory);
 // The backups that the first save of a run leaves beside the files.
 LoadedGame LoadGameBackups(const std::string& directory);
 
-// "players.dat and teams.dat", "teams.dat", ...: the files of `loaded` that
-// could not be read, said for a message; empty when both were read.
+// "DIR/players.dat (Permission denied)", ...: the files of `loaded` that
+// could not be read and why, said for a message; empty when both were read.
 std::string UnreadFiles(const LoadedGame& loaded);

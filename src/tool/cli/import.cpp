@@ -2,9 +2,9 @@
 #include <ostream>
 
 #include "cli/commands.h"
-#include "cli/differences.h"
+#include "diff/differences.h"
 #include "cli/game_folder.h"
-#include "cli/import_rows.h"
+#include "csv/import_rows.h"
 #include "data/file_io.h"
 #include "data/save.h"
 
@@ -42,13 +42,9 @@ int RunImport(const CommandLine& line, std::ostream& out, std::ostream& err)
         err << "kolta-data import: neither players.csv nor teams.csv can be read in " << folder.string() << '\n';
         return ExitFailed;
     }
-    const CsvTable players = ParseCsv(playersText.value_or(""));
-    const CsvTable teams = ParseCsv(teamsText.value_or(""));
-
     Game& game = *loaded.game;
     const auto before = std::make_unique<Game>(game);
-    const std::vector<RowFault> faults =
-        ApplyImport(game, {playersText ? &players : nullptr, teamsText ? &teams : nullptr});
+    const std::vector<RowFault> faults = ImportCsv(game, playersText, teamsText);
     if (!faults.empty()) {
         for (const RowFault& fault : faults)
             err << fault.file << (fault.line > 0 ? ":" + std::to_string(fault.line) : std::string{}) << ": "

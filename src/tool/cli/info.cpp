@@ -3,7 +3,7 @@
 
 #include "cli/commands.h"
 #include "cli/game_folder.h"
-#include "cli/squads.h"
+#include "data/squad.h"
 #include "data/code_lists.h"
 
 namespace {
@@ -54,7 +54,7 @@ int RunInfo(const CommandLine& line, std::ostream& out, std::ostream& err)
 {
     const std::string& directory = line.positional[0];
     const LoadedGame loaded = LoadGameFolder(directory);
-    if (!loaded.playersRead && !loaded.teamsRead) {
+    if (!loaded.players.Read() && !loaded.teams.Read()) {
         err << "kolta-data info: cannot read " << UnreadFiles(loaded) << '\n';
         return ExitFailed;
     }

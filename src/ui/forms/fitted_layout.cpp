@@ -27,10 +27,21 @@ void FittedLayout::Apply()
             factor = std::max(factor, double(item.control->sizeHint().width() + Slack) /
                                           Twips(item.twips.width()));
     }
+    std::vector<QRect> pixels;
     for (const Placed& item : placed_) {
         const QRect& r = item.twips;
-        item.control->setGeometry(TwipRect(Stretch(r.left(), factor), Stretch(r.top(), factor),
-                                           Stretch(r.width(), factor), Stretch(r.height(), factor)));
+        pixels.push_back(TwipRect(Stretch(r.left(), factor), Stretch(r.top(), factor), Stretch(r.width(), factor),
+                                  Stretch(r.height(), factor)));
+    }
+    // A control inside a group placed here stands where it would stand on the
+    // area itself.
+    for (std::size_t i = 0; i < placed_.size(); ++i) {
+        QRect at = pixels[i];
+        for (std::size_t group = 0; group < placed_.size(); ++group) {
+            if (placed_[group].control == placed_[i].control->parentWidget())
+                at.translate(-pixels[group].topLeft());
+        }
+        placed_[i].control->setGeometry(at);
     }
     area_->setFixedSize(TwipSize(Stretch(areaTwips_.width(), factor), Stretch(areaTwips_.height(), factor)));
 }

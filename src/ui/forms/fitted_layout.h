@@ -14,7 +14,8 @@ public:
     explicit FittedLayout(QWidget* area, QSize areaTwips);
 
     // `mustFit`: the control's own preferred width (caption, widest entry)
-    // must fit the width it is given.
+    // must fit the width it is given. Rectangles are those of the area, also
+    // for a control inside a group of controls that is placed here too.
     template <typename Control>
     Control* Put(Control* control, QRect twips, bool mustFit = false)
     {

@@ -1,27 +1,27 @@
 #include "forms/message_box.h"
 #include "forms/modal.h"
-#include "mainwindow/main_form.h"
-#include "options/about_form.h"
+#include "mainwindow/main_window.h"
+#include "options/about_window.h"
 #include "options/web_pages.h"
 
-void MainForm::hoe_Click()
+void MainWindow::OnHelp()
 {
     MsgBox(QStringLiteral("Please read help.txt file for help on KOLTA editor."), MbInformation,
            QStringLiteral("Help"));
 }
 
-void MainForm::abt_Click()
+void MainWindow::OnAbout()
 {
-    AboutForm form;
-    ShowModal(form, this);
+    AboutWindow about;
+    ShowModal(about, this);
 }
 
-void MainForm::Image1_Click()
+void MainWindow::OnUserGuidePicture()
 {
     OpenWebPage(UserGuidePage());
 }
 
-void MainForm::Image2_Click()
+void MainWindow::OnFileFormatsPicture()
 {
     OpenWebPage(FileFormatsPage());
 }

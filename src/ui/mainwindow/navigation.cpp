@@ -3,7 +3,7 @@
 #include "forms/combo_box.h"
 #include "forms/game_text.h"
 #include "forms/list_box.h"
-#include "mainwindow/main_form.h"
+#include "mainwindow/main_window.h"
 
 namespace {
 
@@ -17,65 +17,71 @@ void SelectFirst(ListControl& list)
 
 }  // namespace
 
-std::optional<int> MainForm::CurrentTeam() const
+std::optional<int> MainWindow::CurrentTeam() const
 {
-    const int entry = Combo2->ListIndex();
-    return entry >= 0 ? std::optional<int>(Combo2->ItemData(entry)) : std::nullopt;
+    const int entry = teamList_->ListIndex();
+    return entry >= 0 ? std::optional<int>(teamList_->ItemData(entry)) : std::nullopt;
 }
 
-void MainForm::Combo1_Click()
+void MainWindow::OnCountryChosen()
 {
-    Combo2->Clear();
-    List1->Clear();
+    teamList_->Clear();
+    ClearSquadList();
     // The West Indies entry has no rule of its own: it gathers the teams of
     // code 8, which include the minor islands.
-    const int country = Combo1->ListIndex() + 1;
+    const int country = countryList_->ListIndex() + 1;
     for (int index = 1; index <= MaxTeams; ++index) {
-        const TeamRecord& team = game.Teams[std::size_t(index)];
+        const TeamRecord& team = game_.Teams[std::size_t(index)];
         if (team.homeCountry != country)
             continue;
-        Combo2->AddItem(FromGame(team.teamName));
-        Combo2->SetItemData(Combo2->ListCount() - 1, index);
+        teamList_->AddItem(FromGame(team.teamName));
+        teamList_->SetItemData(teamList_->ListCount() - 1, index);
     }
-    SelectFirst(*Combo2);
-    SelectFirst(*List1);
+    SelectFirst(*teamList_);
+    SelectFirst(*squadList_);
 }
 
-void MainForm::Combo2_Click()
+void MainWindow::OnTeamChosen()
 {
-    List1->Clear();
+    ClearSquadList();
     ShowTeam();
     FillSquadList();
 }
 
-void MainForm::FillSquadList()
+void MainWindow::ClearSquadList()
+{
+    squadList_->Clear();
+    emit squadRowChanged(-1);
+}
+
+void MainWindow::FillSquadList()
 {
     const auto index = CurrentTeam();
     if (!index || *index < 1 || *index > MaxTeams)
         return;
     // Empty places take no row, so rows run behind places when a squad has gaps.
     for (int slot = 1; slot <= SquadSize; ++slot) {
-        const int number = game.Teams[std::size_t(*index)].squad[std::size_t(slot)];
+        const int number = game_.Teams[std::size_t(*index)].squad[std::size_t(slot)];
         if (number < 1 || number > MaxPlayers)
             continue;
-        const PlayerRecord& player = game.Players[std::size_t(number)];
-        List1->AddItem(FromGame(player.initials) + QLatin1Char(' ') + FromGame(player.surname));
-        List1->SetItemData(List1->ListCount() - 1, number);
+        const PlayerRecord& player = game_.Players[std::size_t(number)];
+        squadList_->AddItem(FromGame(player.initials) + QLatin1Char(' ') + FromGame(player.surname));
+        squadList_->SetItemData(squadList_->ListCount() - 1, number);
     }
 }
 
-void MainForm::ReselectCurrentTeam()
+void MainWindow::RefreshSquad()
 {
     // By the entry's own text: a renamed team keeps its old entry until the
     // country is picked again, and two teams of one name land on the first.
-    if (const int entry = Combo2->ListIndex(); entry >= 0)
-        Combo2->SetText(Combo2->List(entry));
+    if (const int entry = teamList_->ListIndex(); entry >= 0)
+        teamList_->SetText(teamList_->List(entry));
 }
 
-void MainForm::RunStartupChain()
+void MainWindow::ShowFirstEntries()
 {
-    SelectFirst(*Combo1);
-    SelectFirst(*Combo2);
-    SelectFirst(*List1);
-    Timer1->start();
+    SelectFirst(*countryList_);
+    SelectFirst(*teamList_);
+    SelectFirst(*squadList_);
+    editTimer_->start();
 }

@@ -3,11 +3,11 @@
 #include "data/save.h"
 #include "forms/game_text.h"
 #include "forms/message_box.h"
-#include "mainwindow/main_form.h"
+#include "mainwindow/main_window.h"
 
-bool MainForm::SaveAll()
+bool MainWindow::SaveAll()
 {
-    const FileResult result = SaveGame(game);
+    const FileResult result = SaveGame(game_);
     if (!result.ok()) {
         MsgBox(QStringLiteral("Could not save %1:\n%2\n\nNothing more was written. "
                               "Your changes are still in the editor.")
@@ -20,12 +20,12 @@ bool MainForm::SaveAll()
     return true;
 }
 
-void MainForm::updf_Click()
+void MainWindow::OnSave()
 {
     SaveAll();
 }
 
-void MainForm::exit_Click()
+void MainWindow::OnExit()
 {
     const int answer = MsgBox(QStringLiteral("Do you want to update the files teams.dat and players.dat?"),
                               MbYesNoCancel | MbExclamation, QStringLiteral("Saving.."));

@@ -3,62 +3,74 @@
 #include "forms/list_box.h"
 #include "forms/message_box.h"
 #include "forms/modal.h"
-#include "mainwindow/main_form.h"
-#include "newplayerwindow/nplayer_form.h"
-#include "searchwindow/playeradd_form.h"
-#include "searchwindow/squad_messages.h"
+#include "forms/squad_messages.h"
+#include "mainwindow/main_window.h"
+#include "newplayerwindow/new_player_window.h"
+#include "searchwindow/search_window.h"
 
-void MainForm::Command1_Click()
+void MainWindow::OnAddExistingPlayer()
 {
-    if (RefuseFullSquad(*List1) || !TeamOrRefuse(*this, QStringLiteral("Add Player")))
+    if (RefuseFullSquad(squadList_->ListCount()))
         return;
-    PlayerAddForm search(game, *this);
-    search.FillSelectors();
+    const auto team = CurrentTeam();
+    if (!team)
+        return RefuseNoTeam(QStringLiteral("Add Player"));
+    SearchWindow search(game_, *team, SearchWindow::Mode::Add, squadList_->ListIndex());
+    connect(&search, &SearchWindow::squadChanged, this, &MainWindow::RefreshSquad);
+    connect(this, &MainWindow::squadRowChanged, &search, &SearchWindow::SetSquadRow);
     ShowModal(search, this);
 }
 
-void MainForm::Command2_Click()
+void MainWindow::OnReplacePlayer()
+{
+    const QString title = QStringLiteral("Replace Player");
+    const auto team = CurrentTeam();
+    if (!team)
+        return RefuseNoTeam(title);
+    if (squadList_->ListIndex() < 0)
+        return RefuseNoPlayer(title);
+    SearchWindow search(game_, *team, SearchWindow::Mode::Replace, squadList_->ListIndex());
+    connect(&search, &SearchWindow::squadChanged, this, &MainWindow::RefreshSquad);
+    connect(this, &MainWindow::squadRowChanged, &search, &SearchWindow::SetSquadRow);
+    ShowModal(search, this);
+}
+
+void MainWindow::OnAddNewPlayer()
+{
+    if (RefuseFullSquad(squadList_->ListCount()))
+        return;
+    const auto team = CurrentTeam();
+    if (!team)
+        return RefuseNoTeam(QStringLiteral("Add New Player"));
+    if (RefuseFullGame(game_))
+        return;
+    NewPlayerWindow form(game_, *team);
+    connect(&form, &NewPlayerWindow::playerCreated, this, &MainWindow::RefreshSquad);
+    ShowModal(form, this);
+}
+
+void MainWindow::OnDeletePlayer()
 {
     const QString title = QStringLiteral("Delete Player");
-    const int row = List1->ListIndex();
+    const int row = squadList_->ListIndex();
     if (row < 0)
         return RefuseNoPlayer(title);
     const auto team = CurrentTeam();
-    const int slot = team ? SlotOfRow(game.Teams[std::size_t(*team)], row) : 0;
+    const int slot = team ? SlotOfRow(game_.Teams[std::size_t(*team)], row) : 0;
     if (slot == 0)
         return RefuseNoPlayer(title);
 
-    const TeamRecord& squad = game.Teams[std::size_t(*team)];
-    const PlayerRecord& player = game.Players[std::size_t(squad.squad[std::size_t(slot)])];
+    const TeamRecord& squad = game_.Teams[std::size_t(*team)];
+    const PlayerRecord& player = game_.Players[std::size_t(squad.squad[std::size_t(slot)])];
     const QString prompt = QStringLiteral("Are you sure you want to delete ") + FromGame(player.initials) +
                            QLatin1Char(' ') + FromGame(player.surname) + QStringLiteral(" from ") +
                            FromGame(squad.teamName) + QStringLiteral(" Squad ?");
     if (MsgBox(prompt, MbCritical | MbYesNo, title) == IdNo)
         return;
 
-    DeleteFromSquad(game, *team, slot);
-    ReselectCurrentTeam();
+    DeleteFromSquad(game_, *team, slot);
+    RefreshSquad();
     // The player who followed the deleted one now stands in his row.
-    if (List1->ListCount() != 0)
-        List1->SetText(List1->List(row));
-}
-
-void MainForm::Command3_Click()
-{
-    if (RefuseFullSquad(*List1) || !TeamOrRefuse(*this, QStringLiteral("Add New Player")))
-        return;
-    OpenNewPlayerWindow(game, *this);
-}
-
-void MainForm::Command4_Click()
-{
-    const QString title = QStringLiteral("Replace Player");
-    if (!TeamOrRefuse(*this, title))
-        return;
-    if (List1->ListIndex() < 0)
-        return RefuseNoPlayer(title);
-    PlayerAddForm search(game, *this);
-    search.ShowReplaceMode();
-    search.FillSelectors();
-    ShowModal(search, this);
+    if (squadList_->ListCount() != 0)
+        squadList_->SetText(squadList_->List(row));
 }

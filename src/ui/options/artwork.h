@@ -4,7 +4,7 @@
 namespace kolta::artwork {
 
 inline constexpr const char* Icon = ":/artwork/icon.png";      // 32x32: window icon, About window
-inline constexpr const char* Banner = ":/artwork/image1.jpg";  // 400x100: main window Image1, user guide
-inline constexpr const char* Scorecard = ":/artwork/image2.gif";  // 270x135: main window Image2, file formats
+inline constexpr const char* Banner = ":/artwork/image1.jpg";  // 400x100: main window, opens the user guide
+inline constexpr const char* Scorecard = ":/artwork/image2.gif";  // 270x135: main window, opens the file formats
 
 }  // namespace kolta::artwork

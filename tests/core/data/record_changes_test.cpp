@@ -50,8 +50,8 @@ NewPlayerEntries Newcomer()
     NewPlayerEntries entries;
     entries.initials = "Q";
     entries.surname = "Newcombe";
-    for (EntryBox box : NumberBoxes)
-        entries.*box = "12";
+    for (const NumberBox& number : NumberBoxes)
+        entries.*number.box = "12";
     return entries;
 }
 

@@ -75,8 +75,8 @@ protected:
         fs::copy(KOLTA_SAMPLE, dir);
         made_.push_back(dir);
         SetGameDirectory(game, dir.string());
-        EXPECT_TRUE(ReadPlayersFile(game));
-        EXPECT_TRUE(ReadTeamsFile(game));
+        EXPECT_TRUE(ReadPlayersFile(game).Read());
+        EXPECT_TRUE(ReadTeamsFile(game).Read());
         return dir;
     }
 

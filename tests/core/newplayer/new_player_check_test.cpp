@@ -63,10 +63,10 @@ TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
         EXPECT_EQ(EntriesAreGood(e), c.good) << "text \"" << c.text << "\"";
     }
     EXPECT_FALSE(EntriesAreGood(NewPlayerEntries{})) << "OK pressed on an untouched window";
-    for (EntryBox box : NumberBoxes) {
+    for (const NumberBox& box : NumberBoxes) {
         for (const char* text : {"", "x", "1,5"}) {
             NewPlayerEntries e = GoodEntries();
-            e.*box = text;
+            e.*box.box = text;
             EXPECT_FALSE(EntriesAreGood(e)) << text;
         }
     }

@@ -16,11 +16,11 @@ TEST_F(EditTick, ANumberReachesTheRecordAndAnythingElseLeavesTheLastGoodValue)
         {"1,000", 100}, {"-32768", -32768}, {"5", 5}, {"", 5}, {" ", 5},
     };
     for (const auto& [text, value] : cases) {
-        Retype(BatSkillBox, text);
+        Retype("batSkill", text);
         Tick();
         Tick();
         EXPECT_EQ(game->Players[1].batSkill, value) << text.toStdString();
-        EXPECT_EQ(BoxText(BatSkillBox), text);   // the box keeps what was typed
+        EXPECT_EQ(BoxText("batSkill"), text);   // the box keeps what was typed
     }
     EXPECT_EQ(BeepCount(), 0);   // no sound, no message: the box just waits
     EXPECT_TRUE(ShownMessages().empty());
@@ -29,33 +29,33 @@ TEST_F(EditTick, ANumberReachesTheRecordAndAnythingElseLeavesTheLastGoodValue)
 TEST_F(EditTick, ANewNameRebuildsTheSquadListAndKeepsThePlayer)
 {
     Open();
-    TextBox& surname = *main->Text1[SurnameBox];
+    TextBox& surname = Find<TextBox>(*main, "surname");
     surname.setFocus();
     surname.end(false);
     QTest::keyClicks(&surname, "s");
     const int caret = surname.cursorPosition();
     Tick();
     EXPECT_EQ(game->Players[1].surname, "Quillfeathers");
-    EXPECT_EQ(Rows(*main->List1), (std::vector<QString>{"H R Quillfeathers", " Ormsby", "T Vanterpool"}));
-    EXPECT_EQ(main->List1->ListIndex(), -1);
-    EXPECT_EQ(main->Label3->text(), "1");
+    EXPECT_EQ(Rows(Squad()), (std::vector<QString>{"H R Quillfeathers", " Ormsby", "T Vanterpool"}));
+    EXPECT_EQ(Squad().ListIndex(), -1);
+    EXPECT_EQ(main->CurrentPlayer(), 1);
     // The box being typed in is left alone.
     EXPECT_EQ(QApplication::focusWidget(), &surname);
     EXPECT_EQ(surname.cursorPosition(), caret);
 
     // A tick that finds the name unchanged leaves the list and its choice.
-    main->List1->SetText(" Ormsby");
+    Squad().SetText(" Ormsby");
     Tick();
-    EXPECT_EQ(main->List1->ListIndex(), 1);
+    EXPECT_EQ(Squad().ListIndex(), 1);
 }
 
 TEST_F(EditTick, NameBoxesRefuseWhatTheFilesCannotCarry)
 {
     Open();
-    for (int box : {InitialsBox, SurnameBox, TeamNameBox, AbbreviationBox}) {
+    for (const char* box : {"initials", "surname", "team.teamName", "team.abbreviation"}) {
         const int beeps = BeepCount();
         Retype(box, "\"O,Neil\"s");   // a quote inside a name is fine
-        EXPECT_EQ(BoxText(box), "ONeil\"s") << "Text1(" << box << ")";
+        EXPECT_EQ(BoxText(box), "ONeil\"s") << box;
         EXPECT_EQ(BeepCount(), beeps + 2);
     }
 }

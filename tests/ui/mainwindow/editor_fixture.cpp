@@ -5,7 +5,7 @@
 #include "data/players_file.h"
 #include "data/setting_file.h"
 #include "data/teams_file.h"
-#include "options/options_form.h"
+#include "options/options_window.h"
 
 EditorTest::EditorTest()
 {
@@ -62,15 +62,15 @@ void EditorTest::Open(GameBuilder built)
     ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(GameFolder())).ok());
 
     game = std::make_unique<Game>();
-    main = std::make_unique<MainForm>(*game, places);
-    ASSERT_TRUE(main->Form_Load());
+    main = std::make_unique<MainWindow>(*game, places);
+    ASSERT_TRUE(main->Start());
     main->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(main.get()));
 }
 
-void EditorTest::Retype(int box, const QString& text)
+void EditorTest::Retype(const char* box, const QString& text)
 {
-    TextBox* edit = main->Text1[std::size_t(box)];
+    TextBox* edit = &Find<TextBox>(*main, box);
     edit->setFocus();
     QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(edit, Qt::Key_Delete);

@@ -3,6 +3,7 @@
 // A game written into a folder of its own, an editor.dat that names it, and
 // the main window opened on it as the program opens it.
 
+#include <QAction>
 #include <QApplication>
 #include <QLabel>
 #include <QTemporaryDir>
@@ -17,8 +18,9 @@
 #include "forms/list_box.h"
 #include "forms/message_box.h"
 #include "forms/text_box.h"
-#include "mainwindow/main_form.h"
+#include "mainwindow/main_window.h"
 #include "support/game_builder.h"
+#include "support/window_parts.h"
 
 inline void PrintTo(const QString& text, std::ostream* out)
 {
@@ -49,7 +51,7 @@ protected:
     void Open(GameBuilder built = SmallWorld());
 
     // The tick as the timer runs it.
-    void Tick() { main->Timer1_Timer(); }
+    void Tick() { main->CarryEditsIntoRecords(); }
 
     // Answers for the coming message boxes, in order; OK when none is left.
     void Answer(std::vector<int> answers) { answers_ = std::move(answers); }
@@ -57,12 +59,17 @@ protected:
     QString GameFolder() const { return root_.filePath(QStringLiteral("game")); }
 
     // Types into a box as a person would, after clearing it with the keys.
-    void Retype(int box, const QString& text);
-    QString BoxText(int box) const { return main->Text1[std::size_t(box)]->Text(); }
+    void Retype(const char* box, const QString& text);
+    QString BoxText(const char* box) const { return Find<TextBox>(*main, box).Text(); }
+
+    // The window's controls by the names of their jobs.
+    ComboBox& Combo(const char* name) const { return Find<ComboBox>(*main, name); }
+    ListBox& Squad() const { return Find<ListBox>(*main, "squadList"); }
+    QString TeamNumber() const { return Find<QLabel>(*main, "teamNumber").text(); }
 
     QTemporaryDir root_;
     std::unique_ptr<Game> game;
-    std::unique_ptr<MainForm> main;
+    std::unique_ptr<MainWindow> main;
 
 private:
     std::vector<int> answers_;

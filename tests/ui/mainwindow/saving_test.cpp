@@ -7,7 +7,7 @@
 #include "data/players_file.h"
 #include "data/teams_file.h"
 #include "editor_fixture.h"
-#include "options/options_form.h"
+#include "options/options_window.h"
 
 namespace {
 
@@ -29,8 +29,8 @@ protected:
         Open();
         filesBefore_ = Files();
         // One edit in each file.
-        Retype(BatSkillBox, "58");
-        Retype(TeamNameBox, "Perth Pelicans XI");
+        Retype("batSkill", "58");
+        Retype("team.teamName", "Perth Pelicans XI");
         Tick();
     }
 
@@ -47,7 +47,7 @@ protected:
     {
         const auto read = std::make_unique<Game>();
         SetGameDirectory(*read, ToSystemPath(GameFolder()));
-        return ReadPlayersFile(*read) && ReadTeamsFile(*read) && read->Players == game->Players &&
+        return ReadPlayersFile(*read).Read() && ReadTeamsFile(*read).Read() && read->Players == game->Players &&
                read->Teams == game->Teams && read->Players[1].batSkill == 58 &&
                read->Teams[1].teamName == "Perth Pelicans XI";
     }
@@ -73,7 +73,7 @@ TEST_F(Saving, CtrlSSavesWhicheverControlHasTheFocus)
     ASSERT_EQ(ShownMessages().size(), 1u);
     EXPECT_EQ(ShownMessages()[0].title, "Info");
     EXPECT_EQ(ShownMessages()[0].flags, 64);
-    EXPECT_EQ(BoxText(BatSkillBox), "58");   // nothing in the window moved
+    EXPECT_EQ(BoxText("batSkill"), "58");   // nothing in the window moved
 }
 
 // The answer to the question on leaving, whether the window closes and whether it saves.
@@ -83,7 +83,7 @@ TEST_P(ExitAnswer, DoesWhatItSays)
 {
     const auto [answer, closes, saves] = GetParam();
     Answer({answer, IdOk});
-    main->exit->trigger();
+    Find<QAction>(*main, "exitAction").trigger();
     ASSERT_EQ(ShownMessages().size(), saves ? 2u : 1u);
     EXPECT_EQ(ShownMessages()[0].text, SaveQuestion);
     EXPECT_EQ(ShownMessages()[0].title, "Saving..");
@@ -100,19 +100,19 @@ TEST_F(Saving, ASaveTheDiskRefusesIsToldAndExitStaysOpen)
 {
     const QString teams = GameFolder() + "/teams.dat";
     QFile::setPermissions(teams, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-    main->updf->trigger();
+    Find<QAction>(*main, "saveAction").trigger();
     ASSERT_EQ(ShownMessages().size(), 1u);
     EXPECT_EQ(ShownMessages()[0].flags, 16);
     const QString said = ShownMessages()[0].text;
     EXPECT_TRUE(said.contains(teams) && said.contains("read-only")) << said.toStdString();
     EXPECT_TRUE(FilesUnchanged());   // not even players.dat, which could have been written
     EXPECT_EQ(game->Players[1].batSkill, 58);
-    EXPECT_EQ(BoxText(TeamNameBox), "Perth Pelicans XI");
+    EXPECT_EQ(BoxText("team.teamName"), "Perth Pelicans XI");
 
     // Leaving with Yes stays open, so the edits are not thrown away.
     ClearShownMessages();
     Answer({IdYes, IdOk});
-    main->exit->trigger();
+    Find<QAction>(*main, "exitAction").trigger();
     ASSERT_EQ(ShownMessages().size(), 2u);
     EXPECT_EQ(ShownMessages()[1].flags, 16);
     EXPECT_TRUE(main->isVisible());

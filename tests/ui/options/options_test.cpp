@@ -22,11 +22,12 @@
 #include "forms/message_box.h"
 #include "forms/modal.h"
 #include "forms/picture_box.h"
-#include "mainwindow/main_form.h"
-#include "options/about_form.h"
+#include "mainwindow/main_window.h"
+#include "options/about_window.h"
 #include "options/folder_lists.h"
-#include "options/options_form.h"
+#include "options/options_window.h"
 #include "options/web_pages.h"
+#include "support/window_parts.h"
 
 namespace {
 
@@ -61,9 +62,9 @@ protected:
     }
 
     // The chooser while it is open, driven by `drive`.
-    void WhileOpen(std::function<void(OptionsForm&)> drive)
+    void WhileOpen(std::function<void(OptionsWindow&)> drive)
     {
-        SetModalDriver([drive](QDialog& form) { drive(static_cast<OptionsForm&>(form)); });
+        SetModalDriver([drive](QDialog& form) { drive(static_cast<OptionsWindow&>(form)); });
     }
 
     QString Setting() const { return FromSystemPath(ReadSettingFile(ToSystemPath(places.besideExecutable))); }
@@ -79,22 +80,24 @@ protected:
 
 TEST_F(OptionsTest, ADriveThatCannotBeReadIsReportedAndChangesNothing)
 {
-    OptionsForm opt1(*game, places);
-    ASSERT_TRUE(opt1.Dir1->SetPath(full));
+    OptionsWindow options(*game, places, OptionsWindow::Mode::FirstStart);
+    auto& folders = Find<DirList>(options, "folderList");
+    auto& drives = Find<DriveList>(options, "driveList");
+    ASSERT_TRUE(folders.SetPath(full));
     const QString noDisk = root.filePath("drive-without-a-disk");
-    opt1.Drive1->AddDrive(noDisk);
-    opt1.Drive1->setCurrentIndex(opt1.Drive1->count() - 1);
+    drives.AddDrive(noDisk);
+    drives.setCurrentIndex(drives.count() - 1);
     ASSERT_EQ(ShownMessages().size(), 1u);
     EXPECT_EQ(ShownMessages()[0].text, "Error reading Drive");
     EXPECT_EQ(ShownMessages()[0].title, "Error");
     EXPECT_EQ(ShownMessages()[0].flags, MbCritical);
-    EXPECT_EQ(opt1.Dir1->Path(), full);
-    EXPECT_EQ(opt1.File1->Path(), full);
-    EXPECT_EQ(opt1.Drive1->Drive(), noDisk);
+    EXPECT_EQ(folders.Path(), full);
+    EXPECT_EQ(Find<FileList>(options, "fileList").Path(), full);
+    EXPECT_EQ(drives.Drive(), noDisk);
 
     // Back on a real drive, the list returns to where it was on that drive.
-    opt1.Drive1->SetDrive(full);
-    EXPECT_EQ(opt1.Dir1->Path(), full);
+    drives.SetDrive(full);
+    EXPECT_EQ(folders.Path(), full);
     EXPECT_EQ(ShownMessages().size(), 1u);
 }
 
@@ -108,22 +111,23 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
         const bool good = dir == full;
         ClearShownMessages();
         auto fresh = std::make_unique<Game>();
-        MainForm main(*fresh, places);
-        WhileOpen([&](OptionsForm& opt1) {
-            EXPECT_FALSE(opt1.Command1->isHidden());
-            EXPECT_TRUE(opt1.Command2->isHidden());
-            opt1.Dir1->SetPath(dir);
-            EXPECT_EQ(opt1.BothDataFilesListed(), good);
-            EXPECT_EQ(opt1.Label2[0]->text(), good ? "Files teams.dat and players.dat found in this directory."
+        MainWindow main(*fresh, places);
+        WhileOpen([&](OptionsWindow& options) {
+            EXPECT_FALSE(Find<QPushButton>(options, "firstStartOkButton").isHidden());
+            EXPECT_TRUE(Find<QPushButton>(options, "changeDirectoryOkButton").isHidden());
+            Find<DirList>(options, "folderList").SetPath(dir);
+            EXPECT_EQ(options.BothDataFilesListed(), good);
+            EXPECT_EQ(Find<QLabel>(options, "filesNote").text(), good ? "Files teams.dat and players.dat found in this directory."
                                                    : "Files teams.dat and players.dat NOT found in current directory.");
-            QTest::mouseClick(opt1.Command1, Qt::LeftButton);
+            QTest::mouseClick(&Find<QPushButton>(options, "firstStartOkButton"), Qt::LeftButton);
         });
-        ASSERT_EQ(main.Form_Load(), good);
+        ASSERT_EQ(main.Start(), good);
         if (good) {
             EXPECT_EQ(Setting(), full);
             EXPECT_EQ(main.windowTitle(), "KOLTA editor (" + full + ")");
-            EXPECT_EQ(Teams(*main.Combo2), (std::vector<QString>{"Sydney Sixes", "Perth Pies", "Hobart Hurricanes"}));
-            EXPECT_EQ(main.List1->List(main.List1->ListIndex()), "A Smith");
+            EXPECT_EQ(Teams(Find<ComboBox>(main, "teamList")), (std::vector<QString>{"Sydney Sixes", "Perth Pies", "Hobart Hurricanes"}));
+            const auto& squad = Find<ListBox>(main, "squadList");
+            EXPECT_EQ(squad.List(squad.ListIndex()), "A Smith");
             EXPECT_TRUE(ShownMessages().empty());
             continue;
         }
@@ -140,35 +144,38 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
 TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
 {
     ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(full)).ok());
-    MainForm window(*game, places);
-    ASSERT_TRUE(window.Form_Load());
+    MainWindow window(*game, places);
+    ASSERT_TRUE(window.Start());
+    QAction& optionsAction = Find<QAction>(window, "optionsAction");
     ClearShownMessages();
     game->Teams[1].teamName = "Renamed but not saved";
     game->Players[1].batSkill = 99;
 
-    WhileOpen([&](OptionsForm& opt1) { opt1.Dir1->SetPath(teamsOnly); });
-    window.opt_Click();
+    WhileOpen([&](OptionsWindow& options) { Find<DirList>(options, "folderList").SetPath(teamsOnly); });
+    optionsAction.trigger();
     EXPECT_EQ(game->Teams[1].teamName, "Renamed but not saved");
     EXPECT_EQ(window.windowTitle(), "KOLTA editor (" + full + ")");
 
     const QString fewer = Fixture("game_one_team");  // Brisbane Bats (Green)
-    WhileOpen([&](OptionsForm& opt1) {
-        EXPECT_EQ(opt1.Dir1->Path(), full);
-        EXPECT_TRUE(opt1.Command1->isHidden());
-        opt1.Dir1->SetPath(fewer);
-        QTest::mouseClick(opt1.Command2, Qt::LeftButton);
-        EXPECT_FALSE(opt1.isVisible());
+    WhileOpen([&](OptionsWindow& options) {
+        auto& folders = Find<DirList>(options, "folderList");
+        EXPECT_EQ(folders.Path(), full);
+        EXPECT_TRUE(Find<QPushButton>(options, "firstStartOkButton").isHidden());
+        folders.SetPath(fewer);
+        QTest::mouseClick(&Find<QPushButton>(options, "changeDirectoryOkButton"), Qt::LeftButton);
+        EXPECT_FALSE(options.isVisible());
     });
-    window.opt_Click();
+    optionsAction.trigger();
 
     EXPECT_TRUE(ShownMessages().empty());
     EXPECT_EQ(Setting(), fewer);
     EXPECT_EQ(window.windowTitle(), "KOLTA Editor (" + fewer + ")");
     EXPECT_EQ(game->Teams[1].teamName, "Brisbane Bats");
     EXPECT_EQ(game->Players[1].batSkill, 0);
-    EXPECT_EQ(Teams(*window.Combo2), std::vector<QString>{"Brisbane Bats"});
-    EXPECT_EQ(window.List1->List(window.List1->ListIndex()), "A Green");
-    EXPECT_TRUE(window.Timer1->isActive());
+    EXPECT_EQ(Teams(Find<ComboBox>(window, "teamList")), std::vector<QString>{"Brisbane Bats"});
+    const auto& squad = Find<ListBox>(window, "squadList");
+    EXPECT_EQ(squad.List(squad.ListIndex()), "A Green");
+    EXPECT_TRUE(Find<QTimer>(window, "editTimer").isActive());
     // Slot 2 is where the reader's pass over the closing empty lines went:
     // blank but for its number.
     TeamRecord endOfFile;
@@ -182,17 +189,17 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
 TEST(InfoWindows, AboutClosesOnEscapeAndEachPictureOpensItsPage)
 {
     Game game;
-    MainForm main{game, SettingPlaces{}};
+    MainWindow main{game, SettingPlaces{}};
     bool closed = false;
     SetModalDriver([&](QDialog& shown) {
-        auto& about = dynamic_cast<AboutForm&>(shown);
+        auto& about = dynamic_cast<AboutWindow&>(shown);
         EXPECT_EQ(about.parentWidget(), &main);
-        EXPECT_FALSE(about.Image1->pixmap().isNull());
+        EXPECT_FALSE(Find<QLabel>(about, "icon").pixmap().isNull());
         ASSERT_TRUE(QTest::qWaitForWindowActive(&about));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         closed = !about.isVisible();
     });
-    main.abt->trigger();
+    Find<QAction>(main, "aboutAction").trigger();
     SetModalDriver({});
     EXPECT_TRUE(closed);
 
@@ -202,9 +209,10 @@ TEST(InfoWindows, AboutClosesOnEscapeAndEachPictureOpensItsPage)
         opened.push_back(page);
         return true;
     });
-    QTest::mouseClick(main.Image1, Qt::LeftButton);
-    QTest::mouseClick(main.Image2, Qt::LeftButton);
-    QTest::mouseClick(main.Image1, Qt::LeftButton);
+    auto& guidePicture = Find<PictureBox>(main, "userGuidePicture");
+    QTest::mouseClick(&guidePicture, Qt::LeftButton);
+    QTest::mouseClick(&Find<PictureBox>(main, "fileFormatsPicture"), Qt::LeftButton);
+    QTest::mouseClick(&guidePicture, Qt::LeftButton);
     SetPageOpener({});
     const QDir beside(QCoreApplication::applicationDirPath());
     const QUrl guide = QUrl::fromLocalFile(beside.absoluteFilePath("guide.html"));

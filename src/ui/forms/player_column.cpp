@@ -1,0 +1,202 @@
+#include "forms/player_column.h"
+
+#include <QLabel>
+#include <stdexcept>
+#include <string_view>
+
+#include "data/fields.h"
+#include "forms/combo_box.h"
+#include "forms/fitted_layout.h"
+#include "forms/game_text.h"
+#include "forms/text_box.h"
+#include "forms/value_boxes.h"
+
+namespace {
+
+// The fields a window shows, in the order of the table: those with a caption.
+constexpr std::array<const PlayerField*, PlayerBoxCount> ShownFields = [] {
+    std::array<const PlayerField*, PlayerBoxCount> shown{};
+    std::size_t count = 0;
+    for (const PlayerField& field : PlayerFields) {
+        if (!field.label.empty())
+            shown.at(count++) = &field;
+    }
+    if (count != shown.size())
+        throw "every captioned field has a box";
+    return shown;
+}();
+
+// PlayerBox names the boxes in the table's order.
+constexpr bool BoxesFollowTheTable()
+{
+    constexpr std::array<std::string_view, PlayerBoxCount> names{
+        "initials", "surname", "birthDay", "birthMonth", "birthYear", "homeCountry", "batPosition", "bats",
+        "batSkill", "batAggression", "bowlType", "bowls", "bowlSkill", "bowlEconomy", "fieldAbility", "fieldsAt",
+        "potential",
+    };
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (ShownFields[i]->name != names[i])
+            return false;
+    }
+    return true;
+}
+static_assert(BoxesFollowTheTable());
+
+const PlayerField& FieldOf(PlayerBox box)
+{
+    return *ShownFields[std::size_t(box)];
+}
+
+// Fields that share a caption share a row.
+bool StartsRow(int index)
+{
+    return index == 0 || ShownFields[std::size_t(index - 1)]->label != ShownFields[std::size_t(index)]->label;
+}
+
+// The boxes in the order they are shown: the codes, the date of birth, the
+// skills, then the name.
+constexpr std::array<PlayerBox, PlayerBoxCount> ShowOrder{
+    PlayerBox::HomeCountry, PlayerBox::BatPosition, PlayerBox::Bats, PlayerBox::BowlType, PlayerBox::Bowls,
+    PlayerBox::FieldsAt, PlayerBox::BirthDay, PlayerBox::BirthMonth, PlayerBox::BirthYear, PlayerBox::BatSkill,
+    PlayerBox::BatAggression, PlayerBox::BowlSkill, PlayerBox::BowlEconomy, PlayerBox::FieldAbility,
+    PlayerBox::Potential, PlayerBox::Initials, PlayerBox::Surname,
+};
+
+QRect Bounds(const PlayerColumnPlaces& places)
+{
+    QRect bounds;
+    for (const QRect& r : places.captions)
+        bounds = bounds.united(r);
+    for (const QRect& r : places.boxes)
+        bounds = bounds.united(r);
+    for (const QRect& r : places.dateSlashes)
+        bounds = bounds.united(r);
+    return bounds;
+}
+
+}  // namespace
+
+PlayerColumn::PlayerColumn(FittedLayout& at, const PlayerColumnPlaces& places, QWidget* parent)
+    : QWidget(parent)
+{
+    at.Put(this, Bounds(places));
+    const auto caption = [&](std::string_view words, QRect rect, bool mustFit) {
+        return at.Put(new QLabel(FromGame(words), this), rect, mustFit);
+    };
+    std::size_t row = 0;
+    std::size_t slashes = 0;
+    for (int index = 0; index < PlayerBoxCount; ++index) {
+        const PlayerField& field = FieldOf(PlayerBox(index));
+        if (StartsRow(index)) {
+            QLabel* label = caption(field.label, places.captions.at(row++), true);
+            if (places.boldCaptions) {
+                QFont bold = label->font();
+                bold.setBold(true);
+                label->setFont(bold);
+            }
+        } else if (field.kind == FieldKind::Number) {
+            // The parts of a date stand apart, as they are written.
+            caption("/", places.dateSlashes.at(slashes++), places.slashesMustFit)->setAlignment(places.slashAlignment);
+        }
+        QWidget* value = nullptr;
+        if (field.kind == FieldKind::Code) {
+            auto* list = at.Put(new ComboBox(this), places.boxes[std::size_t(index)], true);
+            for (std::string_view word : field.codes->words)
+                list->AddItem(FromGame(word));
+            value = list;
+        } else {
+            auto* text = at.Put(new TextBox(this), places.boxes[std::size_t(index)]);
+            // The files cannot carry a comma in a name or a name that opens
+            // with a double quote, so the name boxes refuse both as they are
+            // typed or pasted.
+            if (field.kind == FieldKind::Name)
+                text->SetTextRule(IsStorableName);
+            value = text;
+        }
+        value->setObjectName(FromGame(field.name));
+        boxes_[std::size_t(index)] = value;
+    }
+}
+
+TextBox* PlayerColumn::Text(PlayerBox box) const
+{
+    return static_cast<TextBox*>(Box(box));
+}
+
+ComboBox* PlayerColumn::Codes(PlayerBox box) const
+{
+    return static_cast<ComboBox*>(Box(box));
+}
+
+void PlayerColumn::SetReadOnly(bool readOnly)
+{
+    readOnly_ = readOnly;
+    if (readOnly) {
+        for (QWidget* box : boxes_)
+            MakeReadOnly(*box);
+    }
+}
+
+void PlayerColumn::Show(const PlayerRecord& player)
+{
+    for (PlayerBox box : ShowOrder) {
+        const PlayerField& field = FieldOf(box);
+        const int before = field.kind == FieldKind::Code ? Codes(box)->ListIndex() : -1;
+        ShowField(*Box(box), field, player);
+        if (readOnly_ && field.kind == FieldKind::Code && Codes(box)->ListIndex() < 0)
+            ShowCodeEntry(*Codes(box), before);
+    }
+}
+
+bool PlayerColumn::WriteBack(PlayerRecord& player) const
+{
+    bool nameChanged = false;
+    for (PlayerBox box : ShowOrder)
+        nameChanged = StoreField(*Box(box), FieldOf(box), player) || nameChanged;
+    return nameChanged;
+}
+
+NewPlayerEntries PlayerColumn::Entries() const
+{
+    const auto boxOf = [this](std::int16_t PlayerRecord::*member) {
+        for (int index = 0; index < PlayerBoxCount; ++index) {
+            if (FieldOf(PlayerBox(index)).number == member)
+                return PlayerBox(index);
+        }
+        throw std::logic_error("a new player's entry without a box");
+    };
+    NewPlayerEntries entries;
+    entries.initials = ToGame(Text(PlayerBox::Initials)->Text());
+    entries.surname = ToGame(Text(PlayerBox::Surname)->Text());
+    for (const NumberBox& number : NumberBoxes)
+        entries.*number.box = ToGame(Text(boxOf(number.field))->Text());
+    for (const CodeBox& code : CodeBoxes)
+        entries.*code.row = Codes(boxOf(code.field))->ListIndex();
+    return entries;
+}
+
+QString PlayerColumn::ShownName() const
+{
+    return Text(PlayerBox::Initials)->Text() + QLatin1Char(' ') + Text(PlayerBox::Surname)->Text();
+}
+
+void PlayerColumn::ChooseFirstEntries()
+{
+    for (int index = 0; index < PlayerBoxCount; ++index) {
+        if (FieldOf(PlayerBox(index)).kind == FieldKind::Code)
+            Codes(PlayerBox(index))->setCurrentIndex(0);
+    }
+}
+
+void PlayerColumn::LimitLength(PlayerBox box, int length)
+{
+    Text(box)->setMaxLength(length);
+}
+
+void PlayerColumn::SetNumberKeyFilter(const std::function<void(int& keyAscii)>& filter)
+{
+    for (int index = 0; index < PlayerBoxCount; ++index) {
+        if (FieldOf(PlayerBox(index)).kind == FieldKind::Number)
+            Text(PlayerBox(index))->SetKeyFilter(filter);
+    }
+}

@@ -1,0 +1,44 @@
+#include <QFile>
+#include <QLabel>
+
+#include "data/players_file.h"
+#include "data/teams_file.h"
+#include "forms/modal.h"
+#include "mainwindow/main_window.h"
+#include "options/options_window.h"
+
+void MainWindow::LoadNewDirectory()
+{
+    // Edits not saved are dropped without a question, as the old files stay
+    // as last saved.
+    setWindowTitle(QStringLiteral("KOLTA Editor (%1)")
+                       .arg(QFile::decodeName(QByteArray::fromStdString(game_.GameDirectory))));
+    // Empty tables first: no team or player of the old game may turn up in
+    // the lists, a search or the next save.
+    ClearTables(game_);
+    game_.BackupsKept = false;
+    // Nor may the tick write the old boxes into whatever record of the new
+    // game has the old numbers, before a team and a player are shown again.
+    currentPlayer_.reset();
+    shownTeam_.reset();
+    teamNumberLabel_->clear();
+    ReadPlayersFile(game_);
+    ReadTeamsFile(game_);
+    ShowFirstEntries();
+}
+
+void MainWindow::OnOptions()
+{
+    OptionsWindow options(game_, places_, OptionsWindow::Mode::ChangeDirectory, this);
+    connect(&options, &OptionsWindow::gameDirectoryChanged, this, &MainWindow::LoadNewDirectory);
+    ShowModal(options, this);
+}
+
+bool MainWindow::ChooseFirstDirectory()
+{
+    // The chooser opens at the process's current directory and sets the
+    // game's directory only when the user picks one that holds both files.
+    OptionsWindow options(game_, places_, OptionsWindow::Mode::FirstStart, this);
+    ShowModal(options, this);
+    return !game_.GameDirectory.empty();
+}

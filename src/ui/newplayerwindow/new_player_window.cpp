@@ -1,0 +1,140 @@
+#include "newplayerwindow/new_player_window.h"
+
+#include <QPushButton>
+
+#include "forms/fitted_layout.h"
+#include "forms/message_box.h"
+#include "forms/modal.h"
+#include "forms/player_column.h"
+#include "newplayer/new_player_check.h"
+#include "options/help_window.h"
+
+namespace {
+
+// Client area, in twips.
+constexpr int AreaWidth = 6900;
+constexpr int AreaHeight = 3675;
+
+// The two columns of captions, each left of its column of boxes.
+constexpr int LeftCaptions = 300;
+constexpr int RightCaptions = 3540;
+constexpr int CaptionWidth = 1335;
+
+constexpr int Backspace = 8;
+
+QPushButton* MakeButton(FittedLayout& at, QWidget* form, const QString& caption, QRect rect, const char* name)
+{
+    auto* button = at.Put(new QPushButton(caption, form), rect, true);
+    button->setObjectName(QString::fromLatin1(name));
+    return button;
+}
+
+void ShowOutcome(NewPlayerOutcome outcome)
+{
+    switch (outcome) {
+    case NewPlayerOutcome::Added:
+        return;
+    case NewPlayerOutcome::BadEntries:
+        MsgBox(QStringLiteral("Data not in correct range.Please see help for correct range of data values."),
+               MbInformation, QStringLiteral("Error"));
+        return;
+    case NewPlayerOutcome::TableFull:
+        MsgBox(QStringLiteral("The game already holds its maximum of %1 players.").arg(MaxPlayers),
+               MbInformation, QStringLiteral("Maximum Players"));
+        return;
+    case NewPlayerOutcome::NoTeam:
+        MsgBox(QStringLiteral("Choose a team for the new player first."), MbInformation,
+               QStringLiteral("Add New Player"));
+        return;
+    case NewPlayerOutcome::SquadFull:
+        MsgBox(QStringLiteral("You already have the maximum of 20 players in the squad."), MbInformation,
+               QStringLiteral("Maximum Players"));
+        return;
+    }
+}
+
+PlayerColumnPlaces EntryPlaces()
+{
+    const auto left = [](int top, int height) { return QRect(LeftCaptions, top, CaptionWidth, height); };
+    const auto right = [](int top, int height) { return QRect(RightCaptions, top, CaptionWidth, height); };
+    PlayerColumnPlaces places;
+    places.captions = {left(240, 315),  left(660, 255),   left(1020, 315),  left(1440, 315), left(1860, 315),
+                       left(2280, 255), left(2640, 255),  right(300, 315),  right(720, 315), right(1140, 255),
+                       right(1500, 255), right(1860, 255), right(2220, 315), right(2640, 255)};
+    places.boxes = {
+        QRect(1680, 240, 435, 315),   QRect(2160, 240, 1275, 315),  QRect(1680, 660, 375, 255),
+        QRect(2280, 660, 375, 255),   QRect(2880, 660, 555, 255),   QRect(1680, 1020, 1755, 315),
+        QRect(1680, 1440, 1755, 315), QRect(1680, 1860, 1755, 315), QRect(1680, 2280, 1695, 255),
+        QRect(1680, 2640, 1695, 255), QRect(4920, 300, 1695, 315),  QRect(4920, 720, 1695, 315),
+        QRect(4920, 1140, 1695, 255), QRect(4920, 1500, 1695, 255), QRect(4920, 1860, 1695, 255),
+        QRect(4920, 2220, 1695, 315), QRect(4920, 2640, 1695, 255),
+    };
+    places.dateSlashes = {QRect(2100, 660, 135, 255), QRect(2700, 660, 135, 255)};
+    return places;
+}
+
+}  // namespace
+
+NewPlayerWindow::NewPlayerWindow(Game& game, int team, QWidget* parent)
+    : QDialog(parent), game_(game), team_(team)
+{
+    setObjectName(QStringLiteral("newPlayerWindow"));
+    setWindowTitle(QStringLiteral("New Player"));
+    FittedLayout at(this, {AreaWidth, AreaHeight});
+
+    // Built in tab order, so that the focus starts on OK.
+    okButton_ = MakeButton(at, this, QStringLiteral("OK"), QRect(1200, 3180, 1395, 375), "okButton");
+    okButton_->setDefault(true);
+
+    entries_ = new PlayerColumn(at, EntryPlaces(), this);
+    entries_->setObjectName(QStringLiteral("entries"));
+    for (PlayerBox box : {PlayerBox::BirthDay, PlayerBox::BirthMonth, PlayerBox::BatSkill, PlayerBox::BatAggression,
+                          PlayerBox::BowlSkill, PlayerBox::BowlEconomy, PlayerBox::FieldAbility, PlayerBox::Potential})
+        entries_->LimitLength(box, 2);
+    entries_->LimitLength(PlayerBox::BirthYear, 4);
+    entries_->SetNumberKeyFilter(&NewPlayerWindow::FilterNumberKey);
+
+    cancelButton_ = MakeButton(at, this, QStringLiteral("Cancel"), QRect(3000, 3180, 1395, 375), "cancelButton");
+    helpButton_ = MakeButton(at, this, QStringLiteral("Help"), QRect(4800, 3180, 1395, 375), "helpButton");
+
+    at.Apply();
+
+    connect(okButton_, &QPushButton::clicked, this, &NewPlayerWindow::OnOk);
+    connect(cancelButton_, &QPushButton::clicked, this, &QDialog::reject);
+    connect(helpButton_, &QPushButton::clicked, this, &NewPlayerWindow::OnHelp);
+    okButton_->setFocus();
+
+    entries_->ChooseFirstEntries();
+}
+
+void NewPlayerWindow::FilterNumberKey(int& keyAscii)
+{
+    if ((keyAscii >= '0' && keyAscii <= '9') || keyAscii == Backspace)
+        return;
+    keyAscii = 0;  // the text box answers a refused key with the beep
+}
+
+void NewPlayerWindow::OnOk()
+{
+    const NewPlayerOutcome outcome = CommitNewPlayer(game_, team_, entries_->Entries());
+    if (outcome != NewPlayerOutcome::Added) {
+        ShowOutcome(outcome);
+        return;
+    }
+    emit playerCreated(game_.PlayerCount);
+    accept();
+}
+
+void NewPlayerWindow::OnHelp()
+{
+    HelpWindow help;
+    ShowModal(help, this);
+}
+
+bool RefuseFullGame(const Game& game)
+{
+    if (CanAddNewPlayer(game))
+        return false;
+    ShowOutcome(NewPlayerOutcome::TableFull);
+    return true;
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QDialog>
+
+#include "data/game.h"
+
+class FittedLayout;
+class PlayerColumn;
+class QPushButton;
+
+// The window in which the user makes one new player for the squad of the
+// team it was opened for. It is built afresh for each showing and keeps
+// nothing.
+class NewPlayerWindow : public QDialog {
+    Q_OBJECT
+public:
+    NewPlayerWindow(Game& game, int team, QWidget* parent = nullptr);
+
+signals:
+    // The player numbered `player` was made and put into the squad.
+    void playerCreated(int player);
+
+private:
+    // Number boxes take digits and Backspace only; the names take any key.
+    static void FilterNumberKey(int& keyAscii);
+    // OK: checks the entries and, when they are good, creates the player.
+    void OnOk();
+    // Help: the table of skill ranges.
+    void OnHelp();
+
+    Game& game_;
+    const int team_;
+    PlayerColumn* entries_ = nullptr;
+    QPushButton* okButton_ = nullptr;
+    QPushButton* cancelButton_ = nullptr;
+    QPushButton* helpButton_ = nullptr;
+};
+
+// When the game already holds its maximum of players, says so and gives true:
+// the window is then not opened.
+bool RefuseFullGame(const Game& game);

@@ -1,0 +1,155 @@
+#include "options/options_window.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+
+#include "data/setting_file.h"
+#include "forms/fitted_layout.h"
+#include "forms/message_box.h"
+#include "options/folder_lists.h"
+
+namespace {
+
+// Client area of the window, in twips.
+constexpr int AreaWidth = 4740;
+constexpr int AreaHeight = 4485;
+
+const QString TeamsFileName = QStringLiteral("teams.dat");
+const QString PlayersFileName = QStringLiteral("players.dat");
+
+template <typename Control>
+Control* Place(FittedLayout& at, Control* control, const char* name, QRect twips, bool mustFit = false)
+{
+    control->setObjectName(QString::fromLatin1(name));
+    return at.Put(control, twips, mustFit);
+}
+
+// A caption of one line must fit its width; a longer one wraps inside its box.
+QLabel* MakeLabel(FittedLayout& at, QWidget* form, const char* name, const QString& caption, QRect twips,
+                  bool wraps)
+{
+    auto* label = Place(at, new QLabel(caption, form), name, twips, !wraps);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    label->setWordWrap(wraps);
+    return label;
+}
+
+}  // namespace
+
+std::string ToSystemPath(const QString& path)
+{
+    return QFile::encodeName(QDir::toNativeSeparators(path)).toStdString();
+}
+
+QString FromSystemPath(const std::string& path)
+{
+    return QDir::fromNativeSeparators(QFile::decodeName(QByteArray::fromStdString(path)));
+}
+
+OptionsWindow::OptionsWindow(Game& game, SettingPlaces places, Mode mode, QWidget* parent)
+    : QDialog(parent), game_(game), places_(std::move(places))
+{
+    setObjectName(QStringLiteral("optionsWindow"));
+    setWindowTitle(QStringLiteral("Options"));
+    FittedLayout at(this, {AreaWidth, AreaHeight});
+
+    MakeLabel(at, this, "heading", QStringLiteral("Set your Default KOLTA directory :-"), QRect(180, 180, 3735, 315),
+              false);
+    filesNote_ = MakeLabel(
+        at, this, "filesNote",
+        QStringLiteral("Please note that the files Players.dat and teams.dat must be present in the directory."),
+        QRect(180, 480, 3735, 435), true);
+
+    driveList_ = Place(at, new DriveList(this), "driveList", QRect(180, 960, 1935, 315));
+    folderList_ = Place(at, new DirList(this), "folderList", QRect(180, 1380, 2295, 2340));
+    fileList_ = Place(at, new FileList(this), "fileList", QRect(2640, 1380, 2055, 2430));
+    fileList_->SetPattern(QStringLiteral("*.dat"));
+
+    // Two OK buttons share one spot; the mode shows one of them.
+    firstStartOkButton_ = Place(at, new QPushButton(QStringLiteral("OK"), this), "firstStartOkButton",
+                                QRect(1620, 3960, 1455, 375), true);
+    changeDirectoryOkButton_ = Place(at, new QPushButton(QStringLiteral("OK"), this), "changeDirectoryOkButton",
+                                     QRect(1620, 3960, 1455, 375), true);
+    changeDirectoryOkButton_->hide();
+    at.Apply();
+
+    connect(driveList_, &DriveList::Change, this, &OptionsWindow::OnDriveChosen);
+    connect(folderList_, &DirList::Change, this, &OptionsWindow::OnFolderOpened);
+    connect(firstStartOkButton_, &QPushButton::clicked, this, &OptionsWindow::OnFirstStartOk);
+    connect(changeDirectoryOkButton_, &QPushButton::clicked, this, &OptionsWindow::OnChangeDirectoryOk);
+
+    if (mode == Mode::ChangeDirectory) {
+        firstStartOkButton_->hide();
+        changeDirectoryOkButton_->show();
+        folderList_->SetPath(FromSystemPath(game_.GameDirectory));
+        driveList_->SetDrive(folderList_->Path());
+        folderList_->SetPath(fileList_->Path());
+    }
+}
+
+bool OptionsWindow::BothDataFilesListed() const
+{
+    bool teamsSeen = false;
+    bool playersSeen = false;
+    for (int i = 0; i < fileList_->ListCount() && !(teamsSeen && playersSeen); ++i) {
+        const QString name = fileList_->List(i);
+        teamsSeen = teamsSeen || name == TeamsFileName;
+        playersSeen = playersSeen || name == PlayersFileName;
+    }
+    return teamsSeen && playersSeen;
+}
+
+void OptionsWindow::OnDriveChosen()
+{
+    // A drive with nothing readable in it leaves the directory list where it
+    // was; the drive list goes on naming the drive that failed.
+    if (!folderList_->OpenDrive(driveList_->Drive()))
+        MsgBox(QStringLiteral("Error reading Drive"), MbCritical, QStringLiteral("Error"));
+}
+
+void OptionsWindow::OnFolderOpened()
+{
+    fileList_->SetPath(folderList_->Path());
+    filesNote_->setText(BothDataFilesListed()
+                           ? QStringLiteral("Files teams.dat and players.dat found in this directory.")
+                           : QStringLiteral("Files teams.dat and players.dat NOT found in current directory."));
+}
+
+void OptionsWindow::OnFirstStartOk()
+{
+    if (BothDataFilesListed()) {
+        SetGameDirectory(game_, ToSystemPath(folderList_->Path()));
+        StoreSetting();
+    } else {
+        MsgBox(QStringLiteral("teams.dat and players.dat not found in current directory.KOLTA ed will exit."),
+               MbCritical, QStringLiteral("Error"));
+    }
+    accept();
+}
+
+void OptionsWindow::OnChangeDirectoryOk()
+{
+    if (!BothDataFilesListed()) {
+        MsgBox(QStringLiteral("teams.dat and players.dat not found in current directory."), MbCritical,
+               QStringLiteral("Error"));
+        return;
+    }
+    SetGameDirectory(game_, ToSystemPath(folderList_->Path()));
+    StoreSetting();
+    emit gameDirectoryChanged();
+    accept();
+}
+
+void OptionsWindow::StoreSetting()
+{
+    const QString settingFile = places_.PathToWrite();
+    const FileResult stored = WriteSettingFile(ToSystemPath(settingFile), game_.GameDirectory);
+    if (stored.ok())
+        return;
+    MsgBox(QStringLiteral("The game directory could not be kept in %1: %2.\n\n"
+                          "The editor uses this directory until it closes; the next start will not know of it.")
+               .arg(QDir::toNativeSeparators(settingFile), QString::fromLocal8Bit(stored.reason)),
+           MbExclamation, QStringLiteral("Options"));
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QDialog>
+
+#include "data/game.h"
+#include "options/setting_places.h"
+
+class DirList;
+class DriveList;
+class FileList;
+class QLabel;
+class QPushButton;
+
+// Where the user tells the editor which directory holds the game's
+// players.dat and teams.dat. On the first start the window opens at the
+// process's current directory; opened from the menu of a running editor it
+// opens at the game's directory, and a directory chosen there is loaded.
+class OptionsWindow : public QDialog {
+    Q_OBJECT
+public:
+    enum class Mode { FirstStart, ChangeDirectory };
+
+    OptionsWindow(Game& game, SettingPlaces places, Mode mode, QWidget* parent = nullptr);
+
+    // Whether the file list shows both "teams.dat" and "players.dat". The
+    // names must match in case: the game itself opens them so.
+    bool BothDataFilesListed() const;
+
+signals:
+    // The game now points at a new directory; the main window loads it
+    // before this window closes.
+    void gameDirectoryChanged();
+
+private:
+    void OnDriveChosen();
+    void OnFolderOpened();
+    // First start: keeps a good directory, or tells the user the editor ends.
+    void OnFirstStartOk();
+    // From the menu: only a good directory closes the window.
+    void OnChangeDirectoryOk();
+
+    // Keeps the game's directory in editor.dat for the next start; a failure
+    // is told to the user and changes nothing else.
+    void StoreSetting();
+
+    Game& game_;
+    SettingPlaces places_;
+
+    QLabel* filesNote_ = nullptr;
+    DriveList* driveList_ = nullptr;
+    DirList* folderList_ = nullptr;
+    FileList* fileList_ = nullptr;
+    QPushButton* firstStartOkButton_ = nullptr;
+    QPushButton* changeDirectoryOkButton_ = nullptr;
+};
+
+// Game paths are kept as the system's own bytes and separators.
+std::string ToSystemPath(const QString& path);
+QString FromSystemPath(const std::string& path);

@@ -1,0 +1,29 @@
+#include "data/squad.h"
+#include "forms/game_text.h"
+#include "forms/list_box.h"
+#include "forms/player_column.h"
+#include "forms/text_box.h"
+#include "forms/value_boxes.h"
+#include "searchwindow/search_window.h"
+
+std::optional<std::int16_t> SearchWindow::Candidate() const
+{
+    if (!pickedNumber_ || !IsPlayerNumber(*pickedNumber_))
+        return std::nullopt;
+    return static_cast<std::int16_t>(*pickedNumber_);
+}
+
+void SearchWindow::OnCandidateChosen()
+{
+    if (const int row = resultList_->ListIndex(); row >= 0)
+        pickedNumber_ = resultList_->ItemData(row);
+    const auto candidate = Candidate();
+    if (!candidate)
+        return;
+
+    // The panel shows the player as he stands now, not as the search copied him.
+    candidatePanel_->Show(game_.Players[std::size_t(*candidate)]);
+    const std::int16_t club = PresentClub(game_, *candidate);
+    ShowText(*presentClubBox_,
+             club == 0 ? QStringLiteral("None") : FromGame(game_.Teams[std::size_t(club)].teamName));
+}

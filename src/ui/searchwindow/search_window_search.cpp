@@ -1,0 +1,50 @@
+#include <cmath>
+
+#include "forms/combo_box.h"
+#include "forms/game_text.h"
+#include "forms/list_box.h"
+#include "forms/shape.h"
+#include "search/player_sort.h"
+#include "search/search_filters.h"
+#include "searchwindow/search_window.h"
+
+namespace {
+
+// The bar as laid out, in twips; the sort counts a full bar as 2500.
+constexpr double BarLaidOutTwips = 2505.0;
+
+}  // namespace
+
+void SearchWindow::OnSearch()
+{
+    // "All Clubs" carries no team; every other entry carries its team's number.
+    const int club = clubFilter_->ListIndex();
+    SearchFilters filters;
+    filters.team = club > 0 ? clubFilter_->ItemData(club) : 0;
+    filters.nationality = static_cast<std::int16_t>(nationalityFilter_->ListIndex());
+    filters.batPosition = static_cast<std::int16_t>(battingFilter_->ListIndex());
+    filters.bowlType = static_cast<std::int16_t>(bowlingFilter_->ListIndex());
+    filters.fieldsAt = static_cast<std::int16_t>(fieldingFilter_->ListIndex());
+
+    resultList_->Clear();
+    results_ = RunFilters(game_, filters);
+    SortWithBar();
+
+    for (const PlayerRecord& candidate : results_) {
+        resultList_->AddItem(FromGame(candidate.surname));
+        resultList_->SetItemData(resultList_->ListCount() - 1, candidate.playerNumber);
+    }
+}
+
+void SearchWindow::SortWithBar()
+{
+    sortBar_->show();
+    SortResults(results_, sortKeyList_->ListIndex(), [this](double widthTwips) { SetBarWidth(widthTwips); });
+    sortBar_->hide();
+}
+
+void SearchWindow::SetBarWidth(double widthTwips)
+{
+    const int pixels = static_cast<int>(std::lround(widthTwips / BarLaidOutTwips * barFullWidth_));
+    sortBar_->resize(pixels, sortBar_->height());
+}

@@ -1,0 +1,120 @@
+// A player's column: one box to each captioned field of the table, shown and
+// carried back by the field's kind, and a read-only column that keeps a code
+// with no entry on what it showed before.
+
+#include <QLabel>
+#include <QWidget>
+#include <algorithm>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "data/fields.h"
+#include "forms/combo_box.h"
+#include "forms/fitted_layout.h"
+#include "forms/player_column.h"
+#include "forms/text_box.h"
+#include "support/window_parts.h"
+
+namespace {
+
+QString Latin(std::string_view text)
+{
+    return QString::fromLatin1(text.data(), qsizetype(text.size()));
+}
+
+// Every part on a row of its own, so that nothing overlaps.
+PlayerColumnPlaces Stacked()
+{
+    PlayerColumnPlaces places;
+    int top = 0;
+    for (QRect& r : places.captions)
+        r = QRect(0, top += 300, 1200, 255);
+    for (QRect& r : places.boxes)
+        r = QRect(1300, top += 300, 1500, 255);
+    for (QRect& r : places.dateSlashes)
+        r = QRect(0, top += 300, 135, 255);
+    return places;
+}
+
+struct Window {
+    QWidget area;
+    PlayerColumn* column;
+    Window()
+    {
+        FittedLayout at(&area, {3000, 12000});
+        column = new PlayerColumn(at, Stacked(), &area);
+        at.Apply();
+    }
+};
+
+PlayerRecord Someone()
+{
+    return {.playerNumber = 7, .initials = "J K", .surname = "Brandt", .birthDay = 4, .birthMonth = 9,
+            .birthYear = 1981, .homeCountry = 29, .teamNumber = 3, .batPosition = 2, .bats = 1, .batSkill = 44,
+            .batAggression = -3, .bowlType = 5, .bowls = 0, .bowlSkill = 12, .bowlEconomy = 9,
+            .fieldAbility = 30, .fieldsAt = 4, .potential = 11, .carriedValue = 77};
+}
+
+TEST(PlayerColumn, HasABoxAndCaptionForEachCaptionedFieldAndCarriesThemBack)
+{
+    Window window;
+    std::vector<QString> captions;
+    for (const QLabel* label : window.column->findChildren<QLabel*>())
+        captions.push_back(label->text());
+    for (const PlayerField& field : PlayerFields) {
+        QWidget* box = window.column->findChild<QWidget*>(Latin(field.name));
+        EXPECT_EQ(box != nullptr, !field.label.empty()) << field.name;
+        if (!field.label.empty())
+            EXPECT_NE(std::find(captions.begin(), captions.end(), Latin(field.label)), captions.end()) << field.name;
+    }
+    EXPECT_EQ(std::count(captions.begin(), captions.end(), "/"), 2);
+
+    // What is shown comes back unchanged, the fields no box shows included.
+    const PlayerRecord shown = Someone();
+    window.column->Show(shown);
+    EXPECT_EQ(Find<ComboBox>(*window.column, "homeCountry").currentText(), "Namibia");
+    EXPECT_EQ(Find<ComboBox>(*window.column, "bats").currentText(), "Left Handed");
+    PlayerRecord back = shown;
+    EXPECT_FALSE(window.column->WriteBack(back));
+    EXPECT_EQ(back, shown);
+    EXPECT_EQ(window.column->ShownName(), "J K Brandt");
+
+    // Only a new name says so; a number that does not convert is left out.
+    Find<TextBox>(*window.column, "surname").SetText("Brand");
+    Find<TextBox>(*window.column, "bowlSkill").SetText("many");
+    Find<TextBox>(*window.column, "batSkill").SetText("45");
+    EXPECT_TRUE(window.column->WriteBack(back));
+    EXPECT_EQ(back.surname, "Brand");
+    EXPECT_EQ(back.bowlSkill, 12);
+    EXPECT_EQ(back.batSkill, 45);
+}
+
+// A code with no entry: the column the user edits shows nothing chosen and
+// keeps the stored code; the read-only panel stays on its last entry.
+TEST(PlayerColumn, ACodeWithNoEntryClearsAnEditableListAndLeavesAReadOnlyOne)
+{
+    for (const bool readOnly : {false, true}) {
+        SCOPED_TRACE(readOnly ? "read-only" : "editable");
+        Window window;
+        window.column->SetReadOnly(readOnly);
+        window.column->Show(Someone());
+        PlayerRecord odd = Someone();
+        odd.batPosition = 7;
+        odd.bowls = -1;
+        window.column->Show(odd);
+        auto& position = Find<ComboBox>(*window.column, "batPosition");
+        auto& bowls = Find<ComboBox>(*window.column, "bowls");
+        EXPECT_EQ(position.ListIndex(), readOnly ? 1 : -1);
+        EXPECT_EQ(bowls.ListIndex(), readOnly ? 0 : -1);
+        EXPECT_EQ(position.isEnabled(), !readOnly);
+        EXPECT_EQ(Find<TextBox>(*window.column, "surname").isEnabled(), !readOnly);
+        if (!readOnly) {
+            PlayerRecord back = odd;
+            window.column->WriteBack(back);
+            EXPECT_EQ(back, odd);
+        }
+    }
+}
+
+}  // namespace

@@ -1,0 +1,123 @@
+#include "newplayerwindow/new_player_window.h"
+
+#include <QClipboard>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include "forms/beep.h"
+#include "forms/combo_box.h"
+#include "forms/list_box.h"
+#include "forms/message_box.h"
+#include "forms/modal.h"
+#include "forms/text_box.h"
+#include "mainwindow/main_window.h"
+#include "support/game_builder.h"
+#include "support/window_parts.h"
+
+namespace {
+
+void Paste(TextBox* box, const QString& text)
+{
+    box->clear();
+    QApplication::clipboard()->setText(text);
+    box->paste();
+}
+
+// The key filter beeps at what a box cannot take. Pasting skips it, but not
+// the length limit; OK judges what was pasted like anything typed, and a
+// refusal keeps the window and its entries. Once the entries are good, OK
+// stores the player, silently, and closes.
+TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
+{
+    constexpr int Club = 1;
+    GameBuilder b;  // the main window on an Australian club of two players
+    b.Players(4);
+    b.Team(Club, "Harbour CC", {1, 2}).homeCountry = 1;
+    Game& game = *b.game;
+    MainWindow main{game, SettingPlaces{}};
+    main.ShowFirstEntries();
+    Find<QTimer>(main, "editTimer").stop();
+    auto& squad = Find<ListBox>(main, "squadList");
+    squad.SetText(squad.List(1));
+    ASSERT_EQ(main.CurrentPlayer(), 2);
+    ClearShownMessages();
+    SetMessageAnswerer([](const ShownMessage&) { return IdOk; });
+
+    bool closed = false;
+    SetModalDriver([&](QDialog& shown) {
+        auto& form = dynamic_cast<NewPlayerWindow&>(shown);
+        const auto box = [&](const char* name) { return &Find<TextBox>(form, name); };
+        EXPECT_EQ(form.parentWidget(), &main);
+        TextBox* skill = box("batSkill");
+        const int beeps = BeepCount();
+        QTest::keyClicks(skill, "a-.");
+        QTest::keyClick(skill, Qt::Key_Return);
+        EXPECT_EQ(skill->Text(), "");
+        EXPECT_EQ(BeepCount() - beeps, 4);
+        EXPECT_TRUE(form.isVisible()) << "Enter in a number box presses no button";
+        QTest::keyClicks(skill, "456");
+        EXPECT_EQ(skill->Text(), "45") << "two digits at most";
+        QTest::keyClick(skill, Qt::Key_Backspace);
+        EXPECT_EQ(skill->Text(), "4");
+        QTest::keyClicks(box("birthYear"), "198234");
+        EXPECT_EQ(box("birthYear")->Text(), "1982");
+        for (const char* name : {"birthDay", "birthMonth"})
+            EXPECT_EQ(box(name)->maxLength(), 2);
+        // The names take any key the files can store, but no comma, nor a
+        // quote to begin with.
+        QTest::keyClicks(box("surname"), "O'Neil-Smith 2nd,");
+        QTest::keyClicks(box("initials"), "\"a.b");
+        EXPECT_EQ(box("surname")->Text(), "O'Neil-Smith 2nd");
+        EXPECT_EQ(box("initials")->Text(), "a.b");
+        EXPECT_EQ(BeepCount() - beeps, 6);
+
+        Find<QPushButton>(form, "okButton").click();  // the date and most skills are still empty
+        const std::pair<const char*, const char*> typed[] = {
+            {"initials", "T"},     {"surname", "Newcombe"}, {"birthDay", "9"},           {"birthMonth", "11"},
+            {"birthYear", "1982"},      {"batSkill", "33"},      {"batAggression", "5"}, {"bowlSkill", "48"},
+            {"bowlEconomy", "16"}, {"fieldAbility", "22"},  {"potential", "14"},
+        };
+        for (const auto& [name, text] : typed) {
+            box(name)->clear();
+            QTest::keyClicks(box(name), text);
+        }
+        Paste(skill, "-5");
+        EXPECT_EQ(BeepCount() - beeps, 6);
+        Find<QPushButton>(form, "okButton").click();
+        EXPECT_TRUE(form.isVisible());
+        EXPECT_EQ(box("surname")->Text(), "Newcombe");
+        EXPECT_EQ(skill->Text(), "-5");
+        EXPECT_EQ(game.PlayerCount, 4);
+        EXPECT_EQ(game.Teams[Club].squad[3], 0);
+        Paste(box("birthYear"), "19821");
+        EXPECT_EQ(box("birthYear")->Text(), "1982");
+
+        Paste(skill, "33");
+        Find<ComboBox>(form, "homeCountry").setCurrentIndex(1);
+        Find<QPushButton>(form, "okButton").click();
+        closed = !form.isVisible();
+    });
+    Find<QPushButton>(main, "addNewPlayerButton").click();
+    SetModalDriver({});
+    SetMessageAnswerer({});
+    ASSERT_EQ(ShownMessages().size(), 2u) << "success is not announced";
+    for (const ShownMessage& message : ShownMessages()) {
+        EXPECT_EQ(message.text, "Data not in correct range.Please see help for correct range of data values.");
+        EXPECT_EQ(message.title, "Error");
+        EXPECT_EQ(message.flags, MbInformation);
+    }
+    EXPECT_TRUE(closed);
+    EXPECT_EQ(game.Players[5].surname, "Newcombe");
+    EXPECT_EQ(game.Players[5].homeCountry, 2);
+    EXPECT_EQ(Places(game.Teams[Club]), (std::vector<int>{1, 2, 5}));
+    ASSERT_EQ(squad.ListCount(), 3);
+    EXPECT_EQ(squad.ItemData(2), 5);
+    EXPECT_EQ(squad.ListIndex(), -1);
+    EXPECT_EQ(main.CurrentPlayer(), 2) << "the player shown before stays shown";
+}
+
+}  // namespace

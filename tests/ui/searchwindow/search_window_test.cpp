@@ -1,0 +1,267 @@
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+
+#include "forms/combo_box.h"
+#include "forms/list_box.h"
+#include "forms/message_box.h"
+#include "forms/modal.h"
+#include "forms/shape.h"
+#include "forms/text_box.h"
+#include "support/game_builder.h"
+#include "mainwindow/main_window.h"
+#include "searchwindow/search_window.h"
+#include "support/window_parts.h"
+
+using ::testing::ElementsAre;
+
+namespace {
+
+// Teams of the small game the window tests play on. Harbour and Bayside are
+// Australian, so the main window opens on Harbour with its first player chosen.
+enum { Harbour = 1, Bayside, Kiwis, Newlands };
+
+void Click(QPushButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
+
+// Clicks a row of a list as a person would.
+void ClickRow(ListBox& list, int row)
+{
+    ASSERT_GE(row, 0);
+    ASSERT_LT(row, list.ListCount());
+    list.scrollToItem(list.item(row));
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(row)).center());
+}
+
+std::vector<QString> Rows(const ListBox& list)
+{
+    std::vector<QString> rows;
+    for (int row = 0; row < list.ListCount(); ++row)
+        rows.push_back(list.List(row));
+    return rows;
+}
+
+// Searches with the filters as they stand and picks the candidate with that surname.
+void SearchAndPick(SearchWindow& form, const QString& surname)
+{
+    Click(&Find<QPushButton>(form, "searchButton"));  // Search
+    const auto rows = Rows(Find<ListBox>(form, "resultList"));
+    const auto at = std::find(rows.begin(), rows.end(), surname);
+    ASSERT_NE(at, rows.end()) << surname.toStdString();
+    ClickRow(Find<ListBox>(form, "resultList"), int(at - rows.begin()));
+}
+
+class SearchWindowTest : public ::testing::Test {
+protected:
+    SearchWindowTest()
+    {
+        // Players 1 to 40, named P0001 and so on, with initials A.
+        b.Players(40);
+        b.Player(1, "Venn", "K");
+        b.Player(5, "Quill", "S T");
+        b.Team(Harbour, "Harbour CC", {1, 2, 3}).homeCountry = 1;
+        b.Team(Bayside, "Bayside", {4, 5}).homeCountry = 1;
+        b.Team(Kiwis, "Kiwis XI", {6, 7}).homeCountry = 4;
+        b.Team(Newlands, "Newlands", {8}).homeCountry = 4;
+
+        main = std::make_unique<MainWindow>(game, SettingPlaces{});
+        main->ShowFirstEntries();
+        Find<QTimer>(*main, "editTimer").stop();
+        ClearShownMessages();
+        SetMessageAnswerer([this](const ShownMessage&) { return answer; });
+    }
+    ~SearchWindowTest() override
+    {
+        SetMessageAnswerer({});
+        SetModalDriver({});
+    }
+
+    // Presses `button` of the main window and gives the name of the window it
+    // opened, "" if none; `work` drives the search window if that opens.
+    QString Press(QPushButton* button, std::function<void(SearchWindow&)> work = {})
+    {
+        QString opened;
+        SetModalDriver([&](QDialog& form) {
+            opened = form.objectName();
+            if (auto* search = dynamic_cast<SearchWindow*>(&form); search && work)
+                work(*search);
+        });
+        Click(button);
+        SetModalDriver({});
+        return opened;
+    }
+
+    // The texts, or the titles, of the messages shown so far, in order.
+    static std::vector<QString> Shown(QString ShownMessage::*part)
+    {
+        std::vector<QString> parts;
+        for (const ShownMessage& m : ShownMessages())
+            parts.push_back(m.*part);
+        return parts;
+    }
+    static std::vector<QString> Texts() { return Shown(&ShownMessage::text); }
+    static std::vector<QString> Titles() { return Shown(&ShownMessage::title); }
+
+    GameBuilder b;
+    Game& game = *b.game;
+    std::unique_ptr<MainWindow> main;
+
+    ListBox& Squad() const { return Find<ListBox>(*main, "squadList"); }
+    int answer = IdOk;
+};
+
+// Add mode from the first press to a full squad. The last candidate picked
+// still counts after a new search, which leaves no row chosen.
+TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
+{
+    game.Players[7].batSkill = 30;
+    game.Players[6].batSkill = 10;
+    game.Teams[Newlands].squad[2] = 7;  // in two squads: the higher team is his club
+    const auto teams = game.Teams;
+    Press(&Find<QPushButton>(*main, "addExistingPlayerButton"), [&](SearchWindow& form) {
+        EXPECT_EQ(form.windowTitle(), "Add Player..");
+        Click(&Find<QPushButton>(form, "addButton"));  // no candidate yet
+        SearchAndPick(form, "P0002");  // already in the squad
+        Click(&Find<QPushButton>(form, "addButton"));
+        EXPECT_EQ(game.Teams, teams);
+
+        SearchAndPick(form, "P0030");
+        // Filters and order take effect when Search is pressed.
+        Find<ComboBox>(form, "clubFilter").SetText("Kiwis XI");
+        Find<ComboBox>(form, "sortKeyList").SetText("Bat Skill");
+        EXPECT_EQ(Find<ListBox>(form, "resultList").ListCount(), 40);
+        Click(&Find<QPushButton>(form, "searchButton"));  // Search
+        EXPECT_THAT(Rows(Find<ListBox>(form, "resultList")), ElementsAre("P0007", "P0006"));
+        EXPECT_FALSE(Find<Shape>(form, "sortBar").isVisible()) << "the bar is hidden after the sort";
+        Click(&Find<QPushButton>(form, "addButton"));
+        Click(&Find<QPushButton>(form, "addButton"));  // him again
+
+        // From other squads: he leaves them, and the message names his club.
+        ClickRow(Find<ListBox>(form, "resultList"), 0);
+        EXPECT_EQ(form.Candidate(), 7);
+        EXPECT_EQ(Find<TextBox>(form, "presentClub").Text(), "Newlands");
+        Click(&Find<QPushButton>(form, "addButton"));
+        EXPECT_EQ(ShownMessages().back().flags, MbInformation);
+        EXPECT_THAT(Rows(Squad()), ElementsAre("K Venn", "A P0002", "A P0003", "A P0030", "A P0007"));
+        EXPECT_EQ(Squad().ListIndex(), -1);
+        EXPECT_THAT(Places(game.Teams[Newlands]), ElementsAre(8));
+        // The panel is not refreshed: the old club stays until the next pick.
+        EXPECT_EQ(Find<TextBox>(form, "presentClub").Text(), "Newlands");
+        EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "Player already in team",
+                                         "A P0030 has been added to the Harbour CC squad.", "Player already in team",
+                                         "A P0007 has been added to the Harbour CC squad and removed from "
+                                         "Newlands squad."));
+        EXPECT_THAT(Titles(), ElementsAre("Add Player", "Error", "Add Player", "Error", "Add Player"));
+
+        // Players without a team, up to the twentieth; then the limit comes
+        // first, also for a candidate who is in the squad.
+        Find<ComboBox>(form, "clubFilter").SetText(Find<ComboBox>(form, "clubFilter").List(0));
+        for (int number = 9; number <= 23; ++number) {
+            SearchAndPick(form, QStringLiteral("P00%1").arg(number, 2, 10, QLatin1Char('0')));
+            Click(&Find<QPushButton>(form, "addButton"));
+        }
+        EXPECT_EQ(Texts().back(), "A P0023 has been added to the Harbour CC squad.");
+        EXPECT_EQ(Squad().ListCount(), 20);
+        ClearShownMessages();
+        SearchAndPick(form, "P0025");
+        Click(&Find<QPushButton>(form, "addButton"));
+        SearchAndPick(form, "P0002");
+        Click(&Find<QPushButton>(form, "addButton"));
+    });
+    EXPECT_EQ(game.Teams[Harbour].squad[20], 23);
+    // A full squad refuses both adds before any window opens.
+    EXPECT_EQ(Press(&Find<QPushButton>(*main, "addExistingPlayerButton")), "");
+    EXPECT_EQ(Press(&Find<QPushButton>(*main, "addNewPlayerButton")), "");
+    EXPECT_THAT(Titles(), ElementsAre("Maximum Players", "Maximum Players", "Maximum Players", "Maximum Players"));
+    EXPECT_EQ(Texts().back(), "You already have the maximum of 20 players in the squad.");
+}
+
+// Replace mode twice: the last row, then the first; refusals keep the window
+// open and change nothing, and the second opening shows nothing of the first.
+TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
+{
+    ClickRow(Squad(), 2);
+    const auto teams = game.Teams;
+    bool closed = false;
+    ASSERT_EQ(Press(&Find<QPushButton>(*main, "replacePlayerButton"), [&](SearchWindow& form) {
+                  EXPECT_EQ(form.windowTitle(), "Replace player..");
+                  EXPECT_FALSE(Find<QPushButton>(form, "addButton").isVisible()) << "no Add in this mode";
+                  Click(&Find<QPushButton>(form, "replaceButton"));         // no candidate
+                  SearchAndPick(form, "Venn");  // himself or a team mate
+                  Click(&Find<QPushButton>(form, "replaceButton"));
+                  EXPECT_EQ(game.Teams, teams);
+                  SearchAndPick(form, "Quill");
+                  Find<ComboBox>(form, "nationalityFilter").SetText("India");
+                  Find<ComboBox>(form, "sortKeyList").SetText("Bat Skill");
+                  Click(&Find<QPushButton>(form, "replaceButton"));
+                  closed = !form.isVisible();
+              }),
+              "searchWindow");
+    EXPECT_TRUE(closed);
+    EXPECT_THAT(Rows(Squad()), ElementsAre("K Venn", "A P0002", "S T Quill"));
+    EXPECT_EQ(Squad().ListIndex(), -1);
+    EXPECT_EQ(Press(&Find<QPushButton>(*main, "replacePlayerButton")), "");  // no row chosen
+
+    ClickRow(Squad(), 0);
+    Press(&Find<QPushButton>(*main, "replacePlayerButton"), [&](SearchWindow& form) {
+        ASSERT_EQ(Find<ComboBox>(form, "clubFilter").ListCount(), 5);  // no double rows from the earlier opening
+        EXPECT_EQ(Find<ComboBox>(form, "nationalityFilter").ListIndex(), 0);
+        EXPECT_EQ(Find<ComboBox>(form, "sortKeyList").ListIndex(), 0);
+        EXPECT_EQ(Find<ListBox>(form, "resultList").ListCount(), 0);
+        EXPECT_EQ(form.Candidate(), std::nullopt);
+        // A name edit carried over under the window rebuilds the squad list
+        // and leaves no row chosen.
+        SearchAndPick(form, "P0003");
+        main->RefreshSquad();
+        Click(&Find<QPushButton>(form, "replaceButton"));
+        ClickRow(Squad(), 0);
+        Click(&Find<QPushButton>(form, "replaceButton"));
+    });
+    EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "Player already in team",
+                                     "S T Quill from Bayside has replaced A P0003 in the Harbour CC squad.",
+                                     "No Player Selected", "No Player Selected",
+                                     "A P0003 has replaced K Venn in the Harbour CC squad."));
+    EXPECT_THAT(Titles(), ElementsAre("Replace Player", "Error", "Replace Player", "Replace Player", "Replace Player",
+                                      "Replace Player"));
+    EXPECT_THAT(Rows(Squad()), ElementsAre("A P0003", "A P0002", "S T Quill"));
+}
+
+TEST_F(SearchWindowTest, DeleteAsksFirstAndShowsThePlayerWhoFollowed)
+{
+    answer = IdNo;
+    Click(&Find<QPushButton>(*main, "deletePlayerButton"));
+    EXPECT_THAT(Texts(), ElementsAre("Are you sure you want to delete K Venn from Harbour CC Squad ?"));
+    EXPECT_THAT(Titles(), ElementsAre("Delete Player"));
+    EXPECT_EQ(ShownMessages()[0].flags, MbCritical | MbYesNo);
+    EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(1, 2, 3));
+    EXPECT_EQ(Squad().ListIndex(), 0);
+
+    answer = IdYes;
+    Click(&Find<QPushButton>(*main, "deletePlayerButton"));
+    EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(2, 3));
+    EXPECT_EQ(game.Players[1].teamNumber, 0);
+    EXPECT_EQ(Squad().ListIndex(), 0);
+    EXPECT_EQ(main->CurrentPlayer(), 2);
+
+    // The last of the squad: nothing is chosen afterwards, so there is
+    // nothing more to delete.
+    ClickRow(Squad(), 1);
+    Click(&Find<QPushButton>(*main, "deletePlayerButton"));
+    EXPECT_EQ(Squad().ListIndex(), -1);
+    ClearShownMessages();
+    Click(&Find<QPushButton>(*main, "deletePlayerButton"));
+    EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(2));
+    // A full game refuses a new player before his window opens.
+    game.PlayerCount = MaxPlayers;
+    EXPECT_EQ(Press(&Find<QPushButton>(*main, "addNewPlayerButton")), "");
+    EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "The game already holds its maximum of 2000 players."));
+    EXPECT_THAT(Titles(), ElementsAre("Delete Player", "Maximum Players"));
+}
+
+}  // namespace
