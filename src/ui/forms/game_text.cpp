@@ -37,3 +37,13 @@ std::optional<QString> NameRefusalOf(const QString& text)
         return QString::fromStdString(*refusal);
     return std::nullopt;
 }
+
+std::function<bool(const QString&)> NameRule(std::function<void(const QString& why)> tell)
+{
+    return [tell = std::move(tell)](const QString& text) {
+        const auto refusal = NameRefusalOf(text);
+        if (refusal)
+            tell(*refusal);
+        return !refusal;
+    };
+}

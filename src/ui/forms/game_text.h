@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,3 +17,5 @@ std::string ToGame(const QString& text);
 bool IsStorableName(const QString& text);
 // Why a name box refuses `text`, as the status bar says it; nothing when it may hold it.
 std::optional<QString> NameRefusalOf(const QString& text);
+// The text rule of a name box: `tell` hears why a text is refused.
+std::function<bool(const QString&)> NameRule(std::function<void(const QString& why)> tell);

@@ -4,6 +4,8 @@
 #include <QUndoCommand>
 #include <algorithm>
 #include <span>
+#include <string>
+#include <vector>
 
 #include "data/fields.h"
 #include "data/squad.h"
@@ -13,13 +15,38 @@ namespace {
 
 constexpr int TypingId = 1;
 
+template <class Record, class Copy>
+void AddChangedFields(std::span<const Field<Record>> fields, const std::vector<Copy>& copies, const char* kind,
+                      std::vector<std::string>& names)
+{
+    for (const Copy& copy : copies) {
+        for (const Field<Record>& field : fields) {
+            const bool changed = field.text ? copy.before.*field.text != copy.after.*field.text
+                                            : copy.before.*field.number != copy.after.*field.number;
+            if (changed)
+                names.push_back(kind + std::to_string(copy.number) + ' ' + std::string(field.name));
+        }
+    }
+}
+
+// The fields a step changed, by record and name, sorted.
+std::vector<std::string> ChangedFields(const RecordChange& change)
+{
+    std::vector<std::string> names;
+    AddChangedFields<PlayerRecord>(PlayerFields, change.players, "player ", names);
+    AddChangedFields<TeamRecord>(TeamFields, change.teams, "team ", names);
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
 // One step of the history. It is pushed after its change has been made, so
 // the first redo, which the stack runs on the push, leaves the records alone.
 class RecordStepCommand : public QUndoCommand {
 public:
     RecordStepCommand(GameHistory& history, RecordChange change, StepPlace place, const QString& text,
                       int typingSession = -1)
-        : history_(history), change_(std::move(change)), place_(place), typingSession_(typingSession)
+        : history_(history), change_(std::move(change)), place_(place), typingSession_(typingSession),
+          fields_(ChangedFields(change_))
     {
         setText(text);
     }
@@ -28,9 +55,12 @@ public:
 
     bool mergeWith(const QUndoCommand* other) override
     {
+        // One box is typed in while the focus stays in it: a tick that
+        // changed another field belongs to another box.
         const auto* later = static_cast<const RecordStepCommand*>(other);
         if (later->typingSession_ != typingSession_ || later->place_.player != place_.player ||
-            later->place_.team != place_.team)
+            later->place_.team != place_.team ||
+            !std::includes(fields_.begin(), fields_.end(), later->fields_.begin(), later->fields_.end()))
             return false;
         change_.Absorb(later->change_);
         // Typed back to what it was: the step goes from the stack.
@@ -53,6 +83,7 @@ private:
     RecordChange change_;
     StepPlace place_;
     int typingSession_;
+    std::vector<std::string> fields_;   // "player 4 batSkill", in order
     bool pushed_ = false;
 };
 

@@ -4,15 +4,14 @@
 #include "data/players_file.h"
 #include "data/teams_file.h"
 #include "forms/modal.h"
+#include "history/game_history.h"
 #include "mainwindow/main_window.h"
 #include "options/options_window.h"
 
 void MainWindow::LoadNewDirectory()
 {
-    // Edits not saved are dropped without a question, as the old files stay
-    // as last saved.
-    setWindowTitle(QStringLiteral("KOLTA Editor (%1)")
-                       .arg(QFile::decodeName(QByteArray::fromStdString(game_.GameDirectory))));
+    // The user has been asked about unsaved edits before the folder changed.
+    SetTitle(QStringLiteral("KOLTA Editor"));
     // Empty tables first: no team or player of the old game may turn up in
     // the lists, a search or the next save.
     ClearTables(game_);
@@ -24,12 +23,16 @@ void MainWindow::LoadNewDirectory()
     teamNumberLabel_->clear();
     ReadPlayersFile(game_);
     ReadTeamsFile(game_);
+    // The steps of the old game are no steps of this one.
+    history_->Restart();
     ShowFirstEntries();
 }
 
 void MainWindow::OnOptions()
 {
+    CarryPendingEdits();
     OptionsWindow options(game_, places_, OptionsWindow::Mode::ChangeDirectory, this);
+    options.SetLeaveGameCheck([this] { return MayLeaveGame(); });
     connect(&options, &OptionsWindow::gameDirectoryChanged, this, &MainWindow::LoadNewDirectory);
     ShowModal(options, this);
 }

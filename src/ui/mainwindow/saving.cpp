@@ -1,23 +1,45 @@
-#include <QFile>
+#include <QCloseEvent>
+#include <QTimer>
 
 #include "data/save.h"
-#include "forms/game_text.h"
 #include "forms/message_box.h"
+#include "history/game_history.h"
 #include "mainwindow/main_window.h"
+#include "mainwindow/save_failure.h"
 
 bool MainWindow::SaveAll()
 {
+    CarryPendingEdits();
+    const FilesBeforeSave before(game_);
     const FileResult result = SaveGame(game_);
     if (!result.ok()) {
-        MsgBox(QStringLiteral("Could not save %1:\n%2\n\nNothing more was written. "
-                              "Your changes are still in the editor.")
-                   .arg(QFile::decodeName(QByteArray::fromStdString(result.path)),
-                        QString::fromStdString(result.reason)),
-               MbCritical, QStringLiteral("Saving.."));
+        MsgBox(before.FailureText(result), MbCritical, QStringLiteral("Saving.."));
         return false;
     }
+    history_->MarkSaved();
     MsgBox(QStringLiteral("Updated Player and Team data successfully"), MbInformation, QStringLiteral("Info"));
     return true;
+}
+
+bool MainWindow::HasUnsavedChanges() const
+{
+    return history_->HasUnsavedChanges();
+}
+
+int MainWindow::AskToSave()
+{
+    return MsgBox(QStringLiteral("Do you want to update the files teams.dat and players.dat?"),
+                  MbYesNoCancel | MbExclamation, QStringLiteral("Saving.."));
+}
+
+bool MainWindow::MayLeaveGame()
+{
+    CarryPendingEdits();
+    if (!HasUnsavedChanges())
+        return true;
+    const int answer = AskToSave();
+    // A save that fails keeps the game open, so the edits are not lost.
+    return answer == IdNo || (answer == IdYes && SaveAll());
 }
 
 void MainWindow::OnSave()
@@ -27,12 +49,23 @@ void MainWindow::OnSave()
 
 void MainWindow::OnExit()
 {
-    const int answer = MsgBox(QStringLiteral("Do you want to update the files teams.dat and players.dat?"),
-                              MbYesNoCancel | MbExclamation, QStringLiteral("Saving.."));
+    CarryPendingEdits();
+    const int answer = AskToSave();
     if (answer == IdCancel)
         return;
-    // A save that fails keeps the editor open, so the edits are not lost.
     if (answer == IdYes && !SaveAll())
         return;
+    leaveAnswered_ = true;
     close();
+    leaveAnswered_ = false;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!leaveAnswered_ && !MayLeaveGame()) {
+        event->ignore();
+        return;
+    }
+    editTimer_->stop();
+    QMainWindow::closeEvent(event);
 }

@@ -119,8 +119,8 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
     EXPECT_EQ(Places(game.Teams[Club]), (std::vector<int>{1, 2, 5}));
     ASSERT_EQ(squad.ListCount(), 3);
     EXPECT_EQ(squad.ItemData(2), 5);
-    EXPECT_EQ(squad.ListIndex(), -1);
-    EXPECT_EQ(main.CurrentPlayer(), 2) << "the player shown before stays shown";
+    EXPECT_EQ(squad.ListIndex(), 1);
+    EXPECT_EQ(main.CurrentPlayer(), 2) << "the player shown before stays shown and chosen";
 }
 
 }  // namespace
