@@ -192,6 +192,7 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
     const auto& squad = Find<ListBox>(window, "squadList");
     EXPECT_EQ(squad.List(squad.ListIndex()), "A Green");
     EXPECT_TRUE(Find<QTimer>(window, "editTimer").isActive());
+    EXPECT_FALSE(Find<QAction>(window, "undoAction").isEnabled()) << "the old game's steps are gone";
     // Slot 2 is where the reader's pass over the closing empty lines went:
     // blank but for its number.
     TeamRecord endOfFile;
