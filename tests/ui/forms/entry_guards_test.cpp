@@ -50,32 +50,6 @@ TEST(WheelGuard, TheWheelChangesAComboOnlyWhileItHasTheFocus)
     EXPECT_EQ(guarded->ListIndex(), 1);
 }
 
-TEST(BoxMarks, EachMarkTintsTheBoxAndPlainTakesTheTintAndTooltipAway)
-{
-    TextBox box;
-    const QColor plain = box.palette().color(QPalette::Base);
-    const struct {
-        BoxMark mark;
-        QString why;
-        bool tinted;
-    } steps[] = {
-        {BoxMark::Refused, "not taken", true},
-        {BoxMark::Unusual, "out of range", true},
-        {BoxMark::Plain, "", false},
-    };
-    QColor refusedTint;
-    for (const auto& step : steps) {
-        MarkBox(box, step.mark, step.why);
-        EXPECT_EQ(MarkOf(box), step.mark);
-        EXPECT_EQ(box.toolTip(), step.why);
-        EXPECT_EQ(box.palette().color(QPalette::Base) != plain, step.tinted);
-        if (step.mark == BoxMark::Refused)
-            refusedTint = box.palette().color(QPalette::Base);
-        else
-            EXPECT_NE(box.palette().color(QPalette::Base), refusedTint);
-    }
-}
-
 TEST(BoxMarks, ANumberBoxIsMarkedByWhatItsFieldMadeOfItsText)
 {
     const auto& wealth = *FieldOf<TeamRecord>(TeamFields, &TeamRecord::wealth);

@@ -1,13 +1,12 @@
-// The history of steps as the main window feeds it: ticks join one step per
-// box, squad commands are a step each, and undo and redo put records back,
-// say where to look and keep the unsaved-changes state.
+// The history of steps as the main window's ticks feed it: one step per box,
+// and undo and redo put records back, say where to look and keep the
+// unsaved-changes state. Squad commands are undone in the main window's tests.
 #include "history/game_history.h"
 
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
-#include "data/squad.h"
 #include "support/game_builder.h"
 
 namespace {
@@ -82,44 +81,6 @@ TEST_F(History, TypingIsOneStepPerBoxAndTypingBackLeavesNone)
     EXPECT_EQ(Steps(), 2);
     Undo();
     EXPECT_EQ(player.batSkill, 45);
-}
-
-TEST_F(History, SquadStepsAreNamedUndoneRedoneAndShowWhereTheyHappened)
-{
-    const auto transfer = [&](const RecordChange& change) { return TransferStepText(game, change, 1); };
-    const auto fixed = [](QString text) { return [text](const RecordChange&) { return text; }; };
-    const struct {
-        QString text;
-        std::function<void()> step;
-        GameHistory::StepNamer name;
-        StepPlace place;
-    } steps[] = {
-        {"add of T Vanterpool to Perth Pelicans", [&] { AddToSquad(game, 1, 3); }, transfer, {1, 3}},
-        {"delete of Ormsby", [&] { DeleteFromSquad(game, 1, 2); }, fixed(DeleteStepText(game.Players[2])), {1, 2}},
-        {"replace of A Neskerly by Ormsby", [&] { ReplaceInSquad(game, 1, 0, 2); }, transfer, {1, 2}},
-        {"new player A Neskerly", [&] { game.PlayerCount = 4; }, fixed(NewPlayerStepText(game.Players[1])), {2, 4}},
-        {"", [] {}, fixed("nothing at all"), {}},
-    };
-    std::vector<std::vector<int>> squads{Places(game.Teams[1])};
-    for (const auto& s : steps) {
-        s.step();
-        history.RecordStep(s.name, s.place);
-        squads.push_back(Places(game.Teams[1]));
-    }
-    EXPECT_EQ(Steps(), 4);   // a command that changed nothing is no step
-
-    for (int i = 3; i >= 0; --i) {
-        EXPECT_EQ(UndoText(), steps[i].text);
-        Undo();
-        EXPECT_EQ(Places(game.Teams[1]), squads[std::size_t(i)]) << i;
-        EXPECT_EQ(shown.back(), std::make_pair(steps[i].place.team, steps[i].place.player));
-    }
-    EXPECT_EQ(game.Players[3].teamNumber, 2);
-    EXPECT_EQ(Places(game.Teams[2]), std::vector<int>{3});
-    while (history.Stack().canRedo())
-        Redo();
-    EXPECT_EQ(game.PlayerCount, 4);
-    EXPECT_EQ(Places(game.Teams[1]), squads[4]);
 }
 
 TEST_F(History, UnsavedChangesFollowTheSavedStateThroughUndoAndRedo)
