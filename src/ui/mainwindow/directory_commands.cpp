@@ -4,7 +4,6 @@
 #include "data/players_file.h"
 #include "data/teams_file.h"
 #include "forms/modal.h"
-#include "history/game_history.h"
 #include "mainwindow/main_window.h"
 #include "options/options_window.h"
 
@@ -23,8 +22,6 @@ void MainWindow::LoadNewDirectory()
     teamNumberLabel_->clear();
     ReadPlayersFile(game_);
     ReadTeamsFile(game_);
-    // The steps of the old game are no steps of this one.
-    history_->Restart();
     ShowFirstEntries();
 }
 

@@ -35,7 +35,8 @@ public:
     // team and player. False when no game directory is known and the program
     // must end without showing the window.
     bool Start();
-    // Selects the first country, team and player in turn, then starts the tick.
+    // After a load: forgets the steps of undo, selects the first country,
+    // team and player in turn, then starts the tick.
     void ShowFirstEntries();
 
     // The edit write-back, ten times a second: every value of the shown player

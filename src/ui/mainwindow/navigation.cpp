@@ -3,6 +3,7 @@
 #include "forms/combo_box.h"
 #include "forms/game_text.h"
 #include "forms/list_box.h"
+#include "history/game_history.h"
 #include "mainwindow/main_window.h"
 
 namespace {
@@ -98,6 +99,9 @@ int MainWindow::RowOfPlayer(int player) const
 
 void MainWindow::ShowFirstEntries()
 {
+    // A game just read: what it holds is what the files hold, and the steps
+    // of any game before it are gone.
+    history_->Restart();
     SelectFirst(*countryList_);
     SelectFirst(*teamList_);
     SelectFirst(*squadList_);

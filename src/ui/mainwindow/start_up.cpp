@@ -4,7 +4,6 @@
 #include "data/setting_file.h"
 #include "data/teams_file.h"
 #include "forms/message_box.h"
-#include "history/game_history.h"
 #include "mainwindow/game_folder_trouble.h"
 #include "mainwindow/main_window.h"
 
@@ -22,7 +21,6 @@ bool MainWindow::Start()
     // could be read, says what is wrong and offers to choose another folder.
     ReadPlayersFile(game_);
     ReadTeamsFile(game_);
-    history_->Restart();
     ShowFirstEntries();
     OfferOtherFolder();
     return true;
