@@ -40,6 +40,10 @@ std::optional<int> NumberIn(const std::string& field)
 template <class Record>
 void FindUncarriableLines(std::string_view bytes, const RecordLayout<Record>& layout, std::vector<Problem>& problems)
 {
+    // A file of nothing but such lines would list a million of them; past the
+    // first hundred they are only counted.
+    constexpr int Listed = 100;
+    int found = 0;
     int index = 0;
     for (std::size_t start = 0; start < bytes.size(); ++index) {
         std::size_t end = bytes.find_first_of("\r\n", start);
@@ -53,11 +57,14 @@ void FindUncarriableLines(std::string_view bytes, const RecordLayout<Record>& la
             reason = "holds a comma, which ends the value early";
         else if (firstChar != std::string_view::npos && line[firstChar] == '"')
             reason = "begins with a double quote, which makes the value run on to the next one";
-        if (reason)
+        if (reason && ++found <= Listed)
             AddError(problems, layout.file, index / layout.lines + 1, NameOfLine(layout, index % layout.lines + 1),
                      "line " + std::to_string(index + 1) + " \"" + Utf8FromCp1252(line) + "\" " + reason +
                          ": the format cannot carry it, and the values after it are read out of place");
     }
+    if (found > Listed)
+        AddError(problems, layout.file, index / layout.lines + 1, "lines",
+                 std::to_string(found - Listed) + " more lines like these, not listed");
 }
 
 // A number line that is no 16-bit number leaves its field as it was, and a

@@ -76,9 +76,11 @@ std::optional<std::int16_t> WholeNumber(std::string_view text)
 {
     std::string trimmed = TrimBlanks(text);
     std::string_view digits = trimmed;
-    if (digits.starts_with('+'))
+    // One sign at most: from_chars reads a minus itself but no plus.
+    const bool plus = digits.starts_with('+');
+    if (plus)
         digits.remove_prefix(1);
-    if (digits.empty() || digits.starts_with('+'))
+    if (digits.empty() || digits.starts_with('+') || (plus && digits.starts_with('-')))
         return std::nullopt;
     std::int16_t value = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);

@@ -1,5 +1,7 @@
 #include "data/file_io.h"
 
+#include "data/file_steps.h"
+
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -29,31 +31,6 @@ constexpr fs::perms AnyWrite = fs::perms::owner_write | fs::perms::group_write |
 bool LacksWriteBits(const fs::file_status& status)
 {
     return (status.permissions() & AnyWrite) == fs::perms::none;
-}
-
-// Writes and flushes the temporary file; the reason of the first failure.
-std::string WriteTemporary(const fs::path& temporary, std::string_view bytes)
-{
-    std::FILE* file = std::fopen(temporary.string().c_str(), "wb");
-    if (!file)
-        return std::strerror(errno);
-    std::string reason;
-    if (std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size() || std::fflush(file) != 0)
-        reason = std::strerror(errno);
-#if !defined(_WIN32)
-    if (reason.empty() && ::fsync(fileno(file)) != 0)
-        reason = std::strerror(errno);
-#endif
-    if (std::fclose(file) != 0 && reason.empty())
-        reason = std::strerror(errno);
-    return reason;
-}
-
-fs::path WrittenCopy(const std::string& path)
-{
-    fs::path copy(path);
-    copy += ".saving";
-    return copy;
 }
 
 std::string TooLarge()
@@ -162,57 +139,22 @@ FileResult CheckWritable(const std::string& path)
     return FileResult::Success(path);
 }
 
-FileResult WriteBeside(const std::string& path, std::string_view bytes)
+FileResult ReplaceFile(const std::string& path, std::string_view bytes)
 {
     if (FileResult writable = CheckWritable(path); !writable.ok())
         return writable;
-    if (std::string reason = WriteTemporary(WrittenCopy(path), bytes); !reason.empty()) {
-        DropWritten(path);
+    // A link stays a link: the file it points to is the one replaced.
+    const std::string target = FollowLinks(path);
+    const std::string writing = TemporaryName(target, "saving");
+    std::string reason = WriteNewFile(writing, bytes);
+    std::error_code error;
+    if (reason.empty() && fs::exists(target, error))
+        fs::permissions(writing, fs::status(target, error).permissions(), error);
+    if (reason.empty())
+        reason = MoveReplacing(writing, target);
+    if (!reason.empty()) {
+        RemoveFile(writing);
         return Failure(path, reason);
     }
     return FileResult::Success(path);
-}
-
-FileResult MoveOver(const std::string& path)
-{
-    const fs::path target(path);
-    const fs::path copy = WrittenCopy(path);
-    std::error_code error;
-    if (fs::exists(target, error))
-        fs::permissions(copy, fs::status(target, error).permissions(), error);
-    fs::rename(copy, target, error);
-    if (error) {
-        DropWritten(path);
-        return Failure(path, error.message());
-    }
-    return FileResult::Success(path);
-}
-
-void DropWritten(const std::string& path)
-{
-    std::error_code ignored;
-    fs::remove(WrittenCopy(path), ignored);
-}
-
-FileResult ReplaceFile(const std::string& path, std::string_view bytes)
-{
-    if (FileResult written = WriteBeside(path, bytes); !written.ok())
-        return written;
-    return MoveOver(path);
-}
-
-FileResult KeepBackup(const std::string& path)
-{
-    std::error_code error;
-    if (!fs::exists(path, error))
-        return FileResult::Success(path);
-    // Copied beside and moved over like any save, so that a copy cut short
-    // never replaces a good one from an earlier session.
-    const std::string backup = path + ".bak";
-    fs::copy_file(path, WrittenCopy(backup), fs::copy_options::overwrite_existing, error);
-    if (error) {
-        DropWritten(backup);
-        return Failure(backup, error.message());
-    }
-    return MoveOver(backup);
 }

@@ -39,15 +39,5 @@ FileResult CheckWritable(const std::string& path);
 
 // Writes `bytes` beside `path` and moves them over it in one step, so the old
 // file is either replaced whole or left as it was. What CheckWritable refuses
-// is refused here too.
+// is refused here too. A link is followed: the file it points to is replaced.
 FileResult ReplaceFile(const std::string& path, std::string_view bytes);
-
-// ReplaceFile in two halves, for files that must change together: write each
-// beside its target, and only when all are written move each over. Until its
-// move the old file is untouched, and DropWritten takes the copy back.
-FileResult WriteBeside(const std::string& path, std::string_view bytes);
-FileResult MoveOver(const std::string& path);
-void DropWritten(const std::string& path);
-
-// Copies `path` to `path` + ".bak"; a missing file needs no copy.
-FileResult KeepBackup(const std::string& path);

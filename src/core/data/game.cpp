@@ -6,8 +6,10 @@
 void SetGameDirectory(Game& game, const std::string& directory)
 {
     const std::filesystem::path dir(directory);
-    if (directory != game.GameDirectory)
+    if (directory != game.GameDirectory) {
         game.BackupsKept = false;
+        game.LoadedStamp.clear();
+    }
     game.GameDirectory = directory;
     game.PlayersPath = (dir / "players.dat").string();
     game.TeamsPath = (dir / "teams.dat").string();
@@ -19,6 +21,8 @@ void ClearTables(Game& game)
     std::fill(game.Teams.begin(), game.Teams.end(), TeamRecord{});
     game.PlayerCount = 0;
     game.TeamCount = 0;
+    game.LoadDropped.clear();
+    game.LoadedStamp.clear();
 }
 
 std::int16_t TeamCountFor(int teams)

@@ -21,6 +21,12 @@ struct Game {
     // The first save into a game directory keeps the files it replaces as
     // .bak copies; pointing the game at another directory starts afresh.
     bool BackupsKept = false;
+    // What the last load found in the files but could not keep, said for a
+    // message; a save asks before it writes the files without it.
+    std::string LoadDropped;
+    // The files as the last load or save left them (GameFilesStamp), so that a
+    // save notices another program's save in between; empty: not checked.
+    std::string LoadedStamp;
 };
 
 // Points the game at a directory: the two data files are looked for inside it.

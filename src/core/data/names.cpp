@@ -16,6 +16,10 @@ std::optional<NameFlaw> FindFlaw(std::string_view name)
         return NameFlaw{"it contains a comma", "A name cannot hold a comma"};
     if (name.find_first_of("\r\n") != std::string_view::npos)
         return NameFlaw{"it contains a line break", "A name cannot hold a line break"};
+    // Bytes 0x80 to 0x9F are letters and signs in Windows-1252 (the euro
+    // sign among them), so only the controls below the blank and DEL are refused.
+    if (std::any_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }))
+        return NameFlaw{"it contains a control character", "A name cannot hold a control character"};
     // The reader skips blanks before a value, so they would be gone on the next load.
     if (name.starts_with(' '))
         return NameFlaw{"it begins with a blank", "A name cannot begin with a blank"};

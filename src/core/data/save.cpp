@@ -1,39 +1,79 @@
 #include "data/save.h"
 
+#include <filesystem>
+#include <functional>
+
+#include "data/folder_lock.h"
 #include "data/names.h"
+#include "data/pair_commit.h"
 #include "data/players_file.h"
 #include "data/teams_file.h"
 
-FileResult SaveGame(Game& game)
+namespace {
+
+std::string FolderOf(const std::string& path)
 {
+    const std::filesystem::path file(path);
+    return file.has_parent_path() ? file.parent_path().string() : std::string(".");
+}
+
+}  // namespace
+
+FileResult SaveGame(Game& game, bool dropConfirmed)
+{
+    if (!game.LoadDropped.empty() && !dropConfirmed)
+        return {game.PlayersPath, "saving would lose what the load could not keep: " + game.LoadDropped};
     if (const auto fault = FirstUnstorableName(game)) {
         const std::string& path = fault->file == "players.dat" ? game.PlayersPath : game.TeamsPath;
         return {path, fault->description};
     }
-    // Both files are tried before either is written, so that a read-only
-    // teams.dat does not leave a new players.dat beside an old teams.dat.
+    // Both files are tried before either is written.
     for (const std::string* path : {&game.PlayersPath, &game.TeamsPath}) {
         if (FileResult writable = CheckWritable(*path); !writable.ok())
             return writable;
     }
-    if (!game.BackupsKept) {
-        for (const std::string* path : {&game.PlayersPath, &game.TeamsPath}) {
-            if (FileResult backup = KeepBackup(*path); !backup.ok())
-                return backup;
-        }
+    const std::string folder = FolderOf(game.PlayersPath);
+    const FolderLock lock(folder, WriterPatience);
+    if (!lock.Held())
+        return {game.PlayersPath, lock.Reason()};
+    RecoverPair(folder);
+    if (!game.LoadedStamp.empty() && GameFilesStamp(game) != game.LoadedStamp)
+        return {game.PlayersPath, "the files were changed by another program since they were loaded; "
+                                  "nothing was changed"};
+    const PairSave save{folder, game.PlayersPath, game.TeamsPath, WritePlayers(game), WriteTeams(game),
+                        !game.BackupsKept};
+    FileResult result = CommitPair(save);
+    if (result.ok()) {
         game.BackupsKept = true;
+        game.LoadDropped.clear();
+        game.LoadedStamp = GameFilesStamp(save.playersBytes, save.teamsBytes);
     }
-    // Squads and players name each other, so a new players.dat must not stand
-    // beside an old teams.dat: both are written in full before either moves.
-    if (FileResult players = WriteBeside(game.PlayersPath, WritePlayers(game)); !players.ok())
-        return players;
-    if (FileResult teams = WriteBeside(game.TeamsPath, WriteTeams(game)); !teams.ok()) {
-        DropWritten(game.PlayersPath);
-        return teams;
-    }
-    if (FileResult players = MoveOver(game.PlayersPath); !players.ok()) {
-        DropWritten(game.TeamsPath);
-        return players;
-    }
-    return MoveOver(game.TeamsPath);
+    return result;
+}
+
+std::string GameFilesStamp(const std::string& playersBytes, const std::string& teamsBytes)
+{
+    const std::hash<std::string> hash;
+    return std::to_string(playersBytes.size()) + '-' + std::to_string(hash(playersBytes)) + '/' +
+           std::to_string(teamsBytes.size()) + '-' + std::to_string(hash(teamsBytes));
+}
+
+std::string GameFilesStamp(const Game& game)
+{
+    const FileBytes players = ReadFileBytes(game.PlayersPath);
+    const FileBytes teams = ReadFileBytes(game.TeamsPath);
+    return GameFilesStamp(players.ok() ? players.bytes : "?" + players.reason,
+                          teams.ok() ? teams.bytes : "?" + teams.reason);
+}
+
+std::string RecoverInterruptedSave(const std::string& folder)
+{
+    std::error_code error;
+    if (!std::filesystem::is_directory(folder, error))
+        return {};
+    const FolderLock lock(folder, WriterPatience);
+    if (lock.Busy())
+        return "another program was still saving in this folder; the files were read as they stood";
+    // A folder that cannot be locked cannot be written either: nothing to put right.
+    return lock.Held() ? RecoverPair(folder) : std::string{};
 }

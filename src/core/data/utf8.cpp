@@ -86,3 +86,17 @@ std::optional<std::string> Cp1252FromUtf8(std::string_view text)
         return std::nullopt;
     return bytes;
 }
+
+std::string OnOneLine(std::string_view text)
+{
+    std::string line;
+    for (const char c : text) {
+        if (c == '\r')
+            line += "\\r";
+        else if (c == '\n')
+            line += "\\n";
+        else
+            line += c;
+    }
+    return line;
+}

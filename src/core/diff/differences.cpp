@@ -55,7 +55,11 @@ public:
     }
 
 private:
-    void Add(Difference difference) { differences_.push_back(std::move(difference)); }
+    void Add(Difference difference)
+    {
+        difference.text = OnOneLine(difference.text);
+        differences_.push_back(std::move(difference));
+    }
 
     template <class Record>
     void CompareFields(std::string_view file, int number, const std::string& title, const Record& a, const Record& b,

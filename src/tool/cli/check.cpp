@@ -6,7 +6,7 @@
 #include "check/problems.h"
 #include "cli/commands.h"
 #include "cli/game_folder.h"
-#include "cli/json.h"
+#include "cli/output.h"
 #include "data/file_io.h"
 
 namespace {
@@ -27,23 +27,10 @@ constexpr std::string_view Usage =
     "  --json   one JSON object a line instead, the count last\n"
     "Exit 0 when there is no error, 1 when there is, 2 when the folder can't be read.\n";
 
-// "players.dat: 17: surname: warning: is empty ..."
-std::string ProblemLine(const Problem& problem)
-{
-    return problem.file + ": " + std::to_string(problem.record) + ": " + problem.field + ": " +
-           (problem.severity == Severity::Error ? "error: " : "warning: ") + problem.message;
-}
-
-std::string ProblemJson(const Problem& problem)
-{
-    return "{\"severity\":" + JsonString(problem.severity == Severity::Error ? "error" : "warning") +
-           ",\"file\":" + JsonString(problem.file) + ",\"record\":" + std::to_string(problem.record) +
-           ",\"field\":" + JsonString(problem.field) + ",\"message\":" + JsonString(problem.message) + "}";
-}
-
 int RunCheck(const CommandLine& line, std::ostream& out, std::ostream& err)
 {
     const LoadedGame loaded = LoadGameFolder(line.positional[0]);
+    TellRecovery(loaded, "check", err);
     const auto playersBytes = ReadWholeFile(loaded.game->PlayersPath);
     const auto teamsBytes = ReadWholeFile(loaded.game->TeamsPath);
     if (!loaded.BothRead() || !playersBytes || !teamsBytes) {

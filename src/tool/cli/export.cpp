@@ -61,6 +61,7 @@ int RunExport(const CommandLine& line, std::ostream& out, std::ostream& err)
     }
 
     const LoadedGame loaded = LoadGameFolder(line.positional[0]);
+    TellRecovery(loaded, "export", err);
     if (!loaded.BothRead()) {
         err << "kolta-data export: cannot read " << UnreadFiles(loaded) << '\n';
         return ExitFailed;

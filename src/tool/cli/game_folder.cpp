@@ -1,7 +1,6 @@
 #include "cli/game_folder.h"
 
-#include "data/players_file.h"
-#include "data/teams_file.h"
+#include "data/load_game.h"
 
 namespace {
 
@@ -12,8 +11,10 @@ LoadedGame Load(const std::string& directory, const std::string& suffix)
     SetGameDirectory(*loaded.game, directory);
     loaded.game->PlayersPath += suffix;
     loaded.game->TeamsPath += suffix;
-    loaded.players = ReadPlayersFile(*loaded.game);
-    loaded.teams = ReadTeamsFile(*loaded.game);
+    GameLoad load = LoadGame(*loaded.game);
+    loaded.players = std::move(load.players);
+    loaded.teams = std::move(load.teams);
+    loaded.recovered = std::move(load.recovered);
     return loaded;
 }
 
@@ -24,9 +25,9 @@ LoadedGame LoadGameFolder(const std::string& directory)
     return Load(directory, "");
 }
 
-LoadedGame LoadGameBackups(const std::string& directory)
+LoadedGame LoadGameBeside(const std::string& directory, const std::string& suffix)
 {
-    return Load(directory, ".bak");
+    return Load(directory, suffix);
 }
 
 std::string UnreadFiles(const LoadedGame& loaded)
@@ -43,4 +44,10 @@ std::string UnreadFiles(const LoadedGame& loaded)
     if (!loaded.teams.Read())
         return unread(teams, loaded.teams);
     return {};
+}
+
+void TellRecovery(const LoadedGame& loaded, std::string_view command, std::ostream& err)
+{
+    if (!loaded.recovered.empty())
+        err << "kolta-data " << command << ": " << loaded.recovered << '\n';
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <memory>
+#include <ostream>
 #include <string>
+#include <string_view>
 
 #include "data/game.h"
 #include "data/load_report.h"
@@ -11,14 +13,19 @@ struct LoadedGame {
     std::unique_ptr<Game> game;
     LoadReport players;
     LoadReport teams;
+    std::string recovered;  // what became of a save cut off in the folder
 
     bool BothRead() const { return players.Read() && teams.Read(); }
 };
 
 LoadedGame LoadGameFolder(const std::string& directory);
 
-// The backups that the first save of a run leaves beside the files.
-LoadedGame LoadGameBackups(const std::string& directory);
+// Writes what the load did about a cut-off save, if anything, as a note of `command`.
+void TellRecovery(const LoadedGame& loaded, std::string_view command, std::ostream& err);
+
+// The pair kept beside the files under `suffix`: ".bak", the files as the
+// first save of a run found them; ".orig", as the first save ever found them.
+LoadedGame LoadGameBeside(const std::string& directory, const std::string& suffix);
 
 // "DIR/players.dat (Permission denied)", ...: the files of `loaded` that
 // could not be read and why, said for a message; empty when both were read.

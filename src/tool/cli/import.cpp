@@ -1,17 +1,20 @@
 #include <filesystem>
+#include <optional>
 #include <ostream>
+#include <utility>
 
 #include "cli/commands.h"
 #include "diff/differences.h"
 #include "cli/game_folder.h"
 #include "csv/import_rows.h"
 #include "data/file_io.h"
+#include "data/file_steps.h"
 #include "data/save.h"
 
 namespace {
 
 constexpr std::string_view Usage =
-    "Usage: kolta-data import [--dry-run] DIR IN\n"
+    "Usage: kolta-data import [--dry-run] [--force] DIR IN\n"
     "Reads IN/players.csv and IN/teams.csv, as export writes them (either may be\n"
     "left out), into the game in DIR. A row edits the player or team with its\n"
     "number; a row with the next free number, or an empty number, adds one. Columns\n"
@@ -24,20 +27,35 @@ constexpr std::string_view Usage =
     "2000 players or 500 teams, a player put into two squads) every wrong row is\n"
     "listed by its line and nothing is changed. Otherwise the changes are listed\n"
     "and both files are saved as the editor saves them, the old ones kept as .bak.\n"
+    "A CSV file that is there but cannot be read stops the import. So does a game\n"
+    "whose load could not keep everything its files hold, unless --force.\n"
     "  --dry-run   list the changes and save nothing\n"
+    "  --force     save even without what the load could not keep\n"
     "Exit 0 on success, 1 when the import was refused, 2 when a file can't be read\n"
     "or written.\n";
 
 int RunImport(const CommandLine& line, std::ostream& out, std::ostream& err)
 {
     const LoadedGame loaded = LoadGameFolder(line.positional[0]);
+    TellRecovery(loaded, "import", err);
     if (!loaded.BothRead()) {
         err << "kolta-data import: cannot read " << UnreadFiles(loaded) << '\n';
         return ExitFailed;
     }
     const std::filesystem::path folder(line.positional[1]);
-    const auto playersText = ReadWholeFile((folder / "players.csv").string());
-    const auto teamsText = ReadWholeFile((folder / "teams.csv").string());
+    std::optional<std::string> playersText;
+    std::optional<std::string> teamsText;
+    for (auto [name, text] : {std::pair{"players.csv", &playersText}, std::pair{"teams.csv", &teamsText}}) {
+        const std::string path = (folder / name).string();
+        if (!Exists(path))
+            continue;  // left out
+        FileBytes read = ReadFileBytes(path);
+        if (!read.ok()) {
+            err << "kolta-data import: cannot read " << path << " (" << read.reason << "); nothing was changed\n";
+            return ExitFailed;
+        }
+        *text = std::move(read.bytes);
+    }
     if (!playersText && !teamsText) {
         err << "kolta-data import: neither players.csv nor teams.csv can be read in " << folder.string() << '\n';
         return ExitFailed;
@@ -65,7 +83,12 @@ int RunImport(const CommandLine& line, std::ostream& out, std::ostream& err)
         out << "Dry run: nothing was saved (" << changes.size() << " changes).\n";
         return ExitOk;
     }
-    if (const FileResult saved = SaveGame(game); !saved.ok()) {
+    if (!game.LoadDropped.empty() && !line.Has("--force")) {
+        err << "kolta-data import: saving would lose what the load could not keep: " << game.LoadDropped
+            << "; nothing was changed (--force saves without it)\n";
+        return ExitFound;
+    }
+    if (const FileResult saved = SaveGame(game, true); !saved.ok()) {
         err << "kolta-data import: " << saved.path << ": " << saved.reason << '\n';
         return ExitFailed;
     }
@@ -78,6 +101,6 @@ int RunImport(const CommandLine& line, std::ostream& out, std::ostream& err)
 const Subcommand& ImportCommand()
 {
     static const Subcommand command{"import", "read players.csv and teams.csv back into a game folder", Usage,
-                                    {{"--dry-run"}, {}}, 2, 2, RunImport};
+                                    {{"--dry-run", "--force"}, {}}, 2, 2, RunImport};
     return command;
 }

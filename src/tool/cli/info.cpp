@@ -54,6 +54,7 @@ int RunInfo(const CommandLine& line, std::ostream& out, std::ostream& err)
 {
     const std::string& directory = line.positional[0];
     const LoadedGame loaded = LoadGameFolder(directory);
+    TellRecovery(loaded, "info", err);
     if (!loaded.players.Read() && !loaded.teams.Read()) {
         err << "kolta-data info: cannot read " << UnreadFiles(loaded) << '\n';
         return ExitFailed;

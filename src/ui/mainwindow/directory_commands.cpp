@@ -1,8 +1,6 @@
 #include <QFile>
 #include <QLabel>
 
-#include "data/players_file.h"
-#include "data/teams_file.h"
 #include "forms/modal.h"
 #include "mainwindow/main_window.h"
 #include "options/options_window.h"
@@ -20,8 +18,7 @@ void MainWindow::LoadNewDirectory()
     currentPlayer_.reset();
     shownTeam_.reset();
     teamNumberLabel_->clear();
-    ReadPlayersFile(game_);
-    ReadTeamsFile(game_);
+    LoadGameDirectory();
     ShowFirstEntries();
 }
 

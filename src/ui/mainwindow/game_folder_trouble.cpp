@@ -1,7 +1,6 @@
 #include "mainwindow/game_folder_trouble.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 std::optional<QString> GameFolderTrouble(const QString& folder)
@@ -13,11 +12,8 @@ std::optional<QString> GameFolderTrouble(const QString& folder)
     if (!where.isDir())
         return QStringLiteral("The game folder %1 is not a folder.").arg(shown);
     for (const char* name : {"players.dat", "teams.dat"}) {
-        QFile file(QDir(folder).filePath(QLatin1String(name)));
-        if (!file.exists())
+        if (!QFileInfo::exists(QDir(folder).filePath(QLatin1String(name))))
             return QStringLiteral("The game folder %1 holds no %2.").arg(shown, QLatin1String(name));
-        if (!file.open(QIODevice::ReadOnly))
-            return QStringLiteral("%1 in the game folder %2 cannot be read: %3.").arg(QLatin1String(name), shown, file.errorString());
     }
     return std::nullopt;
 }

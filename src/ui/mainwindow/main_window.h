@@ -2,9 +2,11 @@
 
 #include <QMainWindow>
 #include <array>
+#include <memory>
 #include <optional>
 
 #include "data/fields.h"
+#include "data/folder_lock.h"
 #include "data/game.h"
 #include "options/setting_places.h"
 
@@ -118,6 +120,9 @@ private:
     void OnFileFormatsPicture();
 
     bool ChooseFirstDirectory();
+    // Loads the game's directory, says what became of a save cut off there
+    // and whether another editor has it open.
+    void LoadGameDirectory();
     void LoadNewDirectory();
     // A game folder that cannot be opened at start is told, with the offer
     // to choose another.
@@ -161,6 +166,7 @@ private:
     std::optional<int> shownTeam_;
     bool centred_ = false;
 
+    std::unique_ptr<FolderPresence> presence_;
     GameHistory* history_ = nullptr;
     bool bringingIntoView_ = false;
     bool leaveAnswered_ = false;   // Exit has asked already; the close box need not

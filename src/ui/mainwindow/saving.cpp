@@ -10,8 +10,16 @@
 bool MainWindow::SaveAll()
 {
     CarryPendingEdits();
+    // What the load could not keep is lost by saving; the user decides.
+    const bool dropConfirmed =
+        !game_.LoadDropped.empty() &&
+        MsgBox(QStringLiteral("Saving will leave out what the editor could not load:\n%1\n\nSave anyway?")
+                   .arg(QString::fromStdString(game_.LoadDropped)),
+               MbYesNo | MbExclamation, QStringLiteral("Saving..")) == IdYes;
+    if (!game_.LoadDropped.empty() && !dropConfirmed)
+        return false;
     const FilesBeforeSave before(game_);
-    const FileResult result = SaveGame(game_);
+    const FileResult result = SaveGame(game_, dropConfirmed);
     if (!result.ok()) {
         MsgBox(before.FailureText(result), MbCritical, QStringLiteral("Saving.."));
         return false;

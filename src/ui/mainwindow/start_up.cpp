@@ -1,8 +1,9 @@
 #include <QFile>
 
-#include "data/players_file.h"
+#include <filesystem>
+
+#include "data/load_game.h"
 #include "data/setting_file.h"
-#include "data/teams_file.h"
 #include "forms/message_box.h"
 #include "mainwindow/game_folder_trouble.h"
 #include "mainwindow/main_window.h"
@@ -19,11 +20,32 @@ bool MainWindow::Start()
     SetGameDirectory(game_, game_.GameDirectory);
     // A missing or damaged file is no reason to stop: the window shows what
     // could be read, says what is wrong and offers to choose another folder.
-    ReadPlayersFile(game_);
-    ReadTeamsFile(game_);
+    LoadGameDirectory();
     ShowFirstEntries();
     OfferOtherFolder();
     return true;
+}
+
+void MainWindow::LoadGameDirectory()
+{
+    const GameLoad load = LoadGame(game_);
+    if (!load.recovered.empty())
+        MsgBox(QString::fromStdString(load.recovered), MbInformation, QStringLiteral("Info"));
+    // A missing file loads as an empty one; OfferOtherFolder tells of it. A
+    // file refused for what it is (a device, a folder, a giant) is named
+    // with the reason.
+    for (const LoadReport* report : {&load.players, &load.teams}) {
+        if (!report->Read() && std::filesystem::exists(std::filesystem::path(game_.GameDirectory) / report->file))
+            MsgBox(QStringLiteral("%1 was not read: %2")
+                       .arg(QString::fromStdString(report->file), QString::fromStdString(report->failure)),
+                   MbExclamation, QStringLiteral("Info"));
+    }
+    presence_.reset();
+    presence_ = std::make_unique<FolderPresence>(game_.GameDirectory);
+    if (presence_->OthersHadItOpen())
+        MsgBox(QStringLiteral("Another editor has this game directory open. If both of you save, "
+                              "the second save is refused."),
+               MbInformation, QStringLiteral("Info"));
 }
 
 void MainWindow::OfferOtherFolder()

@@ -15,6 +15,7 @@
 
 #include <sys/resource.h>
 
+#include "data/file_steps.h"
 #include "data/players_file.h"
 #include "data/teams_file.h"
 #include "support/file_text.h"
@@ -37,19 +38,28 @@ void MakeReadOnly(const fs::path& path)
                     fs::perm_options::remove);
 }
 
+// Where this process writes the new `file` before moving it into place.
+fs::path Writing(const fs::path& file)
+{
+    return TemporaryName(file.string(), "saving");
+}
+
 // The kernel's own "disk full": every write into the file fails with ENOSPC.
 void FullDiskFor(const fs::path& file)
 {
-    fs::create_symlink("/dev/full", file.string() + ".saving");
+    fs::create_symlink("/dev/full", Writing(file));
 }
 
 // Every file in `dir` with its bytes; a link (a full disk) only if `links`.
+// The .prev pair, the old files kept while a save moves, may be left behind.
 std::map<fs::path, std::string> Files(const fs::path& dir, bool links)
 {
     std::map<fs::path, std::string> files;
     if (!fs::exists(dir))
         return files;
     for (const auto& entry : fs::directory_iterator(dir)) {
+        if (entry.path().extension() == ".prev")
+            continue;
         if (links || !entry.is_symlink())
             files[entry.path().filename()] = entry.is_symlink() ? "a link" : Bytes(entry.path());
     }
@@ -95,12 +105,14 @@ TEST_F(Save, WritesByteForByteAndKeepsTheOldFilesAtTheFirstSaveOnly)
     game->Teams[2].wealth = 12;
     FullDiskFor(dir / "teams.dat");
     ASSERT_FALSE(SaveGame(*game).ok());
-    fs::remove(dir / "teams.dat.saving");
+    fs::remove(Writing(dir / "teams.dat"));
     ASSERT_TRUE(SaveGame(*game).ok());  // the disk has room again
     EXPECT_TRUE(Bytes(dir / "players.dat") == WritePlayers(*game));
     EXPECT_TRUE(Bytes(dir / "teams.dat") == WriteTeams(*game));
     EXPECT_TRUE(Bytes(dir / "players.dat.bak") == OldPlayers);
     EXPECT_TRUE(Bytes(dir / "teams.dat.bak") == OldTeams);
+    EXPECT_TRUE(Bytes(dir / "teams.dat.orig") == OldTeams);
+    EXPECT_TRUE(Bytes(dir / "players.dat.prev") == OldPlayers);  // the pair before the last save
 
     // Another game directory is a fresh start.
     const fs::path other = LoadCopy(*game);
@@ -147,11 +159,14 @@ TEST_F(Save, RefusesOrFailsWithoutChangingAnyFile)
          std::generic_category().message(ENOSPC)},
         {"write of players.dat cut short", [](Game& g, const fs::path&) { g.BackupsKept = true; }, "players.dat", {},
          std::generic_category().message(EFBIG), OldTeams.size() + 1000},
-        // The copy of the old files comes first; one cut short stops the save
-        // and does not replace a good copy kept by an earlier session.
-        {"backup cut short",
-         [](Game&, const fs::path& dir) { ASSERT_TRUE(ReplaceFile((dir / "players.dat.bak").string(), "earlier").ok()); },
-         "players.dat.bak", {}, {}, 1000},
+        // A move that fails once the pair is under way puts the old pair back.
+        {".bak that cannot be replaced",
+         [](Game&, const fs::path& dir) {
+             fs::create_directories(dir / "players.dat.bak" / "in");
+             ASSERT_TRUE(ReplaceFile((dir / "teams.dat.bak").string(), "earlier").ok());
+         },
+         "players.dat.bak",
+         {"Is a directory", "were put back as they were"}},
     };
     ASSERT_LT(OldTeams.size() + 1000, OldPlayers.size());
     const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);  // a write over the limit fails instead

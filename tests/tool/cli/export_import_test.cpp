@@ -138,6 +138,8 @@ TEST_F(Import, AnyWrongRowRefusesTheWholeImportAndIsListedByItsLine)
         // The good edit of row 2 must not land either.
         {[](Lines& p, Lines&) { Set(p[1], BatSkillColumn, "55"); Set(p[2], BatSkillColumn, "40000"); },
          {"players.csv:3"}, "batSkill \"40000\""},
+        {[](Lines& p, Lines&) { Set(p[1], BatSkillColumn, "+-5"); }, {"players.csv:2"}, "batSkill \"+-5\""},
+        {[](Lines& p, Lines&) { Set(p[1], SurnameColumn, "Tab\tHere"); }, {"players.csv:2"}, "control character"},
         {[](Lines& p, Lines& t) {
              AddRow(p, 3, "7");  // skips number 4
              AddRow(p, 3, "2001");

@@ -1,0 +1,228 @@
+// The pair commit: a save killed at any step, a move that fails half way and
+// a second writer all leave players.dat and teams.dat as a matching pair.
+#include "data/pair_commit.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <random>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "data/folder_lock.h"
+#include "data/load_game.h"
+#include "data/players_file.h"
+#include "data/save.h"
+#include "data/teams_file.h"
+#include "support/file_text.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string Bytes(const fs::path& path)
+{
+    return ReadWholeFile(path.string()).value_or("<missing>");
+}
+
+const std::string OldPlayers = Bytes(KOLTA_SAMPLE "/players.dat");
+const std::string OldTeams = Bytes(KOLTA_SAMPLE "/teams.dat");
+
+std::vector<std::string> stepsSeen;
+std::string stopAt;
+void (*atStop)(const fs::path&) = nullptr;
+fs::path stopFolder;
+
+void RecordStep(std::string_view step)
+{
+    stepsSeen.emplace_back(step);
+}
+
+void StopAtStep(std::string_view step)
+{
+    if (step == stopAt)
+        atStop(stopFolder);
+}
+
+class PairCommit : public testing::Test {
+protected:
+    void TearDown() override
+    {
+        SetCommitStepHook(nullptr);
+        std::error_code ignored;
+        for (const fs::path& dir : made_)
+            fs::remove_all(dir, ignored);
+    }
+
+    // A copy of the sample game, loaded and changed in both files.
+    fs::path ChangedCopy(Game& game)
+    {
+        const fs::path dir = fs::temp_directory_path() / ("kolta-pair-" + std::to_string(std::random_device{}()));
+        fs::create_directories(dir);
+        fs::copy(KOLTA_SAMPLE, dir);
+        made_.push_back(dir);
+        SetGameDirectory(game, dir.string());
+        LoadGame(game);
+        game.Players[1].surname = "Changed";
+        game.Teams[1].wealth = 77;
+        return dir;
+    }
+
+    // What a save made in the folder besides the pairs; empty when a save left nothing behind.
+    static std::vector<std::string> Strays(const fs::path& dir)
+    {
+        std::vector<std::string> strays;
+        for (const auto& entry : fs::directory_iterator(dir)) {
+            const std::string name = entry.path().filename().string();
+            bool pair = false;
+            for (const char* file : {"players.dat", "teams.dat"}) {
+                for (const char* suffix : {"", ".bak", ".orig", ".prev"})
+                    pair = pair || name == std::string(file) + suffix;
+            }
+            const bool ours = name.starts_with("players.dat") || name.starts_with("teams.dat") ||
+                              name.starts_with("kolta-save");
+            if (ours && !pair)
+                strays.push_back(name);
+        }
+        return strays;
+    }
+
+    std::vector<fs::path> made_;
+};
+
+TEST_F(PairCommit, AKilledSaveLeavesTheOldPairOrTheNewOne)
+{
+    auto game = NewGame();
+    ChangedCopy(*game);
+    const std::string newPlayers = WritePlayers(*game);
+    const std::string newTeams = WriteTeams(*game);
+    stepsSeen.clear();
+    SetCommitStepHook(RecordStep);
+    ASSERT_TRUE(SaveGame(*game).ok());
+    SetCommitStepHook(nullptr);
+    ASSERT_GE(stepsSeen.size(), 8u);  // the two writes, the copies, .prev, the record, the moves, the end
+
+    for (const std::string& step : stepsSeen) {
+        SCOPED_TRACE("killed after: " + step);
+        auto saving = NewGame();
+        const fs::path dir = ChangedCopy(*saving);
+        const pid_t child = ::fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            stopAt = step;
+            atStop = [](const fs::path&) { std::raise(SIGKILL); };
+            SetCommitStepHook(StopAtStep);
+            SaveGame(*saving);
+            ::_exit(0);
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+
+        auto loaded = NewGame();
+        SetGameDirectory(*loaded, dir.string());
+        const GameLoad load = LoadGame(*loaded);
+        const std::string players = Bytes(dir / "players.dat");
+        const std::string teams = Bytes(dir / "teams.dat");
+        const bool old = players == OldPlayers && teams == OldTeams;
+        const bool saved = players == newPlayers && teams == newTeams;
+        EXPECT_TRUE(old || saved);
+        // From the record on, the load finishes the save and says so.
+        const bool recorded = step == "wrote the commit record" || step.starts_with("moved ");
+        EXPECT_EQ(!load.recovered.empty(), recorded) << load.recovered;
+        EXPECT_EQ(saved, recorded || step.starts_with("removed"));
+        EXPECT_TRUE(Strays(dir).empty()) << Strays(dir).front();
+        // The copies kept beside are a pair, of the files as they were, or absent.
+        for (const char* suffix : {".bak", ".orig"}) {
+            const fs::path bak = dir / (std::string("players.dat") + suffix);
+            EXPECT_EQ(fs::exists(bak), fs::exists(dir / (std::string("teams.dat") + suffix)));
+            if (fs::exists(bak)) {
+                EXPECT_EQ(Bytes(bak), OldPlayers);
+                EXPECT_EQ(Bytes(dir / (std::string("teams.dat") + suffix)), OldTeams);
+            }
+        }
+    }
+}
+
+TEST_F(PairCommit, AMoveThatFailsPutsTheOldPairBack)
+{
+    auto game = NewGame();
+    const fs::path dir = ChangedCopy(*game);
+    // Once the new players.dat is in place, teams.dat turns into a folder
+    // that cannot be replaced, as a file the game holds open on Windows.
+    stopAt = "moved players.dat";
+    stopFolder = dir;
+    atStop = [](const fs::path& folder) {
+        fs::remove(folder / "teams.dat");
+        fs::create_directories(folder / "teams.dat" / "held");
+    };
+    SetCommitStepHook(StopAtStep);
+    const FileResult result = SaveGame(*game);
+    EXPECT_EQ(result.path, (dir / "teams.dat").string());
+    EXPECT_NE(result.reason.find("put back as they were"), std::string::npos) << result.reason;
+    EXPECT_EQ(Bytes(dir / "players.dat"), OldPlayers);
+    EXPECT_FALSE(fs::exists(dir / "kolta-save.commit"));
+}
+
+TEST_F(PairCommit, ASecondWriterWaitsThenChangesNothing)
+{
+    auto first = NewGame();
+    const fs::path dir = ChangedCopy(*first);
+    auto second = NewGame();
+    SetGameDirectory(*second, dir.string());
+    LoadGame(*second);
+    second->Teams[2].wealth = 5;
+
+    {
+        // A writer that holds the folder longer than the second will wait.
+        const FolderLock busy(dir.string(), std::chrono::milliseconds(0));
+        ASSERT_TRUE(busy.Held());
+        const FileResult refused = SaveGame(*second);
+        EXPECT_NE(refused.reason.find("another save or import is writing"), std::string::npos) << refused.reason;
+        EXPECT_EQ(Bytes(dir / "teams.dat"), OldTeams);
+    }
+
+    // Two processes at once: the one that comes second finds the files
+    // changed since it loaded them and leaves the first one's pair alone.
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        stopAt = "wrote the commit record";
+        atStop = [](const fs::path&) { std::this_thread::sleep_for(std::chrono::milliseconds(500)); };
+        SetCommitStepHook(StopAtStep);
+        ::_exit(SaveGame(*first).ok() ? 0 : 1);
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    const FileResult late = SaveGame(*second);
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+    EXPECT_NE(late.reason.find("changed by another program"), std::string::npos) << late.reason;
+    EXPECT_EQ(Bytes(dir / "players.dat"), WritePlayers(*first));
+    EXPECT_EQ(Bytes(dir / "teams.dat"), WriteTeams(*first));
+}
+
+TEST_F(PairCommit, ASecondEditorOnTheFolderIsToldAndTheLastOneTidiesUp)
+{
+    auto game = NewGame();
+    const fs::path dir = ChangedCopy(*game);
+    {
+        const FolderPresence first(dir.string());
+        EXPECT_FALSE(first.OthersHadItOpen());
+        const FolderPresence second(dir.string());
+        EXPECT_TRUE(second.OthersHadItOpen());
+        EXPECT_TRUE(SaveGame(*game).ok());  // an open editor is no writer
+    }
+    EXPECT_FALSE(fs::exists(dir / "kolta-editor.open"));
+    const FolderPresence alone(dir.string());
+    EXPECT_FALSE(alone.OthersHadItOpen());
+}
+
+}  // namespace

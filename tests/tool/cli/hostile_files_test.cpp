@@ -1,0 +1,133 @@
+// Files no game would make: devices, pipes, folders, links and giants are
+// refused at once with their reason, and what a load could not keep is never
+// dropped by a save the user did not ask for.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+
+#include <sys/stat.h>
+
+#include "cli_folder.h"
+
+using testing::HasSubstr;
+
+namespace {
+
+class HostileFiles : public CliTest {
+protected:
+    fs::path Sample()
+    {
+        const fs::path dir = NewFolder("sample");
+        fs::copy(KOLTA_SAMPLE, dir);
+        return dir;
+    }
+};
+
+TEST_F(HostileFiles, AreRefusedWithTheirReasonAndNothingChanges)
+{
+    struct Case {
+        const char* what;
+        std::function<void(const fs::path&)> spoil;
+        std::vector<std::string> command;  // the folder is added at the end
+        std::string says;
+    };
+    const std::vector<Case> cases{
+        {"players.dat a link to /dev/zero", [](const fs::path& dir) {
+             fs::remove(dir / "players.dat");
+             fs::create_symlink("/dev/zero", dir / "players.dat");
+         }, {"check"}, "players.dat (it is not a regular file)"},
+        {"players.dat a pipe nobody writes to", [](const fs::path& dir) {
+             fs::remove(dir / "players.dat");
+             ASSERT_EQ(::mkfifo((dir / "players.dat").c_str(), 0600), 0);
+         }, {"normalize"}, "players.dat (it is not a regular file)"},
+        {"teams.dat a folder", [](const fs::path& dir) {
+             fs::remove(dir / "teams.dat");
+             fs::create_directory(dir / "teams.dat");
+         }, {"check"}, "teams.dat (it is a folder, not a file)"},
+        {"teams.dat past 16 MB", [](const fs::path& dir) { fs::resize_file(dir / "teams.dat", MaxFileSize + 1); },
+         {"normalize"}, "teams.dat (the file is larger than 16 MB"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        const fs::path dir = Sample();
+        c.spoil(dir);
+        const std::string players = fs::is_regular_file(dir / "players.dat") ? FileBytes(dir / "players.dat") : "";
+        std::vector<std::string> args = c.command;
+        args.push_back(dir.string());
+        const ToolRun run = RunTool(args);
+        EXPECT_EQ(run.code, 2);
+        EXPECT_THAT(run.err, HasSubstr(c.says));
+        if (!players.empty()) {
+            EXPECT_EQ(FileBytes(dir / "players.dat"), players);
+        }
+        EXPECT_FALSE(fs::exists(dir / "players.dat.bak"));
+    }
+}
+
+TEST_F(HostileFiles, AnUnreadableCsvStopsTheImport)
+{
+    const fs::path game = Sample();
+    const fs::path csv = NewFolder("csv");
+    ASSERT_EQ(RunTool({"export", game, csv}).code, 0);
+    fs::remove(csv / "players.csv");
+    fs::create_directory(csv / "players.csv");
+    const std::string teams = FileBytes(game / "teams.dat");
+    const ToolRun run = RunTool({"import", game, csv});
+    EXPECT_EQ(run.code, 2);
+    EXPECT_THAT(run.err, HasSubstr("players.csv (it is a folder, not a file); nothing was changed"));
+    EXPECT_EQ(FileBytes(game / "teams.dat"), teams);
+}
+
+TEST_F(HostileFiles, WhatTheLoadCouldNotKeepIsSavedAwayOnlyWhenForced)
+{
+    Lines teams;
+    for (int i = 1; i <= 501; ++i)
+        teams = Cat(teams, TeamRecordLines("Side", i));
+    const fs::path dir = GameOf(PlayerRecordLines(1), teams);
+    const std::string original = FileBytes(dir / "teams.dat");
+
+    const ToolRun refused = RunTool({"normalize", dir});
+    EXPECT_EQ(refused.code, 1);
+    EXPECT_THAT(refused.err, HasSubstr("teams.dat: 1 team after the 500th"));
+    EXPECT_EQ(FileBytes(dir / "teams.dat"), original);
+
+    const ToolRun forced = RunTool({"normalize", "--force", dir});
+    EXPECT_EQ(forced.code, 0) << forced.err;
+    EXPECT_EQ(FileBytes(dir / "teams.dat.orig"), original);
+    EXPECT_NE(FileBytes(dir / "teams.dat"), original);
+    // The first original stays however often the folder is saved again.
+    EXPECT_EQ(RunTool({"normalize", dir}).code, 0);
+    EXPECT_EQ(FileBytes(dir / "teams.dat.orig"), original);
+    EXPECT_EQ(RunTool({"diff", "--orig", dir}).code, 0);  // team 501 had no slot: the tables agree
+    EXPECT_EQ(RunTool({"diff", "--orig", dir, dir}).code, 2);
+}
+
+TEST_F(HostileFiles, ALinkedGameFileStaysALinkAndItsTargetIsSaved)
+{
+    const fs::path dir = Sample();
+    const fs::path elsewhere = NewFolder("elsewhere");
+    fs::rename(dir / "teams.dat", elsewhere / "teams.dat");
+    fs::create_symlink(elsewhere / "teams.dat", dir / "teams.dat");
+    const std::string before = FileBytes(elsewhere / "teams.dat");
+    WriteBytes(elsewhere / "teams.dat", before + "\r\n");  // one more empty line, gone after a save
+
+    const ToolRun run = RunTool({"normalize", dir});
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_TRUE(fs::is_symlink(dir / "teams.dat"));
+    EXPECT_EQ(FileBytes(elsewhere / "teams.dat"), before);
+    EXPECT_EQ(FileBytes(dir / "teams.dat.bak"), before + "\r\n");
+}
+
+
+TEST_F(HostileFiles, CheckListsTheFirstHundredUncarriableLinesAndCountsTheRest)
+{
+    const fs::path dir = GameFolder(Join(Lines(5000, ",")), TeamsBytes({}));
+    const ToolRun run = RunTool({"check", dir});
+    EXPECT_EQ(run.code, 1);
+    EXPECT_THAT(run.out, HasSubstr("players.dat: 239: lines: error: 4900 more lines like these, not listed"));
+    EXPECT_EQ(std::count(run.out.begin(), run.out.end(), '\n'), 100 + 1 + 1);
+}
+
+}  // namespace
