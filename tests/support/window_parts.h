@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QWidget>
 #include <stdexcept>
 #include <string>
 
@@ -15,4 +16,12 @@ Part& Find(const QObject& window, const char* name)
         throw std::logic_error(std::string("no control named ") + name + " in " +
                                window.objectName().toStdString());
     return *part;
+}
+
+// A window's title as its title bar shows it: "[*]" becomes "*" while the
+// window is marked modified and nothing otherwise.
+inline QString ShownTitle(const QWidget& window)
+{
+    QString title = window.windowTitle();
+    return title.replace(QStringLiteral("[*]"), window.isWindowModified() ? QStringLiteral("*") : QString());
 }

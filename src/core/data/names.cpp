@@ -3,21 +3,44 @@
 #include <algorithm>
 #include <utility>
 
-std::optional<std::string> NameProblem(std::string_view name)
+namespace {
+
+struct NameFlaw {
+    const char* problem;   // as a save reports it
+    const char* refusal;   // as a name box reports it
+};
+
+std::optional<NameFlaw> FindFlaw(std::string_view name)
 {
     if (name.find(',') != std::string_view::npos)
-        return "it contains a comma";
+        return NameFlaw{"it contains a comma", "A name cannot hold a comma"};
     if (name.find_first_of("\r\n") != std::string_view::npos)
-        return "it contains a line break";
+        return NameFlaw{"it contains a line break", "A name cannot hold a line break"};
     // Bytes 0x80 to 0x9F are letters and signs in Windows-1252 (the euro
     // sign among them), so only the controls below the blank and DEL are refused.
     if (std::any_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }))
-        return "it contains a control character";
+        return NameFlaw{"it contains a control character", "A name cannot hold a control character"};
     // The reader skips blanks before a value, so they would be gone on the next load.
     if (name.starts_with(' '))
-        return "it begins with a blank";
+        return NameFlaw{"it begins with a blank", "A name cannot begin with a blank"};
     if (name.starts_with('"'))
-        return "it begins with a double quote";
+        return NameFlaw{"it begins with a double quote", "A name cannot begin with a double quote"};
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::string> NameProblem(std::string_view name)
+{
+    if (const auto flaw = FindFlaw(name))
+        return flaw->problem;
+    return std::nullopt;
+}
+
+std::optional<std::string> NameRefusal(std::string_view name)
+{
+    if (const auto flaw = FindFlaw(name))
+        return flaw->refusal;
     return std::nullopt;
 }
 

@@ -12,6 +12,8 @@
 // blanks would be skipped when the name is read back.
 // Nothing when `name` can be stored; otherwise what is wrong with it.
 std::optional<std::string> NameProblem(std::string_view name);
+// The same said to someone typing: "A name cannot hold a comma".
+std::optional<std::string> NameRefusal(std::string_view name);
 
 // The first name in the game that cannot be stored, said for a person:
 // which file, which record, which field and why.

@@ -46,6 +46,22 @@ bool EntriesAreGood(const NewPlayerEntries& entries)
                        [&](const NumberBox& box) { return BoxIsGood(entries, box); });
 }
 
+std::optional<std::string> FirstBadEntry(const NewPlayerEntries& entries)
+{
+    for (const NumberBox& box : NumberBoxes) {
+        if (BoxIsGood(entries, box))
+            continue;
+        const PlayerField& field = FieldOfBox(box.field);
+        const std::string label(field.label);
+        const std::string& typed = entries.*box.box;
+        if (!TextAsDecimal(typed))
+            return label + (typed.empty() ? " is empty." : " holds no number: \"" + typed + "\".");
+        return label + " must lie from " + std::to_string(field.range->low) + " to " +
+               std::to_string(field.range->high) + ", not " + typed + ".";
+    }
+    return std::nullopt;
+}
+
 bool CanAddNewPlayer(const Game& game)
 {
     return game.PlayerCount >= 0 && game.PlayerCount < MaxPlayers;

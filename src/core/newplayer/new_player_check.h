@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <cstdint>
 #include <string>
 
@@ -68,6 +69,9 @@ inline constexpr std::array<CodeBox, 6> CodeBoxes{{
 // the date of birth has none, so 31 February and month 0 pass.
 // A pasted value is judged as written, before any rounding: 60.4 is too much.
 bool EntriesAreGood(const NewPlayerEntries& entries);
+// The first box that is not good, said for the person typing ("Bat skill
+// must lie from 0 to 60, not 75."); nothing when all are.
+std::optional<std::string> FirstBadEntry(const NewPlayerEntries& entries);
 
 // Whether the player table has a free number for one more player.
 bool CanAddNewPlayer(const Game& game);

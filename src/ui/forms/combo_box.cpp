@@ -2,10 +2,14 @@
 
 #include <QSignalBlocker>
 
+#include "forms/wheel_guard.h"
+
 ComboBox::ComboBox(QWidget* parent)
     : QComboBox(parent)
 {
     setEditable(false);
+    // A pick is the user's only when he has the list in hand.
+    IgnoreWheelUnlessFocused(*this);
     // `activated` comes only from the user (popup, arrow keys, typing, wheel),
     // also when the same row is picked again.
     connect(this, &QComboBox::activated, this, &ComboBox::Click);

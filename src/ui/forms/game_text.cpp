@@ -3,7 +3,6 @@
 #include "data/cp1252.h"
 #include "data/names.h"
 
-#include <algorithm>
 
 QString FromGame(std::string_view bytes)
 {
@@ -25,6 +24,26 @@ std::string ToGame(const QString& text)
 
 bool IsStorableName(const QString& text)
 {
-    const bool fits = std::all_of(text.begin(), text.end(), [](QChar c) { return FitsCp1252(c.unicode()); });
-    return fits && !NameProblem(ToGame(text));
+    return !NameRefusalOf(text);
+}
+
+std::optional<QString> NameRefusalOf(const QString& text)
+{
+    for (QChar c : text) {
+        if (!FitsCp1252(c.unicode()))
+            return QStringLiteral("A name cannot hold the character %1").arg(c);
+    }
+    if (const auto refusal = NameRefusal(ToGame(text)))
+        return QString::fromStdString(*refusal);
+    return std::nullopt;
+}
+
+std::function<bool(const QString&)> NameRule(std::function<void(const QString& why)> tell)
+{
+    return [tell = std::move(tell)](const QString& text) {
+        const auto refusal = NameRefusalOf(text);
+        if (refusal)
+            tell(*refusal);
+        return !refusal;
+    };
 }

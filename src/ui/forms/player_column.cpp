@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "data/fields.h"
+#include "forms/box_marks.h"
 #include "forms/combo_box.h"
 #include "forms/fitted_layout.h"
 #include "forms/game_text.h"
@@ -110,7 +111,7 @@ PlayerColumn::PlayerColumn(FittedLayout& at, const PlayerColumnPlaces& places, Q
             // with a double quote, so the name boxes refuse both as they are
             // typed or pasted.
             if (field.kind == FieldKind::Name)
-                text->SetTextRule(IsStorableName);
+                text->SetTextRule(NameRule([this](const QString& why) { emit nameRefused(why); }));
             value = text;
         }
         value->setObjectName(FromGame(field.name));
@@ -146,6 +147,31 @@ void PlayerColumn::Show(const PlayerRecord& player)
         if (readOnly_ && field.kind == FieldKind::Code && Codes(box)->ListIndex() < 0)
             ShowCodeEntry(*Codes(box), before);
     }
+}
+
+void PlayerColumn::ShowNothing()
+{
+    for (PlayerBox box : ShowOrder) {
+        if (FieldOf(box).kind == FieldKind::Code) {
+            ShowCodeEntry(*Codes(box), -1);
+        } else {
+            ShowText(*Text(box), QString());
+            MarkBox(*Text(box), BoxMark::Plain, QString());
+        }
+    }
+}
+
+QString PlayerColumn::MarkNumberBoxes(const PlayerRecord& player)
+{
+    QString focused;
+    for (PlayerBox box : ShowOrder) {
+        if (FieldOf(box).kind != FieldKind::Number)
+            continue;
+        const QString said = MarkNumberBox(*Text(box), FieldOf(box), player);
+        if (Text(box)->hasFocus())
+            focused = said;
+    }
+    return focused;
 }
 
 bool PlayerColumn::WriteBack(PlayerRecord& player) const

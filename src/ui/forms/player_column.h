@@ -56,11 +56,17 @@ public:
     // shown by its place in the list, so the second "Namibia" stays the second;
     // a code with no entry leaves its list with nothing chosen.
     void Show(const PlayerRecord& player);
+    // Every box empty and every list on no entry: no player is shown.
+    void ShowNothing();
 
     // Copies every box into the record, changed or not: a number that does not
     // convert and a list with nothing chosen leave their field as it was.
     // True when the initials or the surname changed.
     bool WriteBack(PlayerRecord& player) const;
+
+    // Tints each number box by what its field in `player` made of its text,
+    // and gives what the box with the keyboard focus says (empty if none).
+    QString MarkNumberBoxes(const PlayerRecord& player);
 
     // What the boxes hold as typed, for a new player's checks.
     NewPlayerEntries Entries() const;
@@ -78,6 +84,10 @@ public:
     // the number boxes: `filter` sees each key and may refuse it.
     void LimitLength(PlayerBox box, int length);
     void SetNumberKeyFilter(const std::function<void(int& keyAscii)>& filter);
+
+signals:
+    // A name box turned a key or a paste away, and why.
+    void nameRefused(const QString& why);
 
 private:
     TextBox* Text(PlayerBox box) const;

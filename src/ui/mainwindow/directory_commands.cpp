@@ -7,10 +7,8 @@
 
 void MainWindow::LoadNewDirectory()
 {
-    // Edits not saved are dropped without a question, as the old files stay
-    // as last saved.
-    setWindowTitle(QStringLiteral("KOLTA Editor (%1)")
-                       .arg(QString::fromStdString(game_.GameDirectory)));
+    // The user has been asked about unsaved edits before the folder changed.
+    SetTitle(QStringLiteral("KOLTA Editor"));
     // Empty tables first: no team or player of the old game may turn up in
     // the lists, a search or the next save.
     ClearTables(game_);
@@ -27,7 +25,9 @@ void MainWindow::LoadNewDirectory()
 
 void MainWindow::OnOptions()
 {
+    CarryPendingEdits();
     OptionsWindow options(game_, places_, OptionsWindow::Mode::ChangeDirectory, this);
+    options.SetLeaveGameCheck([this] { return MayLeaveGame(); });
     connect(&options, &OptionsWindow::gameDirectoryChanged, this, &MainWindow::LoadNewDirectory);
     ShowModal(options, this);
 }

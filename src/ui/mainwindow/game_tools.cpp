@@ -119,7 +119,7 @@ void GameTools::OnFindPlayer()
 
 void GameTools::OnCheckGame()
 {
-    window_.CarryEditsIntoRecords();
+    window_.CarryPendingEdits();
     if (!problemsWindow_) {
         problemsWindow_ = new ProblemsWindow(&window_);
         problemsWindow_->setObjectName(QStringLiteral("problemsWindow"));
@@ -156,7 +156,7 @@ void GameTools::OnChangesSinceOriginal()
 
 void GameTools::ShowChanges(const QString& since, const Game& before)
 {
-    window_.CarryEditsIntoRecords();
+    window_.CarryPendingEdits();
     if (!changesWindow_) {
         changesWindow_ = new ChangesWindow(&window_);
         changesWindow_->setObjectName(QStringLiteral("changesWindow"));
@@ -185,7 +185,7 @@ void GameTools::OnExportCsv()
     const QString folder = ChooseFolder(title);
     if (folder.isEmpty())
         return;
-    window_.CarryEditsIntoRecords();
+    window_.CarryPendingEdits();
     const FileResult written = ExportCsvFolder(game_, ToPath(folder));
     if (!written.ok()) {
         MsgBox(QStringLiteral("Could not write %1:\n%2").arg(FromPath(written.path), QString::fromStdString(written.reason)),
@@ -202,7 +202,7 @@ void GameTools::OnImportCsv()
     const QString folder = ChooseFolder(title);
     if (folder.isEmpty())
         return;
-    window_.CarryEditsIntoRecords();
+    window_.CarryPendingEdits();
     const CsvImport import = ImportCsvFolder(game_, ToPath(folder));
     if (!import.read) {
         MsgBox(QStringLiteral("Neither players.csv nor teams.csv can be read in %1.").arg(QDir::toNativeSeparators(folder)),

@@ -1,12 +1,14 @@
 #include "mainwindow/main_window.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QFrame>
 #include <QLabel>
 #include <QLayout>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QStatusBar>
 #include <QTimer>
 
 #include "data/code_lists.h"
@@ -18,6 +20,8 @@
 #include "forms/player_column.h"
 #include "forms/text_box.h"
 #include "mainwindow/game_tools.h"
+#include "history/game_history.h"
+#include "mainwindow/edit_menu.h"
 #include "options/artwork.h"
 
 namespace {
@@ -77,6 +81,8 @@ MainWindow::MainWindow(Game& game, SettingPlaces places, QWidget* parent)
                    Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);
 
+    history_ = new GameHistory(game_, this);
+
     auto* area = new QWidget(this);
     setCentralWidget(area);
     FittedLayout placement(area, {AreaWidth, AreaHeight});
@@ -91,9 +97,16 @@ MainWindow::MainWindow(Game& game, SettingPlaces places, QWidget* parent)
     editTimer_->setInterval(100);
 
     BuildMenu();
+    statusBar()->setSizeGripEnabled(false);
     SetTabOrder();
     ConnectHandlers();
     layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+MainWindow::~MainWindow()
+{
+    // The focus moves as the window goes; there is nothing left to carry then.
+    disconnect(qApp, nullptr, this, nullptr);
 }
 
 void MainWindow::BuildTeamColumn(FittedLayout& at, QWidget* area)
@@ -122,7 +135,7 @@ void MainWindow::BuildTeamColumn(FittedLayout& at, QWidget* area)
             // with a double quote, so the name boxes refuse both as they are
             // typed or pasted.
             if (field.kind == FieldKind::Name)
-                box->SetTextRule(IsStorableName);
+                box->SetTextRule(NameRule([this](const QString& why) { SayInStatusBar(why); }));
             teamBoxes_[i] = box;
         }
         teamBoxes_[i]->setObjectName(QStringLiteral("team.") + FromGame(field.name));
@@ -183,9 +196,11 @@ void MainWindow::BuildMenu()
     saveAction_ = Named(file->addAction(QStringLiteral("&Update Player && Team data file")), "saveAction");
     saveAction_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
     exitAction_ = Named(file->addAction(QStringLiteral("E&xit")), "exitAction");
-    QMenu* edit = menuBar()->addMenu(QStringLiteral("&Edit"));
+    const EditMenu edit = BuildEditMenu(*this, *history_, [this] { CarryPendingEdits(); });
+    Named(edit.undo, "undoAction");
+    Named(edit.redo, "redoAction");
     tools_ = new GameTools(*this, game_);
-    tools_->AddCommands(*file, exitAction_, *edit, *menuBar());
+    tools_->AddCommands(*file, exitAction_, *edit.menu, *menuBar());
 
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
     helpAction_ = Named(help->addAction(QStringLiteral("Help On Editor")), "helpAction");
@@ -231,6 +246,17 @@ void MainWindow::ConnectHandlers()
     connect(exitAction_, &QAction::triggered, this, &MainWindow::OnExit);
     connect(helpAction_, &QAction::triggered, this, &MainWindow::OnHelp);
     connect(aboutAction_, &QAction::triggered, this, &MainWindow::OnAbout);
+
+    connect(playerColumn_, &PlayerColumn::nameRefused, this, &MainWindow::SayInStatusBar);
+    connect(history_, &GameHistory::StepShown, this, &MainWindow::BringIntoView);
+    connect(history_, &GameHistory::UnsavedChangesChanged, this, &MainWindow::setWindowModified);
+    connect(tools_, &GameTools::importApplied, this,
+            [this](const QString& stepText) { history_->RecordStep(stepText, StepPlace{}); });
+    // A box's typed value is one step until the focus leaves the box.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old) {
+        if (old && isAncestorOf(old))
+            CarryPendingEdits();
+    });
 }
 
 void MainWindow::showEvent(QShowEvent* event)

@@ -13,6 +13,7 @@
 class ComboBox;
 class FittedLayout;
 class GameTools;
+class GameHistory;
 class ListBox;
 class PictureBox;
 class PlayerColumn;
@@ -20,6 +21,7 @@ class QAction;
 class QLabel;
 class QPushButton;
 class QTimer;
+struct StepPlace;
 
 // The editor's one working window: a country and its teams on the left, the
 // chosen team's squad in the middle, one player on the right. Every value of
@@ -30,20 +32,29 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 public:
     MainWindow(Game& game, SettingPlaces places, QWidget* parent = nullptr);
+    ~MainWindow() override;
 
     // Reads the setting and both files and brings the window to its first
     // team and player. False when no game directory is known and the program
     // must end without showing the window.
     bool Start();
-    // Selects the first country, team and player in turn, then starts the tick.
+    // After a load: forgets the steps of undo, selects the first country,
+    // team and player in turn, then starts the tick.
     void ShowFirstEntries();
 
     // The edit write-back, ten times a second: every value of the shown player
     // and team goes into its record, changed or not.
     void CarryEditsIntoRecords();
+    // Before anything reads or writes the records: what the boxes hold goes
+    // into them as a tick would take it, and the box being typed in closes
+    // its undo step.
+    void CarryPendingEdits();
     // After a squad changed: the team's entry is chosen again, which rebuilds
-    // the squad list with no row chosen.
+    // the squad list; the current player's row stays chosen if he is in it.
     void RefreshSquad();
+
+    // Whether the game differs from the files as last loaded or saved.
+    bool HasUnsavedChanges() const;
 
     // The player whose values the column shows and writes back.
     std::optional<int> CurrentPlayer() const { return currentPlayer_; }
@@ -66,6 +77,7 @@ signals:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void BuildTeamColumn(FittedLayout& at, QWidget* area);
@@ -83,6 +95,19 @@ private:
     void FillSquadList();
     // Chooses the country of `team`, then its entry; false when no entry lists it.
     bool ChooseTeamEntry(int team);
+    // The right-hand column with no player in it, empty and disabled.
+    void ShowNoPlayer();
+    // Chooses the row of the current player, if the list holds him, without
+    // showing him again.
+    void KeepCurrentRow();
+    // The squad list's row of `player`, -1 if it has none.
+    int RowOfPlayer(int player) const;
+    // After an undo or redo: the team and player it touched, shown afresh.
+    void BringIntoView(const StepPlace& place);
+    // Tints the number boxes by what their fields made of them; the status
+    // bar tells about the box being typed in.
+    void MarkNumberBoxes();
+    void SayInStatusBar(const QString& text);
 
     // The player and team in the detail boxes, as records (null when none).
     PlayerRecord* ShownPlayer();
@@ -96,6 +121,8 @@ private:
     void OnAddExistingPlayer();
     void OnReplacePlayer();
     void OnDeletePlayer();
+    // The search window moved `candidate` into the squad of `team`.
+    void RecordTransfer(int team, int candidate);
 
     // Menu and pictures.
     void OnOptions();
@@ -111,7 +138,16 @@ private:
     // and whether another editor has it open.
     void LoadGameDirectory();
     void LoadNewDirectory();
+    // A game folder that cannot be opened at start is told, with the offer
+    // to choose another.
+    void OfferOtherFolder();
     bool SaveAll();
+    // The question on leaving the game: Yes, No or Cancel.
+    int AskToSave();
+    // With unsaved changes, asks whether to save them first; false when the
+    // user cancels or the save fails.
+    bool MayLeaveGame();
+    void SetTitle(const QString& caption);
 
     Game& game_;
     SettingPlaces places_;
@@ -145,4 +181,9 @@ private:
     std::optional<int> currentPlayer_;
     std::optional<int> shownTeam_;
     bool centred_ = false;
+
+    GameHistory* history_ = nullptr;
+    bool bringingIntoView_ = false;
+    bool leaveAnswered_ = false;   // Exit has asked already; the close box need not
+    QString statusSaid_;           // what the status bar says about a box
 };

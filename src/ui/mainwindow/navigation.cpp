@@ -4,6 +4,7 @@
 #include "forms/game_text.h"
 #include "forms/list_box.h"
 #include "forms/listed_name.h"
+#include "history/game_history.h"
 #include "mainwindow/main_window.h"
 
 namespace {
@@ -26,6 +27,7 @@ std::optional<int> MainWindow::CurrentTeam() const
 
 void MainWindow::OnCountryChosen()
 {
+    CarryPendingEdits();
     teamList_->Clear();
     ClearSquadList();
     // The West Indies entry has no rule of its own: it gathers the teams of
@@ -44,9 +46,12 @@ void MainWindow::OnCountryChosen()
 
 void MainWindow::OnTeamChosen()
 {
+    CarryPendingEdits();
     ClearSquadList();
     ShowTeam();
     FillSquadList();
+    // No row is chosen yet, so no player is shown or written.
+    ShowNoPlayer();
 }
 
 void MainWindow::ClearSquadList()
@@ -75,12 +80,29 @@ void MainWindow::RefreshSquad()
 {
     // By the entry's own text: a renamed team keeps its old entry until the
     // country is picked again, and two teams of one name land on the first.
+    const std::optional<int> player = currentPlayer_;
     if (const int entry = teamList_->ListIndex(); entry >= 0)
         teamList_->SetText(teamList_->List(entry));
+    if (const int row = player ? RowOfPlayer(*player) : -1; row >= 0) {
+        squadList_->setCurrentRow(row);
+        OnPlayerChosen();
+    }
+}
+
+int MainWindow::RowOfPlayer(int player) const
+{
+    for (int row = 0; row < squadList_->ListCount(); ++row) {
+        if (squadList_->ItemData(row) == player)
+            return row;
+    }
+    return -1;
 }
 
 void MainWindow::ShowFirstEntries()
 {
+    // A game just read: what it holds is what the files hold, and the steps
+    // of any game before it are gone.
+    history_->Restart();
     SelectFirst(*countryList_);
     SelectFirst(*teamList_);
     SelectFirst(*squadList_);

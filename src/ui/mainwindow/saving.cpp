@@ -1,11 +1,16 @@
+#include <QCloseEvent>
+#include <QTimer>
+
 #include "data/save.h"
-#include "forms/game_text.h"
 #include "forms/message_box.h"
 #include "mainwindow/game_tools.h"
+#include "history/game_history.h"
 #include "mainwindow/main_window.h"
+#include "mainwindow/save_failure.h"
 
 bool MainWindow::SaveAll()
 {
+    CarryPendingEdits();
     // What the load could not keep is lost by saving; the user decides.
     const bool dropConfirmed =
         !game_.LoadDropped.empty() &&
@@ -14,18 +19,37 @@ bool MainWindow::SaveAll()
                MbYesNo | MbExclamation, QStringLiteral("Saving..")) == IdYes;
     if (!game_.LoadDropped.empty() && !dropConfirmed)
         return false;
+    const FilesBeforeSave before(game_);
     const FileResult result = SaveGame(game_, dropConfirmed);
     if (!result.ok()) {
-        MsgBox(QStringLiteral("Could not save %1:\n%2\n\nNothing more was written. "
-                              "Your changes are still in the editor.")
-                   .arg(QString::fromStdString(result.path),
-                        QString::fromStdString(result.reason)),
-               MbCritical, QStringLiteral("Saving.."));
+        MsgBox(before.FailureText(result), MbCritical, QStringLiteral("Saving.."));
         return false;
     }
+    history_->MarkSaved();
     MsgBox(QStringLiteral("Updated Player and Team data successfully"), MbInformation, QStringLiteral("Info"));
     tools_->CheckFiles();
     return true;
+}
+
+bool MainWindow::HasUnsavedChanges() const
+{
+    return history_->HasUnsavedChanges();
+}
+
+int MainWindow::AskToSave()
+{
+    return MsgBox(QStringLiteral("Do you want to update the files teams.dat and players.dat?"),
+                  MbYesNoCancel | MbExclamation, QStringLiteral("Saving.."));
+}
+
+bool MainWindow::MayLeaveGame()
+{
+    CarryPendingEdits();
+    if (!HasUnsavedChanges())
+        return true;
+    const int answer = AskToSave();
+    // A save that fails keeps the game open, so the edits are not lost.
+    return answer == IdNo || (answer == IdYes && SaveAll());
 }
 
 void MainWindow::OnSave()
@@ -35,12 +59,23 @@ void MainWindow::OnSave()
 
 void MainWindow::OnExit()
 {
-    const int answer = MsgBox(QStringLiteral("Do you want to update the files teams.dat and players.dat?"),
-                              MbYesNoCancel | MbExclamation, QStringLiteral("Saving.."));
+    CarryPendingEdits();
+    const int answer = AskToSave();
     if (answer == IdCancel)
         return;
-    // A save that fails keeps the editor open, so the edits are not lost.
     if (answer == IdYes && !SaveAll())
         return;
+    leaveAnswered_ = true;
     close();
+    leaveAnswered_ = false;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!leaveAnswered_ && !MayLeaveGame()) {
+        event->ignore();
+        return;
+    }
+    editTimer_->stop();
+    QMainWindow::closeEvent(event);
 }

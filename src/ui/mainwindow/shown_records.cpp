@@ -1,11 +1,16 @@
 #include <QLabel>
 
+#include <QStatusBar>
+
+#include "data/squad.h"
+#include "forms/box_marks.h"
 #include "forms/combo_box.h"
 #include "forms/game_text.h"
 #include "forms/list_box.h"
 #include "forms/player_column.h"
 #include "forms/text_box.h"
 #include "forms/value_boxes.h"
+#include "history/game_history.h"
 #include "mainwindow/main_window.h"
 
 PlayerRecord* MainWindow::ShownPlayer()
@@ -24,14 +29,32 @@ TeamRecord* MainWindow::ShownTeam()
 
 void MainWindow::OnPlayerChosen()
 {
+    CarryPendingEdits();
     // The player is named first: he stays current even if his record cannot
     // be shown.
     const int row = squadList_->ListIndex();
     if (row >= 0)
         currentPlayer_ = squadList_->ItemData(row);
-    if (const PlayerRecord* player = ShownPlayer())
+    if (const PlayerRecord* player = ShownPlayer()) {
+        playerColumn_->setEnabled(true);
         playerColumn_->Show(*player);
+    }
     emit squadRowChanged(row);
+}
+
+void MainWindow::ShowNoPlayer()
+{
+    currentPlayer_.reset();
+    playerColumn_->ShowNothing();
+    playerColumn_->setEnabled(false);
+}
+
+void MainWindow::KeepCurrentRow()
+{
+    if (const int row = currentPlayer_ ? RowOfPlayer(*currentPlayer_) : -1; row >= 0) {
+        squadList_->setCurrentRow(row);
+        emit squadRowChanged(row);
+    }
 }
 
 void MainWindow::ShowTeam()
@@ -57,14 +80,95 @@ void MainWindow::CarryEditsIntoRecords()
     // Only a new name costs more, as it rebuilds the squad list. No box is
     // written, so the caret and the focus stay where the user has them.
     if (PlayerRecord* player = ShownPlayer()) {
-        // The rebuilt list has no row chosen; the same player stays current.
         if (playerColumn_->WriteBack(*player)) {
             ClearSquadList();
             FillSquadList();
+            KeepCurrentRow();
         }
     }
     if (TeamRecord* team = ShownTeam())
         WriteBackTeam(*team);
+    history_->RecordTyping(currentPlayer_.value_or(0), shownTeam_.value_or(0));
+    MarkNumberBoxes();
+}
+
+void MainWindow::CarryPendingEdits()
+{
+    // An undo has just put records back; the boxes are being refilled from them.
+    if (bringingIntoView_)
+        return;
+    CarryEditsIntoRecords();
+    history_->EndTyping();
+}
+
+void MainWindow::MarkNumberBoxes()
+{
+    QString said;
+    if (const PlayerRecord* player = ShownPlayer())
+        said = playerColumn_->MarkNumberBoxes(*player);
+    if (const TeamRecord* team = ShownTeam()) {
+        for (std::size_t i = 0; i < TeamFields.size(); ++i) {
+            if (TeamFields[i].kind != FieldKind::Number)
+                continue;
+            auto& box = static_cast<TextBox&>(*teamBoxes_[i]);
+            const QString boxSays = MarkNumberBox(box, TeamFields[i], *team);
+            if (box.hasFocus())
+                said = boxSays;
+        }
+    }
+    if (!said.isEmpty())
+        SayInStatusBar(said);
+    else if (!statusSaid_.isEmpty() && statusBar()->currentMessage() == statusSaid_)
+        SayInStatusBar(QString());
+}
+
+void MainWindow::SayInStatusBar(const QString& text)
+{
+    statusSaid_ = text;
+    if (text.isEmpty())
+        statusBar()->clearMessage();
+    else
+        statusBar()->showMessage(text);
+}
+
+void MainWindow::BringIntoView(const StepPlace& step)
+{
+    bringingIntoView_ = true;
+    // A player the step moved is shown at the club that holds him now.
+    StepPlace place = step;
+    const auto player = std::int16_t(place.player);
+    const bool inTeam = IsTeamIndex(place.team) && IsInSquad(game_, place.team, player);
+    if (IsPlayerNumber(player) && !inTeam && PresentClub(game_, player) != 0)
+        place.team = PresentClub(game_, player);
+    const bool isTeam = IsTeamIndex(place.team);
+    const auto entryOfTeam = [this, &place] {
+        for (int entry = 0; entry < teamList_->ListCount(); ++entry) {
+            if (teamList_->ItemData(entry) == place.team)
+                return entry;
+        }
+        return -1;
+    };
+    if (isTeam && entryOfTeam() < 0) {
+        // A team of another country, or one whose country the step changed:
+        // its country's list is built afresh.
+        const int country = game_.Teams[std::size_t(place.team)].homeCountry;
+        if (country >= 1 && country <= countryList_->ListCount()) {
+            countryList_->setCurrentIndex(country - 1);
+            OnCountryChosen();
+        }
+    }
+    if (const int entry = isTeam ? entryOfTeam() : -1; entry >= 0) {
+        teamList_->setCurrentIndex(entry);
+        OnTeamChosen();
+    } else {
+        RefreshSquad();
+    }
+    ShowNoPlayer();
+    if (const int row = RowOfPlayer(place.player); row >= 0) {
+        squadList_->setCurrentRow(row);
+        OnPlayerChosen();
+    }
+    bringingIntoView_ = false;
 }
 
 void MainWindow::WriteBackTeam(TeamRecord& team)

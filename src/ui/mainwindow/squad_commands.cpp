@@ -4,25 +4,29 @@
 #include "forms/message_box.h"
 #include "forms/modal.h"
 #include "forms/squad_messages.h"
+#include "history/game_history.h"
 #include "mainwindow/main_window.h"
 #include "newplayerwindow/new_player_window.h"
 #include "searchwindow/search_window.h"
 
 void MainWindow::OnAddExistingPlayer()
 {
+    CarryPendingEdits();
     if (RefuseFullSquad(squadList_->ListCount()))
         return;
     const auto team = CurrentTeam();
     if (!team)
         return RefuseNoTeam(QStringLiteral("Add Player"));
     SearchWindow search(game_, *team, SearchWindow::Mode::Add, squadList_->ListIndex());
-    connect(&search, &SearchWindow::squadChanged, this, &MainWindow::RefreshSquad);
+    connect(&search, &SearchWindow::squadChanged, this,
+            [this, &search](int changed) { RecordTransfer(changed, search.Candidate().value_or(0)); });
     connect(this, &MainWindow::squadRowChanged, &search, &SearchWindow::SetSquadRow);
     ShowModal(search, this);
 }
 
 void MainWindow::OnReplacePlayer()
 {
+    CarryPendingEdits();
     const QString title = QStringLiteral("Replace Player");
     const auto team = CurrentTeam();
     if (!team)
@@ -30,13 +34,15 @@ void MainWindow::OnReplacePlayer()
     if (squadList_->ListIndex() < 0)
         return RefuseNoPlayer(title);
     SearchWindow search(game_, *team, SearchWindow::Mode::Replace, squadList_->ListIndex());
-    connect(&search, &SearchWindow::squadChanged, this, &MainWindow::RefreshSquad);
+    connect(&search, &SearchWindow::squadChanged, this,
+            [this, &search](int changed) { RecordTransfer(changed, search.Candidate().value_or(0)); });
     connect(this, &MainWindow::squadRowChanged, &search, &SearchWindow::SetSquadRow);
     ShowModal(search, this);
 }
 
 void MainWindow::OnAddNewPlayer()
 {
+    CarryPendingEdits();
     if (RefuseFullSquad(squadList_->ListCount()))
         return;
     const auto team = CurrentTeam();
@@ -45,12 +51,16 @@ void MainWindow::OnAddNewPlayer()
     if (RefuseFullGame(game_))
         return;
     NewPlayerWindow form(game_, *team);
-    connect(&form, &NewPlayerWindow::playerCreated, this, &MainWindow::RefreshSquad);
+    connect(&form, &NewPlayerWindow::playerCreated, this, [this, team = *team](int player) {
+        history_->RecordStep(NewPlayerStepText(game_.Players[std::size_t(player)]), {team, player});
+        RefreshSquad();
+    });
     ShowModal(form, this);
 }
 
 void MainWindow::OnDeletePlayer()
 {
+    CarryPendingEdits();
     const QString title = QStringLiteral("Delete Player");
     const int row = squadList_->ListIndex();
     if (row < 0)
@@ -68,9 +78,18 @@ void MainWindow::OnDeletePlayer()
     if (MsgBox(prompt, MbCritical | MbYesNo, title) == IdNo)
         return;
 
-    DeleteFromSquad(game_, *team, slot);
+    const std::int16_t deleted = DeleteFromSquad(game_, *team, slot);
+    history_->RecordStep(DeleteStepText(game_.Players[std::size_t(deleted)]), {*team, deleted});
     RefreshSquad();
     // The player who followed the deleted one now stands in his row.
     if (squadList_->ListCount() != 0)
         squadList_->SetText(squadList_->List(row));
+}
+
+void MainWindow::RecordTransfer(int team, int candidate)
+{
+    history_->RecordStep(
+        [this, team](const RecordChange& change) { return TransferStepText(game_, change, team); },
+        {team, candidate});
+    RefreshSquad();
 }

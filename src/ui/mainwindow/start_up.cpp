@@ -5,6 +5,7 @@
 #include "data/setting_file.h"
 #include "forms/message_box.h"
 #include "mainwindow/game_tools.h"
+#include "mainwindow/game_folder_trouble.h"
 #include "mainwindow/main_window.h"
 
 bool MainWindow::Start()
@@ -15,14 +16,14 @@ bool MainWindow::Start()
     if (game_.GameDirectory.empty())
         return false;
 
-    setWindowTitle(QStringLiteral("KOLTA editor (%1)")
-                       .arg(QString::fromStdString(game_.GameDirectory)));
+    SetTitle(QStringLiteral("KOLTA editor"));
     SetGameDirectory(game_, game_.GameDirectory);
     // A missing or damaged file is no reason to stop: the window shows what
-    // could be read, and another directory can be chosen from the menu.
+    // could be read, says what is wrong and offers to choose another folder.
     LoadGameDirectory();
     ShowFirstEntries();
     tools_->CheckFiles();
+    OfferOtherFolder();
     return true;
 }
 
@@ -31,8 +32,9 @@ void MainWindow::LoadGameDirectory()
     const GameLoad load = LoadGame(game_);
     if (!load.recovered.empty())
         MsgBox(QString::fromStdString(load.recovered), MbInformation, QStringLiteral("Info"));
-    // A missing file loads as an empty one without a word; a file refused
-    // for what it is (a device, a folder, a giant) is named with the reason.
+    // A missing file loads as an empty one; OfferOtherFolder tells of it. A
+    // file refused for what it is (a device, a folder, a giant) is named
+    // with the reason.
     for (const LoadReport* report : {&load.players, &load.teams}) {
         if (!report->Read() && QFileInfo::exists(QDir(QString::fromStdString(game_.GameDirectory))
                                                 .filePath(QString::fromStdString(report->file))))
@@ -46,4 +48,23 @@ void MainWindow::LoadGameDirectory()
         MsgBox(QStringLiteral("Another editor has this game directory open. If both of you save, "
                               "the second save is refused."),
                MbInformation, QStringLiteral("Info"));
+}
+
+void MainWindow::OfferOtherFolder()
+{
+    const auto trouble = GameFolderTrouble(QFile::decodeName(QByteArray::fromStdString(game_.GameDirectory)));
+    if (!trouble)
+        return;
+    const int answer = MsgBox(*trouble + QStringLiteral("\n\nDo you want to choose the game's folder now "
+                                                        "(File > Options)?"),
+                              MbYesNo | MbExclamation, QStringLiteral("Game folder"));
+    if (answer == IdYes)
+        OnOptions();
+}
+
+void MainWindow::SetTitle(const QString& caption)
+{
+    // The mark stands for unsaved changes and shows only while there are some.
+    setWindowTitle(QStringLiteral("%1 (%2)[*]")
+                       .arg(caption, QFile::decodeName(QByteArray::fromStdString(game_.GameDirectory))));
 }

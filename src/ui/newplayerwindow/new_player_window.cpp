@@ -116,7 +116,15 @@ void NewPlayerWindow::FilterNumberKey(int& keyAscii)
 
 void NewPlayerWindow::OnOk()
 {
-    const NewPlayerOutcome outcome = CommitNewPlayer(game_, team_, entries_->Entries());
+    const NewPlayerEntries entries = entries_->Entries();
+    const NewPlayerOutcome outcome = CommitNewPlayer(game_, team_, entries);
+    if (outcome == NewPlayerOutcome::BadEntries) {
+        // The message names the box, so the user need not hunt for it.
+        MsgBox(QStringLiteral("Data not in correct range.Please see help for correct range of data values.\n\n") +
+                   QString::fromStdString(FirstBadEntry(entries).value_or(std::string())),
+               MbInformation, QStringLiteral("Error"));
+        return;
+    }
     if (outcome != NewPlayerOutcome::Added) {
         ShowOutcome(outcome);
         return;

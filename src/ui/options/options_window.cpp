@@ -135,6 +135,8 @@ void OptionsWindow::OnChangeDirectoryOk()
                QStringLiteral("Error"));
         return;
     }
+    if (mayLeaveGame_ && !mayLeaveGame_())
+        return;
     SetGameDirectory(game_, ToSystemPath(folderList_->Path()));
     StoreSetting();
     emit gameDirectoryChanged();

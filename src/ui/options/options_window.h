@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
 
 #include "data/game.h"
 #include "options/setting_places.h"
@@ -25,6 +26,10 @@ public:
     // Whether the file list shows both "teams.dat" and "players.dat". The
     // names must match in case: the game itself opens them so.
     bool BothDataFilesListed() const;
+
+    // Asked before another folder replaces the game: false keeps the game
+    // and this window as they are (the user cancelled, or a save failed).
+    void SetLeaveGameCheck(std::function<bool()> mayLeave) { mayLeaveGame_ = std::move(mayLeave); }
 
 signals:
     // The game now points at a new directory; the main window loads it
@@ -52,6 +57,7 @@ private:
     FileList* fileList_ = nullptr;
     QPushButton* firstStartOkButton_ = nullptr;
     QPushButton* changeDirectoryOkButton_ = nullptr;
+    std::function<bool()> mayLeaveGame_;
 };
 
 // Game paths are kept as the system's own bytes and separators.

@@ -53,6 +53,10 @@ private:
     void OnSearch();
     // Shows the picked candidate in the panel.
     void OnCandidateChosen();
+    // The candidate and his present club as they stand now.
+    void ShowCandidate();
+    // No candidate picked: the panel is empty.
+    void ShowNoCandidate();
     // Add mode: moves the candidate to the end of the squad.
     void OnAddThisPlayer();
     // Replace mode: puts the candidate in the place of the chosen squad row.

@@ -17,6 +17,18 @@ void SearchWindow::OnCandidateChosen()
 {
     if (const int row = resultList_->ListIndex(); row >= 0)
         pickedNumber_ = resultList_->ItemData(row);
+    ShowCandidate();
+}
+
+void SearchWindow::ShowNoCandidate()
+{
+    pickedNumber_.reset();
+    candidatePanel_->ShowNothing();
+    ShowText(*presentClubBox_, QString());
+}
+
+void SearchWindow::ShowCandidate()
+{
     const auto candidate = Candidate();
     if (!candidate)
         return;

@@ -26,7 +26,9 @@ void SearchWindow::OnSearch()
     filters.bowlType = static_cast<std::int16_t>(bowlingFilter_->ListIndex());
     filters.fieldsAt = static_cast<std::int16_t>(fieldingFilter_->ListIndex());
 
+    // A new search leaves no candidate: Add and Replace then have no one to move.
     resultList_->Clear();
+    ShowNoCandidate();
     results_ = RunFilters(game_, filters);
     SortWithBar();
 

@@ -39,8 +39,9 @@ void SearchWindow::OnAddThisPlayer()
 
     const std::int16_t oldTeam = AddToSquad(game_, team_, *candidate);
     emit squadChanged(team_);
+    // The panel names his new club.
+    ShowCandidate();
 
-    // The panel is not shown again: it names the candidate as picked.
     QString text = candidatePanel_->ShownName() + QStringLiteral(" has been added to the ") + TeamName(game_, team_) +
                    QStringLiteral(" squad");
     if (oldTeam != 0)

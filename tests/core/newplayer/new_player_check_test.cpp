@@ -63,6 +63,23 @@ TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
         EXPECT_EQ(EntriesAreGood(e), c.good) << "text \"" << c.text << "\"";
     }
     EXPECT_FALSE(EntriesAreGood(NewPlayerEntries{})) << "OK pressed on an untouched window";
+    EXPECT_EQ(FirstBadEntry(GoodEntries()), std::nullopt);
+    const struct {
+        EntryBox box;
+        const char* text;
+        const char* said;
+    } faults[] = {
+        {&NewPlayerEntries::potential, "20.5", "Potential must lie from 0 to 20, not 20.5."},
+        {&NewPlayerEntries::fieldAbility, "9", "Field ability must lie from 10 to 40, not 9."},
+        {&NewPlayerEntries::birthMonth, "1x", "Date of birth holds no number: \"1x\"."},
+        {&NewPlayerEntries::birthDay, "", "Date of birth is empty."},
+    };
+    // Each box spoilt in turn is ahead of the ones before it in the window's order.
+    NewPlayerEntries e = GoodEntries();
+    for (const auto& fault : faults) {
+        e.*fault.box = fault.text;
+        EXPECT_EQ(FirstBadEntry(e).value_or(""), fault.said);
+    }
     for (const NumberBox& box : NumberBoxes) {
         for (const char* text : {"", "x", "1,5"}) {
             NewPlayerEntries e = GoodEntries();

@@ -15,6 +15,14 @@ TEST(GameText, RoundTripsEveryByteOfTheCodePageAndNamesOnlyWhatItCanHold)
         EXPECT_TRUE(IsStorableName(QString::fromUtf8(name))) << name;
     // "ŁQ" would be shortened to a storable "Q", but the box must not let
     // the user believe the whole name was kept.
-    for (const char* name : {"O,Neil", "\"Q", "Ł", " \"Q", "ŁQ"})
+    const std::pair<const char*, const char*> refused[] = {
+        {"O,Neil", "A name cannot hold a comma"},
+        {"\"Q", "A name cannot begin with a double quote"},
+        {" \"Q", "A name cannot begin with a blank"},
+        {"ŁQ", "A name cannot hold the character Ł"},
+    };
+    for (const auto& [name, why] : refused) {
         EXPECT_FALSE(IsStorableName(QString::fromUtf8(name))) << name;
+        EXPECT_EQ(NameRefusalOf(QString::fromUtf8(name)).value_or(QString()), QString::fromUtf8(why)) << name;
+    }
 }

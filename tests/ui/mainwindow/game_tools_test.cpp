@@ -207,6 +207,15 @@ TEST_F(GameToolsTest, AFaultyImportChangesNothingAndAGoodOneChangesOnlyTheOpenGa
     EXPECT_EQ(game->Players[5].surname, "Ellerby");
     EXPECT_EQ(ReadGameFiles(ToSystemPath(GameFolder()))->Players[5].surname, "Ellery") << "nothing is saved";
 
+    // The whole import is one step of the history.
+    QAction& undo = Find<QAction>(*main, "undoAction");
+    EXPECT_EQ(undo.text(), "&Undo import from CSV");
+    undo.trigger();
+    EXPECT_EQ(game->Players, before->Players);
+    EXPECT_EQ(game->Teams, before->Teams);
+    Find<QAction>(*main, "redoAction").trigger();
+    EXPECT_EQ(game->Players[5].surname, "Ellerby");
+
     // Export writes both files where the user points.
     QTemporaryDir sheets;
     DriveImport(sheets.path(), QDialogButtonBox::Ok);

@@ -105,6 +105,7 @@ TEST_F(Saving, ASaveTheDiskRefusesIsToldAndExitStaysOpen)
     EXPECT_EQ(ShownMessages()[0].flags, 16);
     const QString said = ShownMessages()[0].text;
     EXPECT_TRUE(said.contains(teams) && said.contains("read-only")) << said.toStdString();
+    EXPECT_TRUE(said.contains("Neither players.dat nor teams.dat was changed.")) << said.toStdString();
     EXPECT_TRUE(FilesUnchanged());   // not even players.dat, which could have been written
     EXPECT_EQ(game->Players[1].batSkill, 58);
     EXPECT_EQ(BoxText("team.teamName"), "Perth Pelicans XI");

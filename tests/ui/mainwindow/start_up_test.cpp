@@ -10,7 +10,7 @@ using StartUp = EditorTest;
 TEST_F(StartUp, OpensOnTheFirstTeamAndPlayerOfTheFirstCountry)
 {
     Open();
-    EXPECT_EQ(main->windowTitle(), "KOLTA editor (" + GameFolder() + ")");
+    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
     EXPECT_EQ(Combo("countryList").ListCount(), 10);
     EXPECT_EQ(Combo("countryList").currentText(), "Australia");
     EXPECT_EQ(Rows(Combo("teamList")), (std::vector<QString>{"Perth Pelicans", "Darwin Dingoes"}));

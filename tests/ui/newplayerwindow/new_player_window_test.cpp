@@ -105,8 +105,11 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
     SetModalDriver({});
     SetMessageAnswerer({});
     ASSERT_EQ(ShownMessages().size(), 2u) << "success is not announced";
+    // Each refusal names the first box at fault.
+    const QString refusal = "Data not in correct range.Please see help for correct range of data values.\n\n";
+    EXPECT_EQ(ShownMessages()[0].text, refusal + "Date of birth is empty.");
+    EXPECT_EQ(ShownMessages()[1].text, refusal + "Bat skill must lie from 0 to 60, not -5.");
     for (const ShownMessage& message : ShownMessages()) {
-        EXPECT_EQ(message.text, "Data not in correct range.Please see help for correct range of data values.");
         EXPECT_EQ(message.title, "Error");
         EXPECT_EQ(message.flags, MbInformation);
     }
@@ -116,8 +119,8 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
     EXPECT_EQ(Places(game.Teams[Club]), (std::vector<int>{1, 2, 5}));
     ASSERT_EQ(squad.ListCount(), 3);
     EXPECT_EQ(squad.ItemData(2), 5);
-    EXPECT_EQ(squad.ListIndex(), -1);
-    EXPECT_EQ(main.CurrentPlayer(), 2) << "the player shown before stays shown";
+    EXPECT_EQ(squad.ListIndex(), 1);
+    EXPECT_EQ(main.CurrentPlayer(), 2) << "the player shown before stays shown and chosen";
 }
 
 }  // namespace

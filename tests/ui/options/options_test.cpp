@@ -22,6 +22,7 @@
 #include "forms/message_box.h"
 #include "forms/modal.h"
 #include "forms/picture_box.h"
+#include "forms/text_box.h"
 #include "mainwindow/main_window.h"
 #include "options/about_window.h"
 #include "options/folder_lists.h"
@@ -124,7 +125,7 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
         ASSERT_EQ(main.Start(), good);
         if (good) {
             EXPECT_EQ(Setting(), full);
-            EXPECT_EQ(main.windowTitle(), "KOLTA editor (" + full + ")");
+            EXPECT_EQ(ShownTitle(main), "KOLTA editor (" + full + ")");
             EXPECT_EQ(Teams(Find<ComboBox>(main, "teamList")), (std::vector<QString>{"Sydney Sixes", "Perth Pies", "Hobart Hurricanes"}));
             const auto& squad = Find<ListBox>(main, "squadList");
             EXPECT_EQ(squad.List(squad.ListIndex()), "A Smith");
@@ -139,8 +140,9 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
     }
 }
 
-// From the menu: closing changes nothing; OK reloads, dropping unsaved edits,
-// and the old game's extra teams and players are gone everywhere, not hidden.
+// From the menu: closing changes nothing; OK asks about unsaved edits, a
+// No reloads without them, and the old game's extra teams and players are
+// gone everywhere, not hidden.
 TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
 {
     ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(full)).ok());
@@ -148,34 +150,49 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
     ASSERT_TRUE(window.Start());
     QAction& optionsAction = Find<QAction>(window, "optionsAction");
     ClearShownMessages();
-    game->Teams[1].teamName = "Renamed but not saved";
-    game->Players[1].batSkill = 99;
+    Find<TextBox>(window, "team.teamName").setText("Renamed but not saved");
+    Find<TextBox>(window, "batSkill").setText("99");
 
     WhileOpen([&](OptionsWindow& options) { Find<DirList>(options, "folderList").SetPath(teamsOnly); });
     optionsAction.trigger();
     EXPECT_EQ(game->Teams[1].teamName, "Renamed but not saved");
-    EXPECT_EQ(window.windowTitle(), "KOLTA editor (" + full + ")");
+    EXPECT_EQ(ShownTitle(window), "KOLTA editor (" + full + ")*");
 
     const QString fewer = Fixture("game_one_team");  // Brisbane Bats (Green)
+    std::vector<int> answers{IdCancel, IdNo};
+    SetMessageAnswerer([&](const ShownMessage&) {
+        const int answer = answers.front();
+        answers.erase(answers.begin());
+        return answer;
+    });
     WhileOpen([&](OptionsWindow& options) {
         auto& folders = Find<DirList>(options, "folderList");
         EXPECT_EQ(folders.Path(), full);
         EXPECT_TRUE(Find<QPushButton>(options, "firstStartOkButton").isHidden());
         folders.SetPath(fewer);
+        // Cancel keeps the game and the window; No lets the edits go.
+        QTest::mouseClick(&Find<QPushButton>(options, "changeDirectoryOkButton"), Qt::LeftButton);
+        EXPECT_TRUE(options.isVisible());
+        EXPECT_EQ(game->Teams[1].teamName, "Renamed but not saved");
         QTest::mouseClick(&Find<QPushButton>(options, "changeDirectoryOkButton"), Qt::LeftButton);
         EXPECT_FALSE(options.isVisible());
     });
     optionsAction.trigger();
 
-    EXPECT_TRUE(ShownMessages().empty());
+    ASSERT_EQ(ShownMessages().size(), 2u);
+    for (const ShownMessage& asked : ShownMessages()) {
+        EXPECT_EQ(asked.text, "Do you want to update the files teams.dat and players.dat?");
+        EXPECT_EQ(asked.title, "Saving..");
+    }
     EXPECT_EQ(Setting(), fewer);
-    EXPECT_EQ(window.windowTitle(), "KOLTA Editor (" + fewer + ")");
+    EXPECT_EQ(ShownTitle(window), "KOLTA Editor (" + fewer + ")");
     EXPECT_EQ(game->Teams[1].teamName, "Brisbane Bats");
     EXPECT_EQ(game->Players[1].batSkill, 0);
     EXPECT_EQ(Teams(Find<ComboBox>(window, "teamList")), std::vector<QString>{"Brisbane Bats"});
     const auto& squad = Find<ListBox>(window, "squadList");
     EXPECT_EQ(squad.List(squad.ListIndex()), "A Green");
     EXPECT_TRUE(Find<QTimer>(window, "editTimer").isActive());
+    EXPECT_FALSE(Find<QAction>(window, "undoAction").isEnabled()) << "the old game's steps are gone";
     // Slot 2 is where the reader's pass over the closing empty lines went:
     // blank but for its number.
     TeamRecord endOfFile;

@@ -117,8 +117,8 @@ protected:
     int answer = IdOk;
 };
 
-// Add mode from the first press to a full squad. The last candidate picked
-// still counts after a new search, which leaves no row chosen.
+// Add mode from the first press to a full squad; a new search leaves no
+// candidate, and after an add the panel names his new club.
 TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
 {
     game.Players[7].batSkill = 30;
@@ -133,15 +133,19 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
         EXPECT_EQ(game.Teams, teams);
 
         SearchAndPick(form, "A P0030");
-        // Filters and order take effect when Search is pressed.
+        Click(&Find<QPushButton>(form, "addButton"));
+        Click(&Find<QPushButton>(form, "addButton"));  // him again
+        // Filters and order take effect when Search is pressed, and a new
+        // search leaves no candidate to add.
         Find<ComboBox>(form, "clubFilter").SetText("Kiwis XI");
         Find<ComboBox>(form, "sortKeyList").SetText("Bat Skill");
         EXPECT_EQ(Find<ListBox>(form, "resultList").ListCount(), 40);
         Click(&Find<QPushButton>(form, "searchButton"));  // Search
         EXPECT_THAT(Rows(Find<ListBox>(form, "resultList")), ElementsAre("A P0007", "A P0006"));
         EXPECT_FALSE(Find<Shape>(form, "sortBar").isVisible()) << "the bar is hidden after the sort";
+        EXPECT_EQ(form.Candidate(), std::nullopt);
+        EXPECT_EQ(Find<TextBox>(form, "presentClub").Text(), "");
         Click(&Find<QPushButton>(form, "addButton"));
-        Click(&Find<QPushButton>(form, "addButton"));  // him again
 
         // From other squads: he leaves them, and the message names his club.
         ClickRow(Find<ListBox>(form, "resultList"), 0);
@@ -150,15 +154,15 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
         Click(&Find<QPushButton>(form, "addButton"));
         EXPECT_EQ(ShownMessages().back().flags, MbInformation);
         EXPECT_THAT(Rows(Squad()), ElementsAre("K Venn", "A P0002", "A P0003", "A P0030", "A P0007"));
-        EXPECT_EQ(Squad().ListIndex(), -1);
+        EXPECT_EQ(Squad().ListIndex(), 0);   // the player shown stays chosen
         EXPECT_THAT(Places(game.Teams[Newlands]), ElementsAre(8));
-        // The panel is not refreshed: the old club stays until the next pick.
-        EXPECT_EQ(Find<TextBox>(form, "presentClub").Text(), "Newlands");
+        EXPECT_EQ(Find<TextBox>(form, "presentClub").Text(), "Harbour CC");
         EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "Player already in team",
                                          "A P0030 has been added to the Harbour CC squad.", "Player already in team",
+                                         "No Player Selected",
                                          "A P0007 has been added to the Harbour CC squad and removed from "
                                          "Newlands squad."));
-        EXPECT_THAT(Titles(), ElementsAre("Add Player", "Error", "Add Player", "Error", "Add Player"));
+        EXPECT_THAT(Titles(), ElementsAre("Add Player", "Error", "Add Player", "Error", "Add Player", "Add Player"));
 
         // Players without a team, up to the twentieth; then the limit comes
         // first, also for a candidate who is in the squad.
@@ -216,19 +220,16 @@ TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
         EXPECT_EQ(Find<ComboBox>(form, "sortKeyList").ListIndex(), 0);
         EXPECT_EQ(Find<ListBox>(form, "resultList").ListCount(), 0);
         EXPECT_EQ(form.Candidate(), std::nullopt);
-        // A name edit carried over under the window rebuilds the squad list
-        // and leaves no row chosen.
+        // A name edit carried over under the window rebuilds the squad list;
+        // the row of the player shown stays chosen.
         SearchAndPick(form, "A P0003");
         main->RefreshSquad();
-        Click(&Find<QPushButton>(form, "replaceButton"));
-        ClickRow(Squad(), 0);
         Click(&Find<QPushButton>(form, "replaceButton"));
     });
     EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "Player already in team",
                                      "S T Quill from Bayside has replaced A P0003 in the Harbour CC squad.",
-                                     "No Player Selected", "No Player Selected",
-                                     "A P0003 has replaced K Venn in the Harbour CC squad."));
-    EXPECT_THAT(Titles(), ElementsAre("Replace Player", "Error", "Replace Player", "Replace Player", "Replace Player",
+                                     "No Player Selected", "A P0003 has replaced K Venn in the Harbour CC squad."));
+    EXPECT_THAT(Titles(), ElementsAre("Replace Player", "Error", "Replace Player", "Replace Player",
                                       "Replace Player"));
     EXPECT_THAT(Rows(Squad()), ElementsAre("A P0003", "A P0002", "S T Quill"));
 }

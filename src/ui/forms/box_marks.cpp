@@ -1,0 +1,45 @@
+#include "forms/box_marks.h"
+
+#include <QLineEdit>
+#include <QVariant>
+
+namespace {
+
+constexpr char MarkProperty[] = "boxMark";
+
+QColor TintOf(BoxMark mark)
+{
+    return mark == BoxMark::Refused ? QColor(0xff, 0xc8, 0xc8) : QColor(0xff, 0xf0, 0xa8);
+}
+
+}  // namespace
+
+void MarkBox(QLineEdit& box, BoxMark mark, const QString& why)
+{
+    if (MarkOf(box) == mark && box.toolTip() == why)
+        return;
+    box.setProperty(MarkProperty, int(mark));
+    if (mark == BoxMark::Plain) {
+        box.setPalette(QPalette());   // the window's own colours again
+    } else {
+        QPalette palette = box.palette();
+        palette.setColor(QPalette::Base, TintOf(mark));
+        box.setPalette(palette);
+    }
+    box.setToolTip(why);
+}
+
+BoxMark MarkOf(const QLineEdit& box)
+{
+    return BoxMark(box.property(MarkProperty).toInt());
+}
+
+QString MarkNumberBox(QLineEdit& box, const NumberEntry& entry)
+{
+    const BoxMark mark = entry.kind == NumberEntry::Kind::Refused  ? BoxMark::Refused
+                         : entry.kind == NumberEntry::Kind::Unusual ? BoxMark::Unusual
+                                                                    : BoxMark::Plain;
+    const QString why = QString::fromStdString(entry.message);
+    MarkBox(box, mark, why);
+    return why;
+}

@@ -1,0 +1,77 @@
+// What a person typing is told: the number a box's field ends up holding,
+// and why a name box turned a key away.
+#include "data/number_entry.h"
+
+#include <gtest/gtest.h>
+
+#include "data/names.h"
+
+namespace {
+
+using Kind = NumberEntry::Kind;
+
+TEST(NumberEntry, PlainWholeNumbersAreStoredAndTheRestIsRefusedWithWhatTheFieldHolds)
+{
+    const Field<PlayerRecord>& batSkill = *FieldOf<PlayerRecord>(PlayerFields, &PlayerRecord::batSkill);
+    const Field<PlayerRecord>& birthYear = *FieldOf<PlayerRecord>(PlayerFields, &PlayerRecord::birthYear);
+    PlayerRecord player;
+    player.batSkill = 52;
+    player.birthYear = 1980;
+
+    const struct {
+        std::string text;
+        const Field<PlayerRecord>& field;
+        Kind kind;
+        int value;
+    } cases[] = {
+        {"44", batSkill, Kind::Stored, 44},
+        {" +007 ", batSkill, Kind::Stored, 7},
+        {"0", batSkill, Kind::Stored, 0},
+        {"60", batSkill, Kind::Stored, 60},
+        // Outside the game's range but a number the file can hold.
+        {"61", batSkill, Kind::Unusual, 61},
+        {"-1", batSkill, Kind::Unusual, -1},
+        {"32767", batSkill, Kind::Unusual, 32767},
+        // A date of birth has no range of its own.
+        {"-32768", birthYear, Kind::Stored, -32768},
+        // Texts the field does not take as they stand: it keeps its value,
+        // or holds what the conversion makes of the text.
+        {"1234567", batSkill, Kind::Refused, 52},
+        {"32768", batSkill, Kind::Refused, 52},
+        {"0x1F", batSkill, Kind::Refused, 52},
+        {"1,5", batSkill, Kind::Refused, 52},
+        {"", batSkill, Kind::Refused, 52},
+        {"-", birthYear, Kind::Refused, 1980},
+        {"12.5", batSkill, Kind::Refused, 12},
+        {"1e1", batSkill, Kind::Refused, 10},
+    };
+    for (const auto& c : cases) {
+        const NumberEntry entry = JudgeNumberEntry(c.text, player, c.field);
+        EXPECT_EQ(entry.kind, c.kind) << '"' << c.text << '"';
+        EXPECT_EQ(entry.value, c.value) << '"' << c.text << '"';
+        EXPECT_EQ(entry.message.empty(), c.kind == Kind::Stored) << '"' << c.text << '"';
+    }
+
+    EXPECT_EQ(JudgeNumberEntry("1234567", player, batSkill).message,
+              "Bat skill takes a whole number from -32768 to 32767: the record holds 52.");
+    EXPECT_EQ(JudgeNumberEntry("75", player, batSkill).message,
+              "Bat skill runs from 0 to 60 in the game: 75 is stored all the same.");
+}
+
+TEST(NumberEntry, NameRefusalsSayWhatTheFilesCannotCarry)
+{
+    const struct {
+        std::string name;
+        std::string refusal;
+    } cases[] = {
+        {"O'Neil \"Jr\"", ""},
+        {"Smith, J", "A name cannot hold a comma"},
+        {"\"Quoted", "A name cannot begin with a double quote"},
+        {" Leading", "A name cannot begin with a blank"},
+        {"Two\r\nLines", "A name cannot hold a line break"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(NameRefusal(c.name).value_or(""), c.refusal) << c.name;
+}
+
+}  // namespace
