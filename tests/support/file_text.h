@@ -1,11 +1,19 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "data/file_io.h"
 #include "data/game.h"
+
+// What a file holds, or "<missing>" when it cannot be read.
+inline std::string Bytes(const std::filesystem::path& path)
+{
+    return ReadWholeFile(PathText(path)).value_or("<missing>");
+}
 
 // The lines of a game file as a test writes them down.
 using Lines = std::vector<std::string>;

@@ -25,6 +25,7 @@
 #include "data/save.h"
 #include "data/setting_file.h"
 #include "data/teams_file.h"
+#include "support/file_text.h"
 
 namespace fs = std::filesystem;
 
@@ -39,11 +40,6 @@ fs::path ProgramFolder()
 #else
     return fs::read_symlink("/proc/self/exe").parent_path();
 #endif
-}
-
-std::string Bytes(const fs::path& path)
-{
-    return ReadWholeFile(PathText(path)).value_or("<missing>");
 }
 
 // Files a save writes on the way, which it must not leave behind.

@@ -28,11 +28,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string Bytes(const fs::path& path)
-{
-    return ReadWholeFile(path.string()).value_or("<missing>");
-}
-
 const std::string OldPlayers = Bytes(KOLTA_SAMPLE "/players.dat");
 const std::string OldTeams = Bytes(KOLTA_SAMPLE "/teams.dat");
 
