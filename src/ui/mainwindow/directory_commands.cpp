@@ -1,5 +1,6 @@
 #include <QLabel>
 
+#include "forms/message_box.h"
 #include "forms/modal.h"
 #include "mainwindow/game_tools.h"
 #include "mainwindow/main_window.h"
@@ -18,9 +19,11 @@ void MainWindow::LoadNewDirectory()
     currentPlayer_.reset();
     shownTeam_.reset();
     teamNumberLabel_->clear();
-    LoadGameDirectory();
+    const std::optional<QString> refused = LoadGameDirectory();
     ShowFirstEntries();
     tools_->CheckFiles();
+    if (refused)
+        MsgBox(*refused, MbExclamation, QStringLiteral("Info"));
 }
 
 void MainWindow::OnOptions()

@@ -135,12 +135,13 @@ private:
 
     bool ChooseFirstDirectory();
     // Loads the game's directory, says what became of a save cut off there
-    // and whether another editor has it open.
-    void LoadGameDirectory();
+    // and whether another editor has it open. Returns why a file that is
+    // there could not be read, if one could not.
+    std::optional<QString> LoadGameDirectory();
     void LoadNewDirectory();
-    // A game folder that cannot be opened at start is told, with the offer
-    // to choose another.
-    void OfferOtherFolder();
+    // A game folder that cannot be opened at start, or a file in it that was
+    // `refused`, is told, with the offer to choose another folder.
+    void OfferOtherFolder(const std::optional<QString>& refused);
     bool SaveAll();
     // The question on leaving the game: Yes, No or Cancel.
     int AskToSave();

@@ -23,6 +23,6 @@ QString FilesBeforeSave::FailureText(const FileResult& result) const
     else
         outcome = QStringLiteral("Both files were written.");
     return QStringLiteral("Could not save %1:\n%2\n\n%3 Your changes are still in the editor.")
-        .arg(QFile::decodeName(QByteArray::fromStdString(result.path)), QString::fromStdString(result.reason),
+        .arg(QString::fromStdString(result.path), QString::fromStdString(result.reason),
              outcome);
 }

@@ -20,14 +20,14 @@ bool MainWindow::Start()
     SetGameDirectory(game_, game_.GameDirectory);
     // A missing or damaged file is no reason to stop: the window shows what
     // could be read, says what is wrong and offers to choose another folder.
-    LoadGameDirectory();
+    const std::optional<QString> refused = LoadGameDirectory();
     ShowFirstEntries();
     tools_->CheckFiles();
-    OfferOtherFolder();
+    OfferOtherFolder(refused);
     return true;
 }
 
-void MainWindow::LoadGameDirectory()
+std::optional<QString> MainWindow::LoadGameDirectory()
 {
     const GameLoad load = LoadGame(game_);
     if (!load.recovered.empty())
@@ -35,12 +35,13 @@ void MainWindow::LoadGameDirectory()
     // A missing file loads as an empty one; OfferOtherFolder tells of it. A
     // file refused for what it is (a device, a folder, a giant) is named
     // with the reason.
+    std::optional<QString> refused;
     for (const LoadReport* report : {&load.players, &load.teams}) {
-        if (!report->Read() && QFileInfo::exists(QDir(QString::fromStdString(game_.GameDirectory))
-                                                .filePath(QString::fromStdString(report->file))))
-            MsgBox(QStringLiteral("%1 was not read: %2")
-                       .arg(QString::fromStdString(report->file), QString::fromStdString(report->failure)),
-                   MbExclamation, QStringLiteral("Info"));
+        if (!refused && !report->Read() &&
+            QFileInfo::exists(QDir(QString::fromStdString(game_.GameDirectory))
+                                  .filePath(QString::fromStdString(report->file))))
+            refused = QStringLiteral("%1 was not read: %2")
+                          .arg(QString::fromStdString(report->file), QString::fromStdString(report->failure));
     }
     presence_.reset();
     presence_ = std::make_unique<FolderPresence>(game_.GameDirectory);
@@ -48,11 +49,14 @@ void MainWindow::LoadGameDirectory()
         MsgBox(QStringLiteral("Another editor has this game directory open. If both of you save, "
                               "the second save is refused."),
                MbInformation, QStringLiteral("Info"));
+    return refused;
 }
 
-void MainWindow::OfferOtherFolder()
+void MainWindow::OfferOtherFolder(const std::optional<QString>& refused)
 {
-    const auto trouble = GameFolderTrouble(QFile::decodeName(QByteArray::fromStdString(game_.GameDirectory)));
+    std::optional<QString> trouble = GameFolderTrouble(QString::fromStdString(game_.GameDirectory));
+    if (!trouble)
+        trouble = refused;
     if (!trouble)
         return;
     const int answer = MsgBox(*trouble + QStringLiteral("\n\nDo you want to choose the game's folder now "
@@ -66,5 +70,5 @@ void MainWindow::SetTitle(const QString& caption)
 {
     // The mark stands for unsaved changes and shows only while there are some.
     setWindowTitle(QStringLiteral("%1 (%2)[*]")
-                       .arg(caption, QFile::decodeName(QByteArray::fromStdString(game_.GameDirectory))));
+                       .arg(caption, QString::fromStdString(game_.GameDirectory)));
 }

@@ -4,6 +4,7 @@
 // take as typed is shown.
 
 #include <QDir>
+#include <QFile>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTimer>
@@ -348,26 +349,39 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
     EXPECT_EQ(main->statusBar()->currentMessage(), "A name cannot hold a comma");
 }
 
-// A game folder that cannot be opened at start is named, with the reason,
-// and File > Options is offered.
-TEST_F(UnsavedWork, AMissingGameFolderAtStartIsToldAndOptionsOffered)
+// A game folder that cannot be opened at start, or a game file in it that is
+// no file at all, is named with the reason, and File > Options is offered.
+TEST_F(UnsavedWork, AGameFolderThatCannotBeOpenedAtStartIsToldAndOptionsOffered)
 {
     const QString missing = root_.filePath("gone");
+    const QString refusing = root_.filePath("refusing");
+    ASSERT_TRUE(QDir().mkpath(refusing + "/players.dat"));
+    ASSERT_TRUE(QFile::copy(KOLTA_SAMPLE "/teams.dat", refusing + "/teams.dat"));
     const SettingPlaces places{root_.filePath("editor.dat"), root_.filePath("config/editor.dat")};
-    ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(missing)).ok());
-    for (const int answer : {IdNo, IdYes}) {
+    const struct {
+        QString folder;
+        QString told;
+        int answer;
+    } cases[] = {
+        {missing, "The game folder " + QDir::toNativeSeparators(missing) + " does not exist.", IdNo},
+        {missing, "The game folder " + QDir::toNativeSeparators(missing) + " does not exist.", IdYes},
+        {refusing, "players.dat was not read: it is a folder, not a file", IdNo},
+        {refusing, "players.dat was not read: it is a folder, not a file", IdYes},
+    };
+    for (const auto& c : cases) {
+        ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(c.folder)).ok());
         ClearShownMessages();
-        Answer({answer});
+        Answer({c.answer});
         bool optionsShown = false;
         SetModalDriver([&](QDialog& shown) { optionsShown = dynamic_cast<OptionsWindow*>(&shown) != nullptr; });
+        main.reset();
         game = std::make_unique<Game>();
         main = std::make_unique<MainWindow>(*game, places);
         ASSERT_TRUE(main->Start());
-        ASSERT_EQ(ShownMessages().size(), 1u);
-        EXPECT_EQ(ShownMessages()[0].text, "The game folder " + QDir::toNativeSeparators(missing) +
-                                               " does not exist.\n\nDo you want to choose the game's folder now "
-                                               "(File > Options)?");
-        EXPECT_EQ(optionsShown, answer == IdYes);
+        ASSERT_EQ(ShownMessages().size(), 1u) << c.told.toStdString();
+        EXPECT_EQ(ShownMessages()[0].text,
+                  c.told + "\n\nDo you want to choose the game's folder now (File > Options)?");
+        EXPECT_EQ(optionsShown, c.answer == IdYes);
     }
 }
 
