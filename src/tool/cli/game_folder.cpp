@@ -1,5 +1,6 @@
 #include "cli/game_folder.h"
 
+#include "data/file_steps.h"
 #include "data/load_game.h"
 
 namespace {
@@ -28,6 +29,12 @@ LoadedGame LoadGameFolder(const std::string& directory)
 LoadedGame LoadGameBeside(const std::string& directory, const std::string& suffix)
 {
     return Load(directory, suffix);
+}
+
+bool OnlyMissingFilesUnread(const LoadedGame& loaded)
+{
+    return (loaded.players.Read() || !Exists(loaded.game->PlayersPath)) &&
+           (loaded.teams.Read() || !Exists(loaded.game->TeamsPath));
 }
 
 std::string UnreadFiles(const LoadedGame& loaded)

@@ -27,6 +27,11 @@ void TellRecovery(const LoadedGame& loaded, std::string_view command, std::ostre
 // first save of a run found them; ".orig", as the first save ever found them.
 LoadedGame LoadGameBeside(const std::string& directory, const std::string& suffix);
 
+// Whether every game file that could not be read is simply not there, so
+// that the game loads without it as the editor would. A file that is there
+// and cannot be read (a pipe, a device, a folder, no permission) is a fault.
+bool OnlyMissingFilesUnread(const LoadedGame& loaded);
+
 // "DIR/players.dat (Permission denied)", ...: the files of `loaded` that
 // could not be read and why, said for a message; empty when both were read.
 std::string UnreadFiles(const LoadedGame& loaded);
