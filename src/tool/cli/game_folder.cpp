@@ -1,6 +1,7 @@
 #include "cli/game_folder.h"
 
 #include "data/file_steps.h"
+#include "data/folder_lock.h"
 #include "data/load_game.h"
 
 namespace {
@@ -57,4 +58,11 @@ void TellRecovery(const LoadedGame& loaded, std::string_view command, std::ostre
 {
     if (!loaded.recovered.empty())
         err << "kolta-data " << command << ": " << loaded.recovered << '\n';
+}
+
+void TellOpenEditor(const std::string& directory, std::string_view command, std::ostream& err)
+{
+    if (EditorHasFolderOpen(directory))
+        err << "kolta-data " << command << ": an editor has " << directory
+            << " open and still holds the game as it was before\n";
 }

@@ -23,6 +23,11 @@ LoadedGame LoadGameFolder(const std::string& directory);
 // Writes what the load did about a cut-off save, if anything, as a note of `command`.
 void TellRecovery(const LoadedGame& loaded, std::string_view command, std::ostream& err);
 
+// After `command` saved the game in `directory`: says so on the error stream
+// when an editor has that folder open, since the editor still holds the game
+// as it was before.
+void TellOpenEditor(const std::string& directory, std::string_view command, std::ostream& err);
+
 // The pair kept beside the files under `suffix`: ".bak", the files as the
 // first save of a run found them; ".orig", as the first save ever found them.
 LoadedGame LoadGameBeside(const std::string& directory, const std::string& suffix);
