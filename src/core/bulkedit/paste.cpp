@@ -55,7 +55,8 @@ BulkEdit Paste(const Game& game, RecordKind kind, std::span<const int> rows,
     BulkEdit plan;
     plan.change = NoChange(game);
     int outside = 0;
-    for (const auto& [number, after] : changed) {
+    for (const auto& [number, record] : changed) {
+        const Record& after = record;  // clang cannot capture a structured binding
         const bool anyOutside = std::any_of(columns.begin(), columns.end(),
                                             [&after](const TableColumn* column) { return OutsideRange(*column, after); });
         outside += anyOutside ? 1 : 0;
