@@ -45,19 +45,32 @@ bool ReadCode(const CodeList& codes, std::string_view text, FieldValue& value)
 }
 
 template <class Record>
-std::string Put(const FieldValue& value, Record& record)
+int Result(const FieldValue& value, const Record& record)
 {
     const Field<Record>& field = ColumnField<Record>(*value.column);
-    if (field.text) {
-        record.*field.text = value.text;
+    return value.relative ? record.*field.number + value.number : value.number;
+}
+
+template <class Record>
+std::string Problem(const FieldValue& value, const Record& record)
+{
+    if (value.column->IsName())
         return {};
-    }
-    const int result = value.relative ? record.*field.number + value.number : value.number;
-    if (result < Lowest || result > Highest)
-        return value.column->name + " would be " + std::to_string(result) + ", beyond what the record holds (" +
-               std::to_string(Lowest) + " to " + std::to_string(Highest) + ")";
-    record.*field.number = static_cast<std::int16_t>(result);
-    return {};
+    const int result = Result(value, record);
+    if (result >= Lowest && result <= Highest)
+        return {};
+    return value.column->name + " would be " + std::to_string(result) + ", beyond what the record holds (" +
+           std::to_string(Lowest) + " to " + std::to_string(Highest) + ")";
+}
+
+template <class Record>
+void Put(const FieldValue& value, Record& record)
+{
+    const Field<Record>& field = ColumnField<Record>(*value.column);
+    if (field.text)
+        record.*field.text = value.text;
+    else
+        record.*field.number = static_cast<std::int16_t>(Result(value, record));
 }
 
 template <class Record>
@@ -109,14 +122,24 @@ FieldValue ReadFieldValue(const TableColumn& column, std::string_view typed, boo
     return value;
 }
 
-std::string PutFieldValue(const FieldValue& value, PlayerRecord& record)
+std::string ValueProblem(const FieldValue& value, const PlayerRecord& record)
 {
-    return Put(value, record);
+    return Problem(value, record);
 }
 
-std::string PutFieldValue(const FieldValue& value, TeamRecord& record)
+std::string ValueProblem(const FieldValue& value, const TeamRecord& record)
 {
-    return Put(value, record);
+    return Problem(value, record);
+}
+
+void PutFieldValue(const FieldValue& value, PlayerRecord& record)
+{
+    Put(value, record);
+}
+
+void PutFieldValue(const FieldValue& value, TeamRecord& record)
+{
+    Put(value, record);
 }
 
 bool OutsideRange(const TableColumn& column, const PlayerRecord& record)

@@ -20,10 +20,14 @@ struct FieldValue {
 // "-3" ("=-3" sets -3).
 FieldValue ReadFieldValue(const TableColumn& column, std::string_view typed, bool relativeAllowed);
 
-// Puts the value into `record`, or says why the record cannot hold it (a
-// relative change past 16 bits) and leaves it alone.
-std::string PutFieldValue(const FieldValue& value, PlayerRecord& record);
-std::string PutFieldValue(const FieldValue& value, TeamRecord& record);
+// Why `record` cannot take the value (a relative change past 16 bits), or
+// empty when it can.
+std::string ValueProblem(const FieldValue& value, const PlayerRecord& record);
+std::string ValueProblem(const FieldValue& value, const TeamRecord& record);
+
+// Puts into `record` a value it can take.
+void PutFieldValue(const FieldValue& value, PlayerRecord& record);
+void PutFieldValue(const FieldValue& value, TeamRecord& record);
 
 // Whether the field of `record` lies outside the range the game gives it.
 bool OutsideRange(const TableColumn& column, const PlayerRecord& record);

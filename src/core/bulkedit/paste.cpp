@@ -49,7 +49,7 @@ BulkEdit Paste(const Game& game, RecordKind kind, std::span<const int> rows,
             const FieldValue value = ReadFieldValue(*columns[c], cells[c % cells.size()], false);
             if (!value.refusal.empty())
                 return Refused(RecordTitle(game, kind, number) + ": " + value.refusal, number);
-            PutFieldValue(value, after);
+            PutFieldValue(value, after);  // an absolute value fits every record
         }
     }
     BulkEdit plan;

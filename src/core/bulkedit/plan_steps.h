@@ -35,6 +35,16 @@ const TableColumn* EditableColumn(RecordKind kind, std::string_view name, std::s
 // A change that leaves the counts as the game has them, and no record yet.
 RecordChange NoChange(const Game& game);
 
+// The copies of the change that hold records of this kind.
+template <class Record>
+auto& CopiesOf(RecordChange& change)
+{
+    if constexpr (std::is_same_v<Record, PlayerRecord>)
+        return change.players;
+    else
+        return change.teams;
+}
+
 // Adds `after` to the change when it differs from the game's record;
 // records must come in ascending number.
 void AddCopy(RecordChange& change, const Game& game, int number, const PlayerRecord& after);

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 #include "bulkedit/bulk_edit.h"
@@ -11,31 +10,35 @@ namespace {
 template <class Record>
 BulkEdit SetValue(const Game& game, RecordKind kind, const FieldValue& value, std::span<const int> numbers)
 {
-    std::vector<std::pair<int, Record>> changed;
-    changed.reserve(numbers.size());
     // Checked in the order shown, so that the first at fault is the one named.
     for (const int number : numbers) {
         if (!IsTableRecord(game, kind, number))
             return Refused(NoSuchRecord(kind, number), number);
-        Record after = RecordIn<Record>(game, number);
-        if (std::string reason = PutFieldValue(value, after); !reason.empty())
+        if (std::string reason = ValueProblem(value, RecordIn<Record>(game, number)); !reason.empty())
             return Refused(RecordTitle(game, kind, number) + ": " + reason, number);
-        changed.emplace_back(number, std::move(after));
     }
-    std::stable_sort(changed.begin(), changed.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
-    changed.erase(std::unique(changed.begin(), changed.end(),
-                              [](const auto& a, const auto& b) { return a.first == b.first; }),
-                  changed.end());
+    std::vector<int> chosen(numbers.begin(), numbers.end());
+    std::sort(chosen.begin(), chosen.end());
+    chosen.erase(std::unique(chosen.begin(), chosen.end()), chosen.end());
 
     BulkEdit plan;
     plan.change = NoChange(game);
+    auto& copies = CopiesOf<Record>(plan.change);
+    copies.reserve(chosen.size());
     int outside = 0;
-    for (const auto& [number, after] : changed) {
-        outside += OutsideRange(*value.column, after) ? 1 : 0;
-        AddCopy(plan.change, game, number, after);
+    for (const int number : chosen) {
+        const Record& before = RecordIn<Record>(game, number);
+        auto& copy = copies.emplace_back();
+        copy.number = static_cast<std::int16_t>(number);
+        copy.before = before;
+        copy.after = before;
+        PutFieldValue(value, copy.after);
+        outside += OutsideRange(*value.column, copy.after) ? 1 : 0;
+        if (copy.after == before)
+            copies.pop_back();
     }
     plan.note = RangeNote(outside, kind);
-    plan.summary = "set " + value.column->name + " on " + Counted(static_cast<int>(changed.size()), kind);
+    plan.summary = "set " + value.column->name + " on " + Counted(static_cast<int>(chosen.size()), kind);
     return plan;
 }
 
