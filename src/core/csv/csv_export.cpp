@@ -7,6 +7,21 @@
 #include "csv/csv_layout.h"
 #include "data/squad.h"
 
+namespace {
+
+std::string CsvOf(const Game& game, const CsvRow& header, CsvRow (*row)(const Game&, int), int last,
+                  std::span<const int> numbers)
+{
+    std::string text = CsvLine(header);
+    for (const int number : numbers) {
+        if (number >= 1 && number <= last)
+            text += CsvLine(row(game, number));
+    }
+    return text;
+}
+
+}  // namespace
+
 std::string PlayersCsv(const Game& game, const CsvSelection& selection)
 {
     std::vector<int> numbers;
@@ -36,20 +51,10 @@ std::string TeamsCsv(const Game& game, const CsvSelection& selection)
 
 std::string PlayersCsvOf(const Game& game, std::span<const int> numbers)
 {
-    std::string text = CsvLine(PlayerColumns());
-    for (const int number : numbers) {
-        if (number >= 1 && number <= LoadedPlayerCount(game))
-            text += CsvLine(PlayerRow(game, number));
-    }
-    return text;
+    return CsvOf(game, PlayerColumns(), PlayerRow, LoadedPlayerCount(game), numbers);
 }
 
 std::string TeamsCsvOf(const Game& game, std::span<const int> numbers)
 {
-    std::string text = CsvLine(TeamColumns());
-    for (const int number : numbers) {
-        if (number >= 1 && number <= LoadedTeamCount(game))
-            text += CsvLine(TeamRow(game, number));
-    }
-    return text;
+    return CsvOf(game, TeamColumns(), TeamRow, LoadedTeamCount(game), numbers);
 }
