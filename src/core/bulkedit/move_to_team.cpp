@@ -36,7 +36,8 @@ BulkEdit PlanMoveToTeam(const Game& game, std::span<const int> players, int team
     std::sort(joining.begin(), joining.end());
     for (const int player : joining)
         AddCopy(plan.change, game, player, moved->Players[static_cast<std::size_t>(player)]);
-    for (int number = 1; number <= LoadedTeamCount(game); ++number)
+    // Every squad a player may be taken out of, as DetachFromSquads looks.
+    for (int number = 1; number <= LastTeamSearched(game); ++number)
         AddCopy(plan.change, game, number, moved->Teams[static_cast<std::size_t>(number)]);
     plan.summary = "move of " + Counted(static_cast<int>(joining.size()), RecordKind::Player) + " to " +
                    TeamTitle(game, team);

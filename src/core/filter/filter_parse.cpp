@@ -44,7 +44,6 @@ public:
     ParsedFilter Read()
     {
         ParsedFilter parsed;
-        parsed.filter.kind = kind_;
         auto& groups = parsed.filter.groups;
         groups.emplace_back();
         const FilterToken* lastOr = nullptr;
@@ -110,15 +109,15 @@ private:
     // Plain words side by side are one text, as Find Player takes "A J Smi".
     void AddNameWord(const FilterToken& token)
     {
-        if (namesEnd_ != 0)
+        if (namesPending_)
             names_ += ' ';
         names_ += token.text;
-        namesEnd_ = token.end;
+        namesPending_ = true;
     }
 
     void FlushNames(std::vector<FilterTerm>& group)
     {
-        if (names_.empty() && namesEnd_ == 0)
+        if (!namesPending_)
             return;
         FilterTerm term;
         term.test = FilterTerm::Test::Name;
@@ -126,7 +125,7 @@ private:
         term.key = term.digits ? names_ : NameKey(names_);
         group.push_back(std::move(term));
         names_.clear();
-        namesEnd_ = 0;
+        namesPending_ = false;
     }
 
     // A quoted text, or a word and as many more as some candidate begins with.
@@ -246,7 +245,7 @@ private:
     RecordKind kind_;
     const Game& game_;
     std::string names_;
-    int namesEnd_ = 0;
+    bool namesPending_ = false;  // a quoted "" is a name word too
 };
 
 }  // namespace
