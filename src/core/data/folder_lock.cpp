@@ -87,6 +87,21 @@ FolderPresence::~FolderPresence()
     if (handle_)
         CloseHandle(static_cast<HANDLE>(handle_));
 }
+
+bool EditorHasFolderOpen(const std::string& folder)
+{
+    HANDLE handle = CreateFileW(NativePath(JoinPath(folder, PresenceFile)).c_str(), GENERIC_READ,
+                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return false;
+    OVERLAPPED whole{};
+    const bool nobodyHolds = LockFileEx(handle, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &whole);
+    if (nobodyHolds)
+        UnlockFileEx(handle, 0, 1, 0, &whole);
+    CloseHandle(handle);
+    return !nobodyHolds;
+}
 #else
 FolderLock::FolderLock(const std::string& folder, std::chrono::milliseconds patience)
 {
@@ -134,5 +149,16 @@ FolderPresence::~FolderPresence()
     if (::flock(fd_, LOCK_EX | LOCK_NB) == 0)
         ::unlink(path_.c_str());
     ::close(fd_);
+}
+
+bool EditorHasFolderOpen(const std::string& folder)
+{
+    // A file left by an editor that died is held by nobody: no editor.
+    const int fd = ::open(JoinPath(folder, PresenceFile).c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return false;
+    const bool held = ::flock(fd, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    ::close(fd);
+    return held;
 }
 #endif

@@ -210,6 +210,24 @@ TEST_F(PairCommit, ASecondWriterWaitsThenChangesNothing)
     EXPECT_EQ(Bytes(dir / "players.dat"), WritePlayers(*first));
     EXPECT_EQ(Bytes(dir / "teams.dat"), WriteTeams(*first));
 #endif
+
+    // Asked to, the second writes over another program's save; the pair it
+    // replaced stays beside it as the .prev pair.
+    auto other = NewGame();
+    SetGameDirectory(*other, dir.string());
+    LoadGame(*other);
+    other->Players[2].surname = "Theirs";
+    ASSERT_TRUE(SaveGame(*other).ok());
+    const std::string theirPlayers = Bytes(dir / "players.dat");
+    const std::string theirTeams = Bytes(dir / "teams.dat");
+    EXPECT_TRUE(FilesChangedSinceLoaded(*second));
+    EXPECT_FALSE(SaveGame(*second).ok());
+    EXPECT_EQ(Bytes(dir / "players.dat"), theirPlayers);
+    ASSERT_TRUE(SaveGame(*second, false, OtherChanges::Overwrite).ok());
+    EXPECT_EQ(Bytes(dir / "teams.dat"), WriteTeams(*second));
+    EXPECT_EQ(Bytes(dir / "players.dat.prev"), theirPlayers);
+    EXPECT_EQ(Bytes(dir / "teams.dat.prev"), theirTeams);
+    EXPECT_FALSE(FilesChangedSinceLoaded(*second));
 }
 
 TEST_F(PairCommit, ASecondEditorOnTheFolderIsToldAndTheLastOneTidiesUp)
@@ -217,13 +235,16 @@ TEST_F(PairCommit, ASecondEditorOnTheFolderIsToldAndTheLastOneTidiesUp)
     auto game = NewGame();
     const fs::path dir = ChangedCopy(*game);
     {
+        EXPECT_FALSE(EditorHasFolderOpen(dir.string()));
         const FolderPresence first(dir.string());
         EXPECT_FALSE(first.OthersHadItOpen());
         const FolderPresence second(dir.string());
         EXPECT_TRUE(second.OthersHadItOpen());
+        EXPECT_TRUE(EditorHasFolderOpen(dir.string()));
         EXPECT_TRUE(SaveGame(*game).ok());  // an open editor is no writer
     }
     EXPECT_FALSE(fs::exists(dir / "kolta-editor.open"));
+    EXPECT_FALSE(EditorHasFolderOpen(dir.string()));
     const FolderPresence alone(dir.string());
     EXPECT_FALSE(alone.OthersHadItOpen());
 }
