@@ -75,15 +75,16 @@ void SortBySkill(SearchRows& rows, std::int16_t PlayerRecord::*skill, const Sort
 {
     const int last = static_cast<int>(rows.size());
     std::vector<std::int16_t> keys(rows.size() + 1);
-    std::vector<std::int64_t> order(rows.size());
+    std::vector<std::pair<std::int16_t, int>> order;
+    order.reserve(rows.size());
     for (int row = 1; row <= last; ++row) {
         keys[row] = static_cast<std::int16_t>(~(Row(rows, row).*skill));
-        order[std::size_t(row - 1)] = std::int64_t{keys[row]} << 32 | row;
+        order.emplace_back(keys[row], row);
     }
     std::sort(order.begin(), order.end());
     std::vector<int> rowAt(rows.size() + 1);
     for (int place = 1; place <= last; ++place)
-        rowAt[place] = static_cast<int>(order[std::size_t(place - 1)] & 0xFFFF'FFFF);
+        rowAt[place] = order[std::size_t(place - 1)].second;
     ListInOrder(rows, std::move(keys), std::move(rowAt), progress);
 }
 
