@@ -9,6 +9,7 @@
 #include "data/game.h"
 #include "search/player_sort.h"
 #include "search/search_filters.h"
+#include "search_floor.h"
 
 namespace {
 
@@ -59,6 +60,22 @@ void BM_WorstCaseSearch(benchmark::State& state)
     benchmark::DoNotOptimize(lastWidth);
 }
 BENCHMARK(BM_WorstCaseSearch)
+    ->ArgNames({"key", "sharedPrefix"})
+    ->Args({static_cast<int>(SortKey::Surname), 0})
+    ->Args({static_cast<int>(SortKey::Surname), 1})
+    ->Args({static_cast<int>(SortKey::BatSkill), 0})
+    ->Unit(benchmark::kMillisecond);
+
+// The floor under the worst search: the same rows in the same order by the
+// standard library's stable sort, with no bar to move.
+void BM_StableSortFloor(benchmark::State& state)
+{
+    const auto game = ReversedGame(state.range(1) != 0);
+    const auto key = static_cast<SortKey>(state.range(0));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(SearchByStableSort(*game, key).front());
+}
+BENCHMARK(BM_StableSortFloor)
     ->ArgNames({"key", "sharedPrefix"})
     ->Args({static_cast<int>(SortKey::Surname), 0})
     ->Args({static_cast<int>(SortKey::Surname), 1})

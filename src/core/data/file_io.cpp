@@ -151,9 +151,16 @@ FileBytes ReadFileBytes(const std::string& path)
         read.reason = NotRegular(S_ISDIR(info.st_mode));
     else if (static_cast<std::uintmax_t>(info.st_size) > MaxFileSize)
         read.reason = TooLarge();
-    std::array<char, 1 << 16> block;
+    // Read straight into the result, with a byte to spare so that the read
+    // which finds the end needs no more room; a file that grows meanwhile,
+    // or says it is empty as some system files do, gets more as it goes.
+    std::size_t filled = 0;
+    if (read.reason.empty())
+        read.bytes.resize(static_cast<std::size_t>(info.st_size) + 1);
     while (read.reason.empty()) {
-        const ssize_t got = ::read(fd, block.data(), block.size());
+        if (filled == read.bytes.size())
+            read.bytes.resize(filled + (1 << 16));
+        const ssize_t got = ::read(fd, read.bytes.data() + filled, read.bytes.size() - filled);
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)
@@ -161,13 +168,12 @@ FileBytes ReadFileBytes(const std::string& path)
         else if (got == 0)
             break;
         else
-            read.bytes.append(block.data(), static_cast<std::size_t>(got));
-        if (read.bytes.size() > MaxFileSize)
+            filled += static_cast<std::size_t>(got);
+        if (filled > MaxFileSize)
             read.reason = TooLarge();
     }
     ::close(fd);
-    if (!read.reason.empty())
-        read.bytes.clear();
+    read.bytes.resize(read.reason.empty() ? filled : 0);
     return read;
 }
 #endif
