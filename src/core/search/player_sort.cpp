@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr double FullBarTwips = 2500.0;
-
 // What the sort moves about: a row's key and the number of the row it stands
 // for. The records themselves wait until the order is known and then move
 // once each, so a worst case of 2000 rows in reverse order stays cheap.
@@ -36,7 +34,7 @@ void CocktailSort(SortEntries<Key>& entries, int first, int last, Before before,
     SortEntry<Key> held;
     while (first < last) {
         if (progress)
-            progress(static_cast<double>(first) / last * FullBarTwips);
+            progress(static_cast<double>(first) / last);
 
         int lastPlaced = first - 1;
         for (int p = first + 1; p <= last; ++p) {

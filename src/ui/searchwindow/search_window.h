@@ -63,7 +63,8 @@ private:
     void OnReplaceWithThisPlayer();
 
     void SortWithBar();
-    void SetBarWidth(double widthTwips);
+    // The bar as long as the share `done` of the sort.
+    void ShowSortProgress(double done);
 
     Game& game_;
     const int team_;

@@ -8,13 +8,6 @@
 #include "search/search_filters.h"
 #include "searchwindow/search_window.h"
 
-namespace {
-
-// The bar as laid out, in twips; the sort counts a full bar as 2500.
-constexpr double BarLaidOutTwips = 2505.0;
-
-}  // namespace
-
 void SearchWindow::OnSearch()
 {
     // "All Clubs" carries no team; every other entry carries its team's number.
@@ -41,12 +34,11 @@ void SearchWindow::OnSearch()
 void SearchWindow::SortWithBar()
 {
     sortBar_->show();
-    SortResults(results_, sortKeyList_->ListIndex(), [this](double widthTwips) { SetBarWidth(widthTwips); });
+    SortResults(results_, sortKeyList_->ListIndex(), [this](double done) { ShowSortProgress(done); });
     sortBar_->hide();
 }
 
-void SearchWindow::SetBarWidth(double widthTwips)
+void SearchWindow::ShowSortProgress(double done)
 {
-    const int pixels = static_cast<int>(std::lround(widthTwips / BarLaidOutTwips * barFullWidth_));
-    sortBar_->resize(pixels, sortBar_->height());
+    sortBar_->resize(static_cast<int>(std::lround(done * barFullWidth_)), sortBar_->height());
 }
