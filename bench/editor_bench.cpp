@@ -33,11 +33,11 @@ BENCHMARK(BM_TickUnchanged)->Unit(benchmark::kMicrosecond);
 void BM_TickAfterNameChange(benchmark::State& state)
 {
     TextBox& surname = *form->findChild<TextBox*>(QStringLiteral("surname"));
-    const QString names[2] = {surname.Text() + QStringLiteral("a"), surname.Text()};
+    const QString names[2] = {surname.text() + QStringLiteral("a"), surname.text()};
     int turn = 0;
     for (auto _ : state) {
         state.PauseTiming();
-        surname.SetText(names[turn ^= 1]);
+        surname.setText(names[turn ^= 1]);
         state.ResumeTiming();
         form->CarryEditsIntoRecords();
     }

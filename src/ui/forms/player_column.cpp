@@ -6,7 +6,7 @@
 
 #include "data/fields.h"
 #include "forms/box_marks.h"
-#include "forms/combo_box.h"
+#include "forms/drop_down.h"
 #include "forms/fitted_layout.h"
 #include "forms/game_text.h"
 #include "forms/text_box.h"
@@ -101,17 +101,16 @@ PlayerColumn::PlayerColumn(FittedLayout& at, const PlayerColumnPlaces& places, Q
         }
         QWidget* value = nullptr;
         if (field.kind == FieldKind::Code) {
-            auto* list = at.Put(new ComboBox(this), places.boxes[std::size_t(index)], true);
-            for (std::string_view word : field.codes->words)
-                list->AddItem(FromGame(word));
-            value = list;
+            value = at.Put(NewWordList(this, field.codes->words), places.boxes[std::size_t(index)], true);
         } else {
             auto* text = at.Put(new TextBox(this), places.boxes[std::size_t(index)]);
             // The files cannot carry a comma in a name or a name that opens
             // with a double quote, so the name boxes refuse both as they are
             // typed or pasted.
-            if (field.kind == FieldKind::Name)
-                text->SetTextRule(NameRule([this](const QString& why) { emit nameRefused(why); }));
+            if (field.kind == FieldKind::Name) {
+                text->SetTextRule(NameRefusalOf);
+                connect(text, &TextBox::refused, this, &PlayerColumn::nameRefused);
+            }
             value = text;
         }
         value->setObjectName(FromGame(field.name));
@@ -124,9 +123,9 @@ TextBox* PlayerColumn::Text(PlayerBox box) const
     return static_cast<TextBox*>(Box(box));
 }
 
-ComboBox* PlayerColumn::Codes(PlayerBox box) const
+QComboBox* PlayerColumn::Codes(PlayerBox box) const
 {
-    return static_cast<ComboBox*>(Box(box));
+    return static_cast<QComboBox*>(Box(box));
 }
 
 void PlayerColumn::SetReadOnly(bool readOnly)
@@ -142,10 +141,10 @@ void PlayerColumn::Show(const PlayerRecord& player)
 {
     for (PlayerBox box : ShowOrder) {
         const PlayerField& field = FieldOf(box);
-        const int before = field.kind == FieldKind::Code ? Codes(box)->ListIndex() : -1;
+        const int before = field.kind == FieldKind::Code ? Codes(box)->currentIndex() : -1;
         ShowField(*Box(box), field, player);
-        if (readOnly_ && field.kind == FieldKind::Code && Codes(box)->ListIndex() < 0)
-            ShowCodeEntry(*Codes(box), before);
+        if (readOnly_ && field.kind == FieldKind::Code && Codes(box)->currentIndex() < 0)
+            ShowEntry(*Codes(box), before);
     }
 }
 
@@ -153,7 +152,7 @@ void PlayerColumn::ShowNothing()
 {
     for (PlayerBox box : ShowOrder) {
         if (FieldOf(box).kind == FieldKind::Code) {
-            ShowCodeEntry(*Codes(box), -1);
+            ShowEntry(*Codes(box), -1);
         } else {
             ShowText(*Text(box), QString());
             MarkBox(*Text(box), BoxMark::Plain, QString());
@@ -192,18 +191,18 @@ NewPlayerEntries PlayerColumn::Entries() const
         throw std::logic_error("a new player's entry without a box");
     };
     NewPlayerEntries entries;
-    entries.initials = ToGame(Text(PlayerBox::Initials)->Text());
-    entries.surname = ToGame(Text(PlayerBox::Surname)->Text());
+    entries.initials = ToGame(Text(PlayerBox::Initials)->text());
+    entries.surname = ToGame(Text(PlayerBox::Surname)->text());
     for (const NumberBox& number : NumberBoxes)
-        entries.*number.box = ToGame(Text(boxOf(number.field))->Text());
+        entries.*number.box = ToGame(Text(boxOf(number.field))->text());
     for (const CodeBox& code : CodeBoxes)
-        entries.*code.row = Codes(boxOf(code.field))->ListIndex();
+        entries.*code.row = Codes(boxOf(code.field))->currentIndex();
     return entries;
 }
 
 QString PlayerColumn::ShownName() const
 {
-    return Text(PlayerBox::Initials)->Text() + QLatin1Char(' ') + Text(PlayerBox::Surname)->Text();
+    return Text(PlayerBox::Initials)->text() + QLatin1Char(' ') + Text(PlayerBox::Surname)->text();
 }
 
 void PlayerColumn::ChooseFirstEntries()
@@ -219,7 +218,7 @@ void PlayerColumn::LimitLength(PlayerBox box, int length)
     Text(box)->setMaxLength(length);
 }
 
-void PlayerColumn::SetNumberKeyFilter(const std::function<void(int& keyAscii)>& filter)
+void PlayerColumn::SetNumberKeyFilter(const std::function<bool(const QKeyEvent& key)>& filter)
 {
     for (int index = 0; index < PlayerBoxCount; ++index) {
         if (FieldOf(PlayerBox(index)).kind == FieldKind::Number)

@@ -8,8 +8,9 @@
 #include "data/records.h"
 #include "newplayer/new_player_check.h"
 
-class ComboBox;
+class QComboBox;
 class FittedLayout;
+class QKeyEvent;
 class QLabel;
 class TextBox;
 
@@ -28,7 +29,7 @@ enum class PlayerRow {
 };
 inline constexpr int PlayerRowCount = 14;
 
-// Where a window puts the parts of its column, in the twips of its own layout.
+// Where a window puts the parts of its column, as its design measures them.
 struct PlayerColumnPlaces {
     std::array<QRect, PlayerRowCount> captions;
     std::array<QRect, PlayerBoxCount> boxes;
@@ -83,7 +84,7 @@ public:
     // Number boxes that take at most `length` characters, and a key filter for
     // the number boxes: `filter` sees each key and may refuse it.
     void LimitLength(PlayerBox box, int length);
-    void SetNumberKeyFilter(const std::function<void(int& keyAscii)>& filter);
+    void SetNumberKeyFilter(const std::function<bool(const QKeyEvent& key)>& filter);
 
 signals:
     // A name box turned a key or a paste away, and why.
@@ -91,7 +92,7 @@ signals:
 
 private:
     TextBox* Text(PlayerBox box) const;
-    ComboBox* Codes(PlayerBox box) const;
+    QComboBox* Codes(PlayerBox box) const;
 
     std::array<QWidget*, PlayerBoxCount> boxes_{};
     bool readOnly_ = false;

@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "data/fields.h"
-#include "forms/combo_box.h"
+#include "forms/drop_down.h"
 #include "forms/game_text.h"
 #include "forms/text_box.h"
 
@@ -12,10 +12,6 @@ class QWidget;
 
 // How a record's value goes into its box and comes back, for the player's
 // column and the team's boxes alike.
-
-// Chooses entry `index` of a code list without running its Click; an index
-// outside the list leaves nothing chosen.
-void ShowCodeEntry(ComboBox& box, int index);
 
 // Puts a value into a box with its beginning in view, as a long name reads
 // from the left.
@@ -26,7 +22,7 @@ void ShowText(TextBox& box, const QString& text);
 void StoreNumber(const TextBox& box, std::int16_t& field);
 
 // A list with nothing chosen shows a code with no entry; the field keeps it.
-void StoreCode(const ComboBox& box, std::int16_t& field, int firstCode);
+void StoreCode(const QComboBox& box, std::int16_t& field, int firstCode);
 
 // A box that only shows: it takes no input and no focus, yet its value reads
 // as plainly as that of a box the user edits.
@@ -43,7 +39,7 @@ void ShowField(QWidget& box, const Field<Record>& field, const Record& record)
     case FieldKind::Number:
         return ShowText(static_cast<TextBox&>(box), QString::number(record.*field.number));
     case FieldKind::Code:
-        return ShowCodeEntry(static_cast<ComboBox&>(box), record.*field.number - field.codes->firstCode);
+        return ShowEntry(static_cast<QComboBox&>(box), record.*field.number - field.codes->firstCode);
     }
 }
 
@@ -53,7 +49,7 @@ bool StoreField(const QWidget& box, const Field<Record>& field, Record& record)
 {
     switch (field.kind) {
     case FieldKind::Name: {
-        std::string typed = ToGame(static_cast<const TextBox&>(box).Text());
+        std::string typed = ToGame(static_cast<const TextBox&>(box).text());
         if (typed == record.*field.text)
             return false;
         record.*field.text = std::move(typed);
@@ -63,7 +59,7 @@ bool StoreField(const QWidget& box, const Field<Record>& field, Record& record)
         StoreNumber(static_cast<const TextBox&>(box), record.*field.number);
         return false;
     case FieldKind::Code:
-        StoreCode(static_cast<const ComboBox&>(box), record.*field.number, field.codes->firstCode);
+        StoreCode(static_cast<const QComboBox&>(box), record.*field.number, field.codes->firstCode);
         return false;
     }
     return false;

@@ -23,7 +23,7 @@ void MainWindow::LoadNewDirectory()
     ShowFirstEntries();
     tools_->CheckFiles();
     if (refused)
-        MsgBox(*refused, MbExclamation, QStringLiteral("Info"));
+        ShowMessage(QMessageBox::Warning, QStringLiteral("Info"), *refused);
 }
 
 void MainWindow::OnOptions()

@@ -134,9 +134,9 @@ void GameTools::OnChangesSinceSave()
 {
     const auto saved = ReadGameFiles(game_.GameDirectory);
     if (!saved) {
-        MsgBox(QStringLiteral("The game's files cannot be read:\n%1\n%2")
-                   .arg(FromPath(game_.PlayersPath), FromPath(game_.TeamsPath)),
-               MbInformation, QStringLiteral("Changes"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Changes"),
+                    QStringLiteral("The game's files cannot be read:\n%1\n%2")
+                        .arg(FromPath(game_.PlayersPath), FromPath(game_.TeamsPath)));
         return;
     }
     ShowChanges(QStringLiteral("since the last save"), *saved);
@@ -146,9 +146,9 @@ void GameTools::OnChangesSinceOriginal()
 {
     const auto original = ReadGameFiles(game_.GameDirectory, OriginalSuffix);
     if (!original) {
-        MsgBox(QStringLiteral("The original files cannot be read:\n%1\n%2")
-                   .arg(FromPath(game_.PlayersPath + OriginalSuffix), FromPath(game_.TeamsPath + OriginalSuffix)),
-               MbInformation, QStringLiteral("Changes"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Changes"),
+                    QStringLiteral("The original files cannot be read:\n%1\n%2")
+                        .arg(FromPath(game_.PlayersPath + OriginalSuffix), FromPath(game_.TeamsPath + OriginalSuffix)));
         return;
     }
     ShowChanges(QStringLiteral("since the original files"), *original);
@@ -188,12 +188,13 @@ void GameTools::OnExportCsv()
     window_.CarryPendingEdits();
     const FileResult written = ExportCsvFolder(game_, ToPath(folder));
     if (!written.ok()) {
-        MsgBox(QStringLiteral("Could not write %1:\n%2").arg(FromPath(written.path), QString::fromStdString(written.reason)),
-               MbCritical, title);
+        ShowMessage(QMessageBox::Critical, title,
+                    QStringLiteral("Could not write %1:\n%2")
+                        .arg(FromPath(written.path), QString::fromStdString(written.reason)));
         return;
     }
-    MsgBox(QStringLiteral("Wrote players.csv and teams.csv in %1.").arg(QDir::toNativeSeparators(folder)),
-           MbInformation, title);
+    ShowMessage(QMessageBox::Information, title,
+                QStringLiteral("Wrote players.csv and teams.csv in %1.").arg(QDir::toNativeSeparators(folder)));
 }
 
 void GameTools::OnImportCsv()
@@ -205,8 +206,9 @@ void GameTools::OnImportCsv()
     window_.CarryPendingEdits();
     const CsvImport import = ImportCsvFolder(game_, ToPath(folder));
     if (!import.read) {
-        MsgBox(QStringLiteral("Neither players.csv nor teams.csv can be read in %1.").arg(QDir::toNativeSeparators(folder)),
-               MbInformation, title);
+        ShowMessage(QMessageBox::Information, title,
+                    QStringLiteral("Neither players.csv nor teams.csv can be read in %1.")
+                        .arg(QDir::toNativeSeparators(folder)));
         return;
     }
     ImportWindow review(import, folder);

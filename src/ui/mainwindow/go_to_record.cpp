@@ -1,33 +1,19 @@
+#include <QComboBox>
+
 #include "data/squad.h"
-#include "forms/combo_box.h"
-#include "forms/list_box.h"
+#include "forms/choice_list.h"
 #include "forms/player_column.h"
 #include "mainwindow/main_window.h"
-
-namespace {
-
-// The entry of a list whose item data is `number`; -1 when none is.
-template <typename ListControl>
-int EntryOf(const ListControl& list, int number)
-{
-    for (int row = 0; row < list.ListCount(); ++row) {
-        if (list.ItemData(row) == number)
-            return row;
-    }
-    return -1;
-}
-
-}  // namespace
 
 bool MainWindow::ChooseTeamEntry(int team)
 {
     // A team of a country outside the list is listed nowhere.
     const int country = game_.Teams[std::size_t(team)].homeCountry;
-    if (country < 1 || country > countryList_->ListCount())
+    if (country < 1 || country > countryList_->count())
         return false;
     countryList_->setCurrentIndex(country - 1);
     OnCountryChosen();
-    const int entry = EntryOf(*teamList_, team);
+    const int entry = teamList_->findData(team);
     if (entry < 0)
         return false;
     teamList_->setCurrentIndex(entry);
@@ -47,7 +33,7 @@ void MainWindow::GoToPlayer(int number)
         return;
     const int club = PresentClub(game_, std::int16_t(number));
     if (club > 0 && ChooseTeamEntry(club)) {
-        squadList_->setCurrentRow(EntryOf(*squadList_, number));
+        squadList_->setCurrentRow(squadList_->RowOf(number));
         OnPlayerChosen();
         return;
     }

@@ -6,8 +6,8 @@
 
 void MainWindow::OnHelp()
 {
-    MsgBox(QStringLiteral("Please read help.txt file for help on KOLTA editor."), MbInformation,
-           QStringLiteral("Help"));
+    ShowMessage(QMessageBox::Information, QStringLiteral("Help"),
+                QStringLiteral("Please read help.txt file for help on KOLTA editor."));
 }
 
 void MainWindow::OnAbout()

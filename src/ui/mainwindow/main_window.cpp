@@ -12,11 +12,11 @@
 #include <QTimer>
 
 #include "data/code_lists.h"
-#include "forms/combo_box.h"
+#include "forms/choice_list.h"
+#include "forms/clickable_picture.h"
+#include "forms/drop_down.h"
 #include "forms/game_text.h"
 #include "forms/fitted_layout.h"
-#include "forms/list_box.h"
-#include "forms/picture_box.h"
 #include "forms/player_column.h"
 #include "forms/text_box.h"
 #include "mainwindow/game_tools.h"
@@ -26,7 +26,7 @@
 
 namespace {
 
-// Client area of the window, in twips.
+// Client area of the window, as designed.
 constexpr int AreaWidth = 8640;
 constexpr int AreaHeight = 6030;
 
@@ -46,12 +46,9 @@ QLabel* MakeLabel(FittedLayout& at, QWidget* area, const QString& caption, QRect
     return label;
 }
 
-ComboBox* MakeCodeList(FittedLayout& at, QWidget* area, std::span<const std::string_view> words, QRect rect)
+QComboBox* MakeCodeList(FittedLayout& at, QWidget* area, std::span<const std::string_view> words, QRect rect)
 {
-    auto* box = at.Put(new ComboBox(area), rect, true);
-    for (std::string_view word : words)
-        box->AddItem(QString::fromLatin1(word.data(), qsizetype(word.size())));
-    return box;
+    return at.Put(NewWordList(area, words), rect, true);
 }
 
 void MakeVerticalLine(FittedLayout& at, QWidget* area, int x, int top, int bottom)
@@ -113,7 +110,7 @@ void MainWindow::BuildTeamColumn(FittedLayout& at, QWidget* area)
 {
     countryList_ = Named(MakeCodeList(at, area, Combo1CountryList, QRect(120, 120, 2895, 315)), "countryList");
     countryList_->setFont(BoldFont(countryList_));
-    teamList_ = Named(at.Put(new ComboBox(area), QRect(120, 540, 2895, 315)), "teamList");
+    teamList_ = Named(at.Put(NewDropDown(area), QRect(120, 540, 2895, 315)), "teamList");
     teamList_->setFont(BoldFont(teamList_));
 
     MakeLabel(at, area, FromGame(TeamLayout.keyLabel), QRect(120, 960, 1215, 255), true);
@@ -134,23 +131,26 @@ void MainWindow::BuildTeamColumn(FittedLayout& at, QWidget* area)
             // The files cannot carry a comma in a name or a name that opens
             // with a double quote, so the name boxes refuse both as they are
             // typed or pasted.
-            if (field.kind == FieldKind::Name)
-                box->SetTextRule(NameRule([this](const QString& why) { SayInStatusBar(why); }));
+            if (field.kind == FieldKind::Name) {
+                box->SetTextRule(NameRefusalOf);
+                connect(box, &TextBox::refused, this, &MainWindow::SayInStatusBar);
+            }
             teamBoxes_[i] = box;
         }
         teamBoxes_[i]->setObjectName(QStringLiteral("team.") + FromGame(field.name));
     }
 
-    userGuidePicture_ = Named(at.Put(new PictureBox(QPixmap(kolta::artwork::Banner), area), QRect(240, 3600, 2535, 615)),
-                              "userGuidePicture");
-    fileFormatsPicture_ = Named(
-        at.Put(new PictureBox(QPixmap(kolta::artwork::Scorecard), area), QRect(240, 4320, 2535, 1575)),
-        "fileFormatsPicture");
+    userGuidePicture_ =
+        Named(at.Put(new ClickablePicture(QPixmap(kolta::artwork::Banner), area), QRect(240, 3600, 2535, 615)),
+              "userGuidePicture");
+    fileFormatsPicture_ =
+        Named(at.Put(new ClickablePicture(QPixmap(kolta::artwork::Scorecard), area), QRect(240, 4320, 2535, 1575)),
+              "fileFormatsPicture");
 }
 
 void MainWindow::BuildSquadColumn(FittedLayout& at, QWidget* area)
 {
-    squadList_ = Named(at.Put(new ListBox(area), QRect(3240, 120, 1875, 3765)), "squadList");
+    squadList_ = Named(at.Put(new ChoiceList(area), QRect(3240, 120, 1875, 3765)), "squadList");
     squadList_->setFont(BoldFont(squadList_));
     const auto button = [&](const char* caption, int top, const char* name) {
         return Named(at.Put(new QPushButton(QString::fromLatin1(caption), area), QRect(3240, top, 1815, 375), true),
@@ -229,17 +229,17 @@ void MainWindow::SetTabOrder()
 
 void MainWindow::ConnectHandlers()
 {
-    connect(countryList_, &ComboBox::Click, this, &MainWindow::OnCountryChosen);
-    connect(teamList_, &ComboBox::Click, this, &MainWindow::OnTeamChosen);
-    connect(squadList_, &ListBox::Click, this, &MainWindow::OnPlayerChosen);
+    connect(countryList_, &QComboBox::activated, this, &MainWindow::OnCountryChosen);
+    connect(teamList_, &QComboBox::activated, this, &MainWindow::OnTeamChosen);
+    connect(squadList_, &ChoiceList::rowChosen, this, &MainWindow::OnPlayerChosen);
     connect(editTimer_, &QTimer::timeout, this, &MainWindow::CarryEditsIntoRecords);
 
     connect(addExistingPlayerButton_, &QPushButton::clicked, this, &MainWindow::OnAddExistingPlayer);
     connect(deletePlayerButton_, &QPushButton::clicked, this, &MainWindow::OnDeletePlayer);
     connect(addNewPlayerButton_, &QPushButton::clicked, this, &MainWindow::OnAddNewPlayer);
     connect(replacePlayerButton_, &QPushButton::clicked, this, &MainWindow::OnReplacePlayer);
-    connect(userGuidePicture_, &PictureBox::Click, this, &MainWindow::OnUserGuidePicture);
-    connect(fileFormatsPicture_, &PictureBox::Click, this, &MainWindow::OnFileFormatsPicture);
+    connect(userGuidePicture_, &ClickablePicture::clicked, this, &MainWindow::OnUserGuidePicture);
+    connect(fileFormatsPicture_, &ClickablePicture::clicked, this, &MainWindow::OnFileFormatsPicture);
 
     connect(optionsAction_, &QAction::triggered, this, &MainWindow::OnOptions);
     connect(saveAction_, &QAction::triggered, this, &MainWindow::OnSave);

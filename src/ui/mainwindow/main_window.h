@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QMessageBox>
 #include <array>
 #include <memory>
 #include <optional>
@@ -10,14 +11,14 @@
 #include "data/game.h"
 #include "options/setting_places.h"
 
-class ComboBox;
 class FittedLayout;
 class GameTools;
 class GameHistory;
-class ListBox;
-class PictureBox;
+class ChoiceList;
+class ClickablePicture;
 class PlayerColumn;
 class QAction;
+class QComboBox;
 class QLabel;
 class QPushButton;
 class QTimer;
@@ -100,8 +101,9 @@ private:
     // Chooses the row of the current player, if the list holds him, without
     // showing him again.
     void KeepCurrentRow();
-    // The squad list's row of `player`, -1 if it has none.
-    int RowOfPlayer(int player) const;
+    // The first entry of the team list, or of the squad list, as a pick would.
+    void ChooseFirstTeam();
+    void ChooseFirstPlayer();
     // After an undo or redo: the team and player it touched, shown afresh.
     void BringIntoView(const StepPlace& place);
     // Tints the number boxes by what their fields made of them; the status
@@ -144,7 +146,7 @@ private:
     void OfferOtherFolder(const std::optional<QString>& refused);
     bool SaveAll();
     // The question on leaving the game: Yes, No or Cancel.
-    int AskToSave();
+    QMessageBox::StandardButton AskToSave();
     // With unsaved changes, asks whether to save them first; false when the
     // user cancels or the save fails.
     bool MayLeaveGame();
@@ -154,14 +156,14 @@ private:
     SettingPlaces places_;
     std::unique_ptr<FolderPresence> presence_;
 
-    ComboBox* countryList_ = nullptr;
-    ComboBox* teamList_ = nullptr;
+    QComboBox* countryList_ = nullptr;
+    QComboBox* teamList_ = nullptr;
     QLabel* teamNumberLabel_ = nullptr;
     std::array<QWidget*, TeamFields.size()> teamBoxes_{};  // one to each field of the team table
-    PictureBox* userGuidePicture_ = nullptr;
-    PictureBox* fileFormatsPicture_ = nullptr;
+    ClickablePicture* userGuidePicture_ = nullptr;
+    ClickablePicture* fileFormatsPicture_ = nullptr;
 
-    ListBox* squadList_ = nullptr;
+    ChoiceList* squadList_ = nullptr;
     QPushButton* addNewPlayerButton_ = nullptr;
     QPushButton* addExistingPlayerButton_ = nullptr;
     QPushButton* replacePlayerButton_ = nullptr;

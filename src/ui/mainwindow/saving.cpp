@@ -14,19 +14,21 @@ bool MainWindow::SaveAll()
     // What the load could not keep is lost by saving; the user decides.
     const bool dropConfirmed =
         !game_.LoadDropped.empty() &&
-        MsgBox(QStringLiteral("Saving will leave out what the editor could not load:\n%1\n\nSave anyway?")
-                   .arg(QString::fromStdString(game_.LoadDropped)),
-               MbYesNo | MbExclamation, QStringLiteral("Saving..")) == IdYes;
+        ShowMessage(QMessageBox::Warning, QStringLiteral("Saving.."),
+                    QStringLiteral("Saving will leave out what the editor could not load:\n%1\n\nSave anyway?")
+                        .arg(QString::fromStdString(game_.LoadDropped)),
+                    QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
     if (!game_.LoadDropped.empty() && !dropConfirmed)
         return false;
     const FilesBeforeSave before(game_);
     const FileResult result = SaveGame(game_, dropConfirmed);
     if (!result.ok()) {
-        MsgBox(before.FailureText(result), MbCritical, QStringLiteral("Saving.."));
+        ShowMessage(QMessageBox::Critical, QStringLiteral("Saving.."), before.FailureText(result));
         return false;
     }
     history_->MarkSaved();
-    MsgBox(QStringLiteral("Updated Player and Team data successfully"), MbInformation, QStringLiteral("Info"));
+    ShowMessage(QMessageBox::Information, QStringLiteral("Info"),
+                QStringLiteral("Updated Player and Team data successfully"));
     tools_->CheckFiles();
     return true;
 }
@@ -36,10 +38,11 @@ bool MainWindow::HasUnsavedChanges() const
     return history_->HasUnsavedChanges();
 }
 
-int MainWindow::AskToSave()
+QMessageBox::StandardButton MainWindow::AskToSave()
 {
-    return MsgBox(QStringLiteral("Do you want to update the files teams.dat and players.dat?"),
-                  MbYesNoCancel | MbExclamation, QStringLiteral("Saving.."));
+    return ShowMessage(QMessageBox::Warning, QStringLiteral("Saving.."),
+                       QStringLiteral("Do you want to update the files teams.dat and players.dat?"),
+                       QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
 }
 
 bool MainWindow::MayLeaveGame()
@@ -47,9 +50,9 @@ bool MainWindow::MayLeaveGame()
     CarryPendingEdits();
     if (!HasUnsavedChanges())
         return true;
-    const int answer = AskToSave();
+    const QMessageBox::StandardButton answer = AskToSave();
     // A save that fails keeps the game open, so the edits are not lost.
-    return answer == IdNo || (answer == IdYes && SaveAll());
+    return answer == QMessageBox::No || (answer == QMessageBox::Yes && SaveAll());
 }
 
 void MainWindow::OnSave()
@@ -60,10 +63,10 @@ void MainWindow::OnSave()
 void MainWindow::OnExit()
 {
     CarryPendingEdits();
-    const int answer = AskToSave();
-    if (answer == IdCancel)
+    const QMessageBox::StandardButton answer = AskToSave();
+    if (answer == QMessageBox::Cancel)
         return;
-    if (answer == IdYes && !SaveAll())
+    if (answer == QMessageBox::Yes && !SaveAll())
         return;
     leaveAnswered_ = true;
     close();

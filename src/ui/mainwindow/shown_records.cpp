@@ -4,9 +4,8 @@
 
 #include "data/squad.h"
 #include "forms/box_marks.h"
-#include "forms/combo_box.h"
+#include "forms/choice_list.h"
 #include "forms/game_text.h"
-#include "forms/list_box.h"
 #include "forms/player_column.h"
 #include "forms/text_box.h"
 #include "forms/value_boxes.h"
@@ -32,9 +31,9 @@ void MainWindow::OnPlayerChosen()
     CarryPendingEdits();
     // The player is named first: he stays current even if his record cannot
     // be shown.
-    const int row = squadList_->ListIndex();
+    const int row = squadList_->ChosenRow();
     if (row >= 0)
-        currentPlayer_ = squadList_->ItemData(row);
+        currentPlayer_ = squadList_->NumberAt(row);
     if (const PlayerRecord* player = ShownPlayer()) {
         playerColumn_->setEnabled(true);
         playerColumn_->Show(*player);
@@ -51,7 +50,7 @@ void MainWindow::ShowNoPlayer()
 
 void MainWindow::KeepCurrentRow()
 {
-    if (const int row = currentPlayer_ ? RowOfPlayer(*currentPlayer_) : -1; row >= 0) {
+    if (const int row = currentPlayer_ ? squadList_->RowOf(*currentPlayer_) : -1; row >= 0) {
         squadList_->setCurrentRow(row);
         emit squadRowChanged(row);
     }
@@ -141,18 +140,12 @@ void MainWindow::BringIntoView(const StepPlace& step)
     if (IsPlayerNumber(player) && !inTeam && PresentClub(game_, player) != 0)
         place.team = PresentClub(game_, player);
     const bool isTeam = IsTeamIndex(place.team);
-    const auto entryOfTeam = [this, &place] {
-        for (int entry = 0; entry < teamList_->ListCount(); ++entry) {
-            if (teamList_->ItemData(entry) == place.team)
-                return entry;
-        }
-        return -1;
-    };
+    const auto entryOfTeam = [this, &place] { return teamList_->findData(place.team); };
     if (isTeam && entryOfTeam() < 0) {
         // A team of another country, or one whose country the step changed:
         // its country's list is built afresh.
         const int country = game_.Teams[std::size_t(place.team)].homeCountry;
-        if (country >= 1 && country <= countryList_->ListCount()) {
+        if (country >= 1 && country <= countryList_->count()) {
             countryList_->setCurrentIndex(country - 1);
             OnCountryChosen();
         }
@@ -164,7 +157,7 @@ void MainWindow::BringIntoView(const StepPlace& step)
         RefreshSquad();
     }
     ShowNoPlayer();
-    if (const int row = RowOfPlayer(place.player); row >= 0) {
+    if (const int row = squadList_->RowOf(place.player); row >= 0) {
         squadList_->setCurrentRow(row);
         OnPlayerChosen();
     }

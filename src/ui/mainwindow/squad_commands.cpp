@@ -1,6 +1,6 @@
 #include "data/squad.h"
 #include "forms/game_text.h"
-#include "forms/list_box.h"
+#include "forms/choice_list.h"
 #include "forms/message_box.h"
 #include "forms/modal.h"
 #include "forms/squad_messages.h"
@@ -12,12 +12,12 @@
 void MainWindow::OnAddExistingPlayer()
 {
     CarryPendingEdits();
-    if (RefuseFullSquad(squadList_->ListCount()))
+    if (RefuseFullSquad(squadList_->count()))
         return;
     const auto team = CurrentTeam();
     if (!team)
         return RefuseNoTeam(QStringLiteral("Add Player"));
-    SearchWindow search(game_, *team, SearchWindow::Mode::Add, squadList_->ListIndex());
+    SearchWindow search(game_, *team, SearchWindow::Mode::Add, squadList_->ChosenRow());
     connect(&search, &SearchWindow::squadChanged, this,
             [this, &search](int changed) { RecordTransfer(changed, search.Candidate().value_or(0)); });
     connect(this, &MainWindow::squadRowChanged, &search, &SearchWindow::SetSquadRow);
@@ -31,9 +31,9 @@ void MainWindow::OnReplacePlayer()
     const auto team = CurrentTeam();
     if (!team)
         return RefuseNoTeam(title);
-    if (squadList_->ListIndex() < 0)
+    if (squadList_->ChosenRow() < 0)
         return RefuseNoPlayer(title);
-    SearchWindow search(game_, *team, SearchWindow::Mode::Replace, squadList_->ListIndex());
+    SearchWindow search(game_, *team, SearchWindow::Mode::Replace, squadList_->ChosenRow());
     connect(&search, &SearchWindow::squadChanged, this,
             [this, &search](int changed) { RecordTransfer(changed, search.Candidate().value_or(0)); });
     connect(this, &MainWindow::squadRowChanged, &search, &SearchWindow::SetSquadRow);
@@ -43,7 +43,7 @@ void MainWindow::OnReplacePlayer()
 void MainWindow::OnAddNewPlayer()
 {
     CarryPendingEdits();
-    if (RefuseFullSquad(squadList_->ListCount()))
+    if (RefuseFullSquad(squadList_->count()))
         return;
     const auto team = CurrentTeam();
     if (!team)
@@ -62,7 +62,7 @@ void MainWindow::OnDeletePlayer()
 {
     CarryPendingEdits();
     const QString title = QStringLiteral("Delete Player");
-    const int row = squadList_->ListIndex();
+    const int row = squadList_->ChosenRow();
     if (row < 0)
         return RefuseNoPlayer(title);
     const auto team = CurrentTeam();
@@ -75,15 +75,19 @@ void MainWindow::OnDeletePlayer()
     const QString prompt = QStringLiteral("Are you sure you want to delete ") + FromGame(player.initials) +
                            QLatin1Char(' ') + FromGame(player.surname) + QStringLiteral(" from ") +
                            FromGame(squad.teamName) + QStringLiteral(" Squad ?");
-    if (MsgBox(prompt, MbCritical | MbYesNo, title) == IdNo)
+    if (ShowMessage(QMessageBox::Critical, title, prompt, QMessageBox::Yes | QMessageBox::No) == QMessageBox::No)
         return;
 
     const std::int16_t deleted = DeleteFromSquad(game_, *team, slot);
     history_->RecordStep(DeleteStepText(game_.Players[std::size_t(deleted)]), {*team, deleted});
     RefreshSquad();
     // The player who followed the deleted one now stands in his row.
-    if (squadList_->ListCount() != 0)
-        squadList_->SetText(squadList_->List(row));
+    // Chosen by its text: of two players of one name, the first is chosen.
+    if (row < squadList_->count()) {
+        const QList<QListWidgetItem*> named = squadList_->findItems(squadList_->item(row)->text(), Qt::MatchExactly);
+        squadList_->setCurrentItem(named.front());
+        OnPlayerChosen();
+    }
 }
 
 void MainWindow::RecordTransfer(int team, int candidate)

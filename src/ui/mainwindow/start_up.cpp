@@ -31,7 +31,7 @@ std::optional<QString> MainWindow::LoadGameDirectory()
 {
     const GameLoad load = LoadGame(game_);
     if (!load.recovered.empty())
-        MsgBox(QString::fromStdString(load.recovered), MbInformation, QStringLiteral("Info"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Info"), QString::fromStdString(load.recovered));
     // A missing file loads as an empty one; OfferOtherFolder tells of it. A
     // file refused for what it is (a device, a folder, a giant) is named
     // with the reason.
@@ -46,9 +46,9 @@ std::optional<QString> MainWindow::LoadGameDirectory()
     presence_.reset();
     presence_ = std::make_unique<FolderPresence>(game_.GameDirectory);
     if (presence_->OthersHadItOpen())
-        MsgBox(QStringLiteral("Another editor has this game directory open. If both of you save, "
-                              "the second save is refused."),
-               MbInformation, QStringLiteral("Info"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Info"),
+                    QStringLiteral("Another editor has this game directory open. If both of you save, "
+                                   "the second save is refused."));
     return refused;
 }
 
@@ -59,10 +59,12 @@ void MainWindow::OfferOtherFolder(const std::optional<QString>& refused)
         trouble = refused;
     if (!trouble)
         return;
-    const int answer = MsgBox(*trouble + QStringLiteral("\n\nDo you want to choose the game's folder now "
-                                                        "(File > Options)?"),
-                              MbYesNo | MbExclamation, QStringLiteral("Game folder"));
-    if (answer == IdYes)
+    const QMessageBox::StandardButton answer =
+        ShowMessage(QMessageBox::Warning, QStringLiteral("Game folder"),
+                    *trouble + QStringLiteral("\n\nDo you want to choose the game's folder now "
+                                              "(File > Options)?"),
+                    QMessageBox::Yes | QMessageBox::No);
+    if (answer == QMessageBox::Yes)
         OnOptions();
 }
 

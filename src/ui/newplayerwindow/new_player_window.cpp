@@ -1,6 +1,8 @@
 #include "newplayerwindow/new_player_window.h"
 
+#include <QKeyEvent>
 #include <QPushButton>
+#include <algorithm>
 
 #include "forms/fitted_layout.h"
 #include "forms/message_box.h"
@@ -11,7 +13,7 @@
 
 namespace {
 
-// Client area, in twips.
+// Client area, as designed.
 constexpr int AreaWidth = 6900;
 constexpr int AreaHeight = 3675;
 
@@ -19,8 +21,6 @@ constexpr int AreaHeight = 3675;
 constexpr int LeftCaptions = 300;
 constexpr int RightCaptions = 3540;
 constexpr int CaptionWidth = 1335;
-
-constexpr int Backspace = 8;
 
 QPushButton* MakeButton(FittedLayout& at, QWidget* form, const QString& caption, QRect rect, const char* name)
 {
@@ -35,20 +35,20 @@ void ShowOutcome(NewPlayerOutcome outcome)
     case NewPlayerOutcome::Added:
         return;
     case NewPlayerOutcome::BadEntries:
-        MsgBox(QStringLiteral("Data not in correct range.Please see help for correct range of data values."),
-               MbInformation, QStringLiteral("Error"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Error"),
+                    QStringLiteral("Data not in correct range.Please see help for correct range of data values."));
         return;
     case NewPlayerOutcome::TableFull:
-        MsgBox(QStringLiteral("The game already holds its maximum of %1 players.").arg(MaxPlayers),
-               MbInformation, QStringLiteral("Maximum Players"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Maximum Players"),
+                    QStringLiteral("The game already holds its maximum of %1 players.").arg(MaxPlayers));
         return;
     case NewPlayerOutcome::NoTeam:
-        MsgBox(QStringLiteral("Choose a team for the new player first."), MbInformation,
-               QStringLiteral("Add New Player"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Add New Player"),
+                    QStringLiteral("Choose a team for the new player first."));
         return;
     case NewPlayerOutcome::SquadFull:
-        MsgBox(QStringLiteral("You already have the maximum of 20 players in the squad."), MbInformation,
-               QStringLiteral("Maximum Players"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Maximum Players"),
+                    QStringLiteral("You already have the maximum of 20 players in the squad."));
         return;
     }
 }
@@ -92,7 +92,7 @@ NewPlayerWindow::NewPlayerWindow(Game& game, int team, QWidget* parent)
                           PlayerBox::BowlSkill, PlayerBox::BowlEconomy, PlayerBox::FieldAbility, PlayerBox::Potential})
         entries_->LimitLength(box, 2);
     entries_->LimitLength(PlayerBox::BirthYear, 4);
-    entries_->SetNumberKeyFilter(&NewPlayerWindow::FilterNumberKey);
+    entries_->SetNumberKeyFilter(&NewPlayerWindow::PassesNumberKey);
 
     cancelButton_ = MakeButton(at, this, QStringLiteral("Cancel"), QRect(3000, 3180, 1395, 375), "cancelButton");
     helpButton_ = MakeButton(at, this, QStringLiteral("Help"), QRect(4800, 3180, 1395, 375), "helpButton");
@@ -107,11 +107,12 @@ NewPlayerWindow::NewPlayerWindow(Game& game, int team, QWidget* parent)
     entries_->ChooseFirstEntries();
 }
 
-void NewPlayerWindow::FilterNumberKey(int& keyAscii)
+bool NewPlayerWindow::PassesNumberKey(const QKeyEvent& key)
 {
-    if ((keyAscii >= '0' && keyAscii <= '9') || keyAscii == Backspace)
-        return;
-    keyAscii = 0;  // the text box answers a refused key with the beep
+    if (key.key() == Qt::Key_Backspace)
+        return true;
+    const QString typed = key.text();
+    return !typed.isEmpty() && std::all_of(typed.begin(), typed.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
 void NewPlayerWindow::OnOk()
@@ -120,9 +121,9 @@ void NewPlayerWindow::OnOk()
     const NewPlayerOutcome outcome = CommitNewPlayer(game_, team_, entries);
     if (outcome == NewPlayerOutcome::BadEntries) {
         // The message names the box, so the user need not hunt for it.
-        MsgBox(QStringLiteral("Data not in correct range.Please see help for correct range of data values.\n\n") +
-                   QString::fromStdString(FirstBadEntry(entries).value_or(std::string())),
-               MbInformation, QStringLiteral("Error"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Error"),
+                    QStringLiteral("Data not in correct range.Please see help for correct range of data values.\n\n") +
+                        QString::fromStdString(FirstBadEntry(entries).value_or(std::string())));
         return;
     }
     if (outcome != NewPlayerOutcome::Added) {

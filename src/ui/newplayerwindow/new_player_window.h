@@ -6,6 +6,7 @@
 
 class FittedLayout;
 class PlayerColumn;
+class QKeyEvent;
 class QPushButton;
 
 // The window in which the user makes one new player for the squad of the
@@ -22,7 +23,7 @@ signals:
 
 private:
     // Number boxes take digits and Backspace only; the names take any key.
-    static void FilterNumberKey(int& keyAscii);
+    static bool PassesNumberKey(const QKeyEvent& key);
     // OK: checks the entries and, when they are good, creates the player.
     void OnOk();
     // Help: the table of skill ranges.

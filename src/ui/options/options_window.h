@@ -6,9 +6,9 @@
 #include "data/game.h"
 #include "options/setting_places.h"
 
-class DirList;
-class DriveList;
-class FileList;
+class DriveBox;
+class FileNameList;
+class FolderTree;
 class QLabel;
 class QPushButton;
 
@@ -52,9 +52,9 @@ private:
     SettingPlaces places_;
 
     QLabel* filesNote_ = nullptr;
-    DriveList* driveList_ = nullptr;
-    DirList* folderList_ = nullptr;
-    FileList* fileList_ = nullptr;
+    DriveBox* driveList_ = nullptr;
+    FolderTree* folderList_ = nullptr;
+    FileNameList* fileList_ = nullptr;
     QPushButton* firstStartOkButton_ = nullptr;
     QPushButton* changeDirectoryOkButton_ = nullptr;
     std::function<bool()> mayLeaveGame_;

@@ -6,12 +6,11 @@
 #include "data/game.h"
 #include "search/search_filters.h"
 
-class ComboBox;
 class FittedLayout;
-class ListBox;
+class ChoiceList;
 class PlayerColumn;
+class QComboBox;
 class QPushButton;
-class Shape;
 class TextBox;
 
 // The search window: finds players of any club by nationality and type,
@@ -70,15 +69,15 @@ private:
     const int team_;
     int squadRow_;
 
-    ComboBox* nationalityFilter_ = nullptr;
-    ComboBox* clubFilter_ = nullptr;
-    ComboBox* battingFilter_ = nullptr;
-    ComboBox* bowlingFilter_ = nullptr;
-    ComboBox* fieldingFilter_ = nullptr;
-    ComboBox* sortKeyList_ = nullptr;
+    QComboBox* nationalityFilter_ = nullptr;
+    QComboBox* clubFilter_ = nullptr;
+    QComboBox* battingFilter_ = nullptr;
+    QComboBox* bowlingFilter_ = nullptr;
+    QComboBox* fieldingFilter_ = nullptr;
+    QComboBox* sortKeyList_ = nullptr;
     QPushButton* searchButton_ = nullptr;
-    Shape* sortBar_ = nullptr;
-    ListBox* resultList_ = nullptr;
+    QWidget* sortBar_ = nullptr;
+    ChoiceList* resultList_ = nullptr;
     PlayerColumn* candidatePanel_ = nullptr;
     TextBox* presentClubBox_ = nullptr;
     QPushButton* addButton_ = nullptr;

@@ -1,6 +1,6 @@
 #include "data/squad.h"
 #include "forms/game_text.h"
-#include "forms/list_box.h"
+#include "forms/choice_list.h"
 #include "forms/player_column.h"
 #include "forms/text_box.h"
 #include "forms/value_boxes.h"
@@ -15,8 +15,8 @@ std::optional<std::int16_t> SearchWindow::Candidate() const
 
 void SearchWindow::OnCandidateChosen()
 {
-    if (const int row = resultList_->ListIndex(); row >= 0)
-        pickedNumber_ = resultList_->ItemData(row);
+    if (const int row = resultList_->ChosenRow(); row >= 0)
+        pickedNumber_ = resultList_->NumberAt(row);
     ShowCandidate();
 }
 

@@ -22,7 +22,7 @@ QString FullName(const PlayerRecord& player)
 
 void RefuseMemberOfTeam()
 {
-    MsgBox(QStringLiteral("Player already in team"), MbInformation, QStringLiteral("Error"));
+    ShowMessage(QMessageBox::Information, QStringLiteral("Error"), QStringLiteral("Player already in team"));
 }
 
 }  // namespace
@@ -46,7 +46,7 @@ void SearchWindow::OnAddThisPlayer()
                    QStringLiteral(" squad");
     if (oldTeam != 0)
         text += QStringLiteral(" and removed from ") + TeamName(game_, oldTeam) + QStringLiteral(" squad");
-    MsgBox(text + QLatin1Char('.'), MbInformation, AddTitle);
+    ShowMessage(QMessageBox::Information, AddTitle, text + QLatin1Char('.'));
 }
 
 void SearchWindow::OnReplaceWithThisPlayer()
@@ -69,6 +69,6 @@ void SearchWindow::OnReplaceWithThisPlayer()
         text += QStringLiteral(" from ") + TeamName(game_, done.oldTeam);
     text += QStringLiteral(" has replaced ") + FullName(game_.Players[std::size_t(done.replaced)]) +
             QStringLiteral(" in the ") + TeamName(game_, team_) + QStringLiteral(" squad.");
-    MsgBox(text, MbInformation, ReplaceTitle);
+    ShowMessage(QMessageBox::Information, ReplaceTitle, text);
     accept();
 }

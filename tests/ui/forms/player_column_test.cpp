@@ -10,7 +10,6 @@
 #include <gtest/gtest.h>
 
 #include "data/fields.h"
-#include "forms/combo_box.h"
 #include "forms/fitted_layout.h"
 #include "forms/player_column.h"
 #include "forms/text_box.h"
@@ -73,17 +72,17 @@ TEST(PlayerColumn, HasABoxAndCaptionForEachCaptionedFieldAndCarriesThemBack)
     // What is shown comes back unchanged, the fields no box shows included.
     const PlayerRecord shown = Someone();
     window.column->Show(shown);
-    EXPECT_EQ(Find<ComboBox>(*window.column, "homeCountry").currentText(), "Namibia");
-    EXPECT_EQ(Find<ComboBox>(*window.column, "bats").currentText(), "Left Handed");
+    EXPECT_EQ(Find<QComboBox>(*window.column, "homeCountry").currentText(), "Namibia");
+    EXPECT_EQ(Find<QComboBox>(*window.column, "bats").currentText(), "Left Handed");
     PlayerRecord back = shown;
     EXPECT_FALSE(window.column->WriteBack(back));
     EXPECT_EQ(back, shown);
     EXPECT_EQ(window.column->ShownName(), "J K Brandt");
 
     // Only a new name says so; a number that does not convert is left out.
-    Find<TextBox>(*window.column, "surname").SetText("Brand");
-    Find<TextBox>(*window.column, "bowlSkill").SetText("many");
-    Find<TextBox>(*window.column, "batSkill").SetText("45");
+    Find<TextBox>(*window.column, "surname").setText("Brand");
+    Find<TextBox>(*window.column, "bowlSkill").setText("many");
+    Find<TextBox>(*window.column, "batSkill").setText("45");
     EXPECT_TRUE(window.column->WriteBack(back));
     EXPECT_EQ(back.surname, "Brand");
     EXPECT_EQ(back.bowlSkill, 12);
@@ -103,10 +102,10 @@ TEST(PlayerColumn, ACodeWithNoEntryClearsAnEditableListAndLeavesAReadOnlyOne)
         odd.batPosition = 7;
         odd.bowls = -1;
         window.column->Show(odd);
-        auto& position = Find<ComboBox>(*window.column, "batPosition");
-        auto& bowls = Find<ComboBox>(*window.column, "bowls");
-        EXPECT_EQ(position.ListIndex(), readOnly ? 1 : -1);
-        EXPECT_EQ(bowls.ListIndex(), readOnly ? 0 : -1);
+        auto& position = Find<QComboBox>(*window.column, "batPosition");
+        auto& bowls = Find<QComboBox>(*window.column, "bowls");
+        EXPECT_EQ(position.currentIndex(), readOnly ? 1 : -1);
+        EXPECT_EQ(bowls.currentIndex(), readOnly ? 0 : -1);
         EXPECT_EQ(position.isEnabled(), !readOnly);
         EXPECT_EQ(Find<TextBox>(*window.column, "surname").isEnabled(), !readOnly);
         if (!readOnly) {

@@ -9,9 +9,9 @@ using DetailDisplay = EditorTest;
 using Entry = std::pair<int, QString>;
 
 // The place and text of a code list's chosen entry.
-Entry Chosen(const ComboBox& box)
+Entry Chosen(const QComboBox& box)
 {
-    return {box.ListIndex(), box.currentText()};
+    return {box.currentIndex(), box.currentText()};
 }
 
 TEST_F(DetailDisplay, CodesShowAsTheirEntriesAndTickBackUnchanged)
@@ -30,14 +30,14 @@ TEST_F(DetailDisplay, CodesShowAsTheirEntriesAndTickBackUnchanged)
     Tick();
     EXPECT_EQ(game->Players[1], before->Players[1]);   // still code 29, not 13
     EXPECT_EQ(game->Teams[1], before->Teams[1]);
-    Squad().SetText("T Vanterpool");
+    Pick(Squad(), "T Vanterpool");
     EXPECT_EQ(Chosen(Combo("homeCountry")), Entry(12, "Namibia"));   // the first one, code 13
 
     // Codes with no entry leave their lists with nothing chosen, and the
     // tick leaves them as stored.
-    Squad().SetText(" Ormsby");
-    EXPECT_EQ(Combo("homeCountry").ListIndex(), -1);
-    EXPECT_EQ(Combo("batPosition").ListIndex(), -1);
+    Pick(Squad(), " Ormsby");
+    EXPECT_EQ(Combo("homeCountry").currentIndex(), -1);
+    EXPECT_EQ(Combo("batPosition").currentIndex(), -1);
     Tick();
     EXPECT_EQ(game->Players[2], before->Players[2]);
 }
@@ -80,7 +80,7 @@ TEST_F(DetailDisplay, EveryBoxShowsAndWritesItsOwnField)
     EXPECT_EQ(game->Players[1], player);
     EXPECT_EQ(game->Teams[1], team);
     // The team now stands under its new country, with its new name.
-    Combo("countryList").SetText("England");
+    Pick(Combo("countryList"), "England");
     EXPECT_EQ(Rows(Combo("teamList")), std::vector<QString>{"Perth Pelicans II"});
 }
 

@@ -37,16 +37,16 @@ TEST_F(EditTick, ANewNameRebuildsTheSquadListAndKeepsThePlayer)
     Tick();
     EXPECT_EQ(game->Players[1].surname, "Quillfeathers");
     EXPECT_EQ(Rows(Squad()), (std::vector<QString>{"H R Quillfeathers", " Ormsby", "T Vanterpool"}));
-    EXPECT_EQ(Squad().ListIndex(), 0);   // his row stays chosen, so Delete and Replace still find him
+    EXPECT_EQ(Squad().ChosenRow(), 0);  // his row stays chosen, so Delete and Replace still find him
     EXPECT_EQ(main->CurrentPlayer(), 1);
     // The box being typed in is left alone.
     EXPECT_EQ(QApplication::focusWidget(), &surname);
     EXPECT_EQ(surname.cursorPosition(), caret);
 
     // A tick that finds the name unchanged leaves the list and its choice.
-    Squad().SetText(" Ormsby");
+    Pick(Squad(), " Ormsby");
     Tick();
-    EXPECT_EQ(Squad().ListIndex(), 1);
+    EXPECT_EQ(Squad().ChosenRow(), 1);
 }
 
 TEST_F(EditTick, NameBoxesRefuseWhatTheFilesCannotCarry)

@@ -14,8 +14,8 @@ EditorTest::EditorTest()
     ClearShownMessages();
     SetMessageAnswerer([this](const ShownMessage&) {
         if (answers_.empty())
-            return IdOk;
-        const int answer = answers_.front();
+            return QMessageBox::Ok;
+        const QMessageBox::StandardButton answer = answers_.front();
         answers_.erase(answers_.begin());
         return answer;
     });

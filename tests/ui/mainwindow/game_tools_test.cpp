@@ -51,9 +51,10 @@ protected:
     // Where the main window stands: country, team entry, squad row, shown player.
     std::vector<QString> Place() const
     {
-        const ListBox& squad = Squad();
-        return {Combo("countryList").currentText(), Combo("teamList").currentText(), squad.List(squad.ListIndex()),
-                BoxText("surname")};
+        const ChoiceList& squad = Squad();
+        const int row = squad.ChosenRow();
+        return {Combo("countryList").currentText(), Combo("teamList").currentText(),
+                row >= 0 ? squad.item(row)->text() : QString(), BoxText("surname")};
     }
 
     // Answers the CSV folder chooser with `folder` and the import window
@@ -108,7 +109,7 @@ TEST_F(GameToolsTest, FindPlayerGoesToHisCountryTeamAndRow)
     find("brinkw");
     EXPECT_EQ(main->CurrentPlayer(), 7);
     EXPECT_EQ(main->CurrentTeam(), std::nullopt);
-    EXPECT_EQ(Squad().ListCount(), 0);
+    EXPECT_EQ(Squad().count(), 0);
     EXPECT_EQ(BoxText("surname"), "Brinkwell");
     Retype("surname", "Brinkworth");
     Tick();

@@ -71,12 +71,12 @@ protected:
     {
         Through<SearchWindow>(button, [&](SearchWindow& search) {
             Find<QPushButton>(search, "searchButton").click();
-            ListBox& results = Find<ListBox>(search, "resultList");
+            ChoiceList& results = Find<ChoiceList>(search, "resultList");
             QString row;
-            for (int index = 0; index < results.ListCount(); ++index)
-                if (results.List(index).endsWith(QLatin1Char(' ') + QLatin1String(surname)))
-                    row = results.List(index);
-            ASSERT_TRUE(results.SetText(row)) << surname;
+            for (const QString& listed : Rows(results))
+                if (listed.endsWith(QLatin1Char(' ') + QLatin1String(surname)))
+                    row = listed;
+            ASSERT_TRUE(Pick(results, row)) << surname;
             Find<QPushButton>(search, moveButton).click();
         });
     }
@@ -98,8 +98,8 @@ protected:
     // What the window shows: team entry, squad row's player and the name box.
     std::tuple<QString, int, QString> Shown() const
     {
-        const int row = Squad().ListIndex();
-        return {Combo("teamList").currentText(), row >= 0 ? Squad().ItemData(row) : 0, BoxText("surname")};
+        const int row = Squad().ChosenRow();
+        return {Combo("teamList").currentText(), row >= 0 ? Squad().NumberAt(row) : 0, BoxText("surname")};
     }
 };
 
@@ -113,13 +113,25 @@ TEST_F(UnsavedWork, AnEditJustTypedReachesTheRecordsBeforeAnyCommand)
         bool saved;
     } cases[] = {
         {"Ctrl+S", [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::ControlModifier); }, true},
-        {"another row", [this] { Squad().SetText(" Ormsby"); }, false},
-        {"another team", [this] { Combo("teamList").SetText("Darwin Dingoes"); }, false},
-        {"another country", [this] { Combo("countryList").SetText(Combo("countryList").List(7)); }, false},
-        {"delete, answered No", [this] { Answer({IdNo}); Button("deletePlayerButton").click(); }, false},
-        {"the search window", [this] { Through<SearchWindow>("addExistingPlayerButton", [](SearchWindow&) {}); }, false},
-        {"the new-player window", [this] { Through<NewPlayerWindow>("addNewPlayerButton", [](NewPlayerWindow&) {}); }, false},
-        {"the close box, saving", [this] { Answer({IdYes, IdOk}); main->close(); }, true},
+        {"another row", [this] { Pick(Squad(), " Ormsby"); }, false},
+        {"another team", [this] { Pick(Combo("teamList"), "Darwin Dingoes"); }, false},
+        {"another country", [this] { Pick(Combo("countryList"), Combo("countryList").itemText(7)); }, false},
+        {"delete, answered No",
+         [this] {
+             Answer({QMessageBox::No});
+             Button("deletePlayerButton").click();
+         },
+         false},
+        {"the search window", [this] { Through<SearchWindow>("addExistingPlayerButton", [](SearchWindow&) {}); },
+         false},
+        {"the new-player window", [this] { Through<NewPlayerWindow>("addNewPlayerButton", [](NewPlayerWindow&) {}); },
+         false},
+        {"the close box, saving",
+         [this] {
+             Answer({QMessageBox::Yes, QMessageBox::Ok});
+             main->close();
+         },
+         true},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
@@ -137,14 +149,14 @@ TEST_F(UnsavedWork, TheCloseBoxAsksWhenThereAreUnsavedChanges)
 {
     const struct {
         bool edited;
-        int answer;
+        QMessageBox::StandardButton answer;
         bool closes;
         bool saves;
     } cases[] = {
-        {false, IdCancel, true, false},   // not asked at all
-        {true, IdCancel, false, false},
-        {true, IdNo, true, false},
-        {true, IdYes, true, true},
+        {false, QMessageBox::Cancel, true, false},  // not asked at all
+        {true, QMessageBox::Cancel, false, false},
+        {true, QMessageBox::No, true, false},
+        {true, QMessageBox::Yes, true, true},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(testing::Message() << c.edited << " " << c.answer);
@@ -156,14 +168,15 @@ TEST_F(UnsavedWork, TheCloseBoxAsksWhenThereAreUnsavedChanges)
             Tick();
             EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")*");
         }
-        Answer({c.answer, IdOk});
+        Answer({c.answer, QMessageBox::Ok});
         main->close();
         EXPECT_EQ(main->isVisible(), !c.closes);
         ASSERT_EQ(ShownMessages().empty(), !c.edited);
         if (c.edited) {
             EXPECT_EQ(ShownMessages()[0].text, SaveQuestion);
             EXPECT_EQ(ShownMessages()[0].title, "Saving..");
-            EXPECT_EQ(ShownMessages()[0].flags, MbYesNoCancel | MbExclamation);
+            EXPECT_EQ(Look(ShownMessages()[0]),
+                      Look(QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel));
         }
         EXPECT_EQ(Files() == before, !c.saves);
     }
@@ -177,7 +190,7 @@ TEST_F(UnsavedWork, TheCloseBoxAsksWhenThereAreUnsavedChanges)
     EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
     EXPECT_FALSE(main->HasUnsavedChanges());
     Redo().trigger();
-    Answer({IdOk});
+    Answer({QMessageBox::Ok});
     Find<QAction>(*main, "saveAction").trigger();
     EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
     Undo().trigger();
@@ -206,14 +219,14 @@ TEST_F(UnsavedWork, EveryKindOfStepIsUndoneAndRedoneWhereItHappened)
     Redo().trigger();
 
     const auto undoText = [&] { return Undo().text(); };
-    Answer({IdYes});
-    Squad().SetText(" Ormsby");
+    Answer({QMessageBox::Yes});
+    Pick(Squad(), " Ormsby");
     Button("deletePlayerButton").click();
     EXPECT_EQ(undoText(), "&Undo delete of Ormsby");
     // A transfer between two teams, then a replace and a new player.
     Transfer("addExistingPlayerButton", "Ashgrove", "addButton");
     EXPECT_EQ(undoText(), "&Undo add of K Ashgrove to Perth Pelicans");
-    Squad().SetText("T Vanterpool");
+    Pick(Squad(), "T Vanterpool");
     Transfer("replacePlayerButton", "Calloway", "replaceButton");
     EXPECT_EQ(undoText(), "&Undo replace of T Vanterpool by W Calloway");
     NewPlayer("Newcombe");
@@ -263,13 +276,13 @@ TEST_F(UnsavedWork, UndoingAWholeSessionGivesBackTheLoadedFilesByteForByte)
 {
     OpenStill();
     const std::string loaded = Files();
-    Combo("teamList").SetText("Darwin Dingoes");
+    Pick(Combo("teamList"), "Darwin Dingoes");
     Transfer("addExistingPlayerButton", "Quillfeather", "addButton");
-    Squad().SetText("P J Brindle");
-    Answer({IdYes});
+    Pick(Squad(), "P J Brindle");
+    Answer({QMessageBox::Yes});
     Button("deletePlayerButton").click();
     NewPlayer("Newcombe");
-    Squad().SetText("K Ashgrove");
+    Pick(Squad(), "K Ashgrove");
     const std::pair<const char*, const char*> edits[] = {
         {"surname", "Ashgrove-Smith"}, {"initials", ""}, {"birthYear", "1999"}, {"batSkill", "61"},
         {"bowlSkill", "7"},            {"potential", "20"}, {"team.teamName", "Darwin Dingoes FC"},
@@ -280,7 +293,7 @@ TEST_F(UnsavedWork, UndoingAWholeSessionGivesBackTheLoadedFilesByteForByte)
         Tick();
     }
     Find<TextBox>(*main, "team.support").setFocus();
-    Answer({IdOk});
+    Answer({QMessageBox::Ok});
     Find<QAction>(*main, "saveAction").trigger();
     ASSERT_NE(Files(), loaded);
 
@@ -288,7 +301,7 @@ TEST_F(UnsavedWork, UndoingAWholeSessionGivesBackTheLoadedFilesByteForByte)
     for (; Undo().isEnabled() && steps < 100; ++steps)
         Undo().trigger();
     EXPECT_EQ(steps, 13);
-    Answer({IdOk});
+    Answer({QMessageBox::Ok});
     Find<QAction>(*main, "saveAction").trigger();
     EXPECT_TRUE(Files() == loaded);
 }
@@ -299,28 +312,28 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
 {
     OpenStill();
     const QWidget& column = Find<QWidget>(*main, "playerColumn");
-    Combo("teamList").SetText("Darwin Dingoes");
+    Pick(Combo("teamList"), "Darwin Dingoes");
     EXPECT_EQ(main->CurrentPlayer(), std::nullopt);
     EXPECT_FALSE(column.isEnabled());
     EXPECT_EQ(BoxText("surname"), "");
     Tick();
     EXPECT_EQ(game->Players[1].surname, "Quillfeather");
-    Squad().SetText("K Ashgrove");
+    Pick(Squad(), "K Ashgrove");
     EXPECT_TRUE(column.isEnabled());
 
     // Renaming keeps his row, so Delete still finds him.
     Retype("surname", "Ashgrove-Smith");
     Tick();
-    EXPECT_EQ(Squad().List(Squad().ListIndex()), "K Ashgrove-Smith");
+    EXPECT_EQ(Squad().item(Squad().ChosenRow())->text(), "K Ashgrove-Smith");
 
     // The wheel over a list the user is not working passes it by.
     auto& batPosition = Combo("batPosition");
-    const int position = batPosition.ListIndex();
+    const int position = batPosition.currentIndex();
     const QPointF middle = QRectF(batPosition.rect()).center();
     QWheelEvent wheel(middle, batPosition.mapToGlobal(middle), QPoint(), QPoint(0, -120), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&batPosition, &wheel);
-    EXPECT_EQ(batPosition.ListIndex(), position);
+    EXPECT_EQ(batPosition.currentIndex(), position);
 
     const struct {
         const char* box;
@@ -361,12 +374,12 @@ TEST_F(UnsavedWork, AGameFolderThatCannotBeOpenedAtStartIsToldAndOptionsOffered)
     const struct {
         QString folder;
         QString told;
-        int answer;
+        QMessageBox::StandardButton answer;
     } cases[] = {
-        {missing, "The game folder " + QDir::toNativeSeparators(missing) + " does not exist.", IdNo},
-        {missing, "The game folder " + QDir::toNativeSeparators(missing) + " does not exist.", IdYes},
-        {refusing, "players.dat was not read: it is a folder, not a file", IdNo},
-        {refusing, "players.dat was not read: it is a folder, not a file", IdYes},
+        {missing, "The game folder " + QDir::toNativeSeparators(missing) + " does not exist.", QMessageBox::No},
+        {missing, "The game folder " + QDir::toNativeSeparators(missing) + " does not exist.", QMessageBox::Yes},
+        {refusing, "players.dat was not read: it is a folder, not a file", QMessageBox::No},
+        {refusing, "players.dat was not read: it is a folder, not a file", QMessageBox::Yes},
     };
     for (const auto& c : cases) {
         ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(c.folder)).ok());
@@ -381,7 +394,7 @@ TEST_F(UnsavedWork, AGameFolderThatCannotBeOpenedAtStartIsToldAndOptionsOffered)
         ASSERT_EQ(ShownMessages().size(), 1u) << c.told.toStdString();
         EXPECT_EQ(ShownMessages()[0].text,
                   c.told + "\n\nDo you want to choose the game's folder now (File > Options)?");
-        EXPECT_EQ(optionsShown, c.answer == IdYes);
+        EXPECT_EQ(optionsShown, c.answer == QMessageBox::Yes);
     }
 }
 
