@@ -5,12 +5,10 @@
 #include <string_view>
 
 #include "data/fields.h"
-#include "forms/box_marks.h"
 #include "forms/drop_down.h"
 #include "forms/fitted_layout.h"
 #include "forms/game_text.h"
 #include "forms/text_box.h"
-#include "forms/value_boxes.h"
 
 namespace {
 
@@ -53,15 +51,6 @@ bool StartsRow(int index)
 {
     return index == 0 || ShownFields[std::size_t(index - 1)]->label != ShownFields[std::size_t(index)]->label;
 }
-
-// The boxes in the order they are shown: the codes, the date of birth, the
-// skills, then the name.
-constexpr std::array<PlayerBox, PlayerBoxCount> ShowOrder{
-    PlayerBox::HomeCountry, PlayerBox::BatPosition, PlayerBox::Bats, PlayerBox::BowlType, PlayerBox::Bowls,
-    PlayerBox::FieldsAt, PlayerBox::BirthDay, PlayerBox::BirthMonth, PlayerBox::BirthYear, PlayerBox::BatSkill,
-    PlayerBox::BatAggression, PlayerBox::BowlSkill, PlayerBox::BowlEconomy, PlayerBox::FieldAbility,
-    PlayerBox::Potential, PlayerBox::Initials, PlayerBox::Surname,
-};
 
 QRect Bounds(const PlayerColumnPlaces& places)
 {
@@ -115,7 +104,9 @@ PlayerColumn::PlayerColumn(FittedLayout& at, const PlayerColumnPlaces& places, Q
         }
         value->setObjectName(FromGame(field.name));
         boxes_[std::size_t(index)] = value;
+        fields_.Add(value, field);
     }
+    fields_.Connect(this, [this](const PlayerField& field, const TypedValue& value) { emit edited(field, value); });
 }
 
 TextBox* PlayerColumn::Text(PlayerBox box) const
@@ -139,46 +130,22 @@ void PlayerColumn::SetReadOnly(bool readOnly)
 
 void PlayerColumn::Show(const PlayerRecord& player)
 {
-    for (PlayerBox box : ShowOrder) {
-        const PlayerField& field = FieldOf(box);
-        const int before = field.kind == FieldKind::Code ? Codes(box)->currentIndex() : -1;
-        ShowField(*Box(box), field, player);
-        if (readOnly_ && field.kind == FieldKind::Code && Codes(box)->currentIndex() < 0)
-            ShowEntry(*Codes(box), before);
-    }
+    fields_.Show(player, readOnly_);
+}
+
+void PlayerColumn::Refresh(const PlayerRecord& player)
+{
+    fields_.Refresh(player);
 }
 
 void PlayerColumn::ShowNothing()
 {
-    for (PlayerBox box : ShowOrder) {
-        if (FieldOf(box).kind == FieldKind::Code) {
-            ShowEntry(*Codes(box), -1);
-        } else {
-            ShowText(*Text(box), QString());
-            MarkBox(*Text(box), BoxMark::Plain, QString());
-        }
-    }
+    fields_.ShowNothing();
 }
 
 QString PlayerColumn::MarkNumberBoxes(const PlayerRecord& player)
 {
-    QString focused;
-    for (PlayerBox box : ShowOrder) {
-        if (FieldOf(box).kind != FieldKind::Number)
-            continue;
-        const QString said = MarkNumberBox(*Text(box), FieldOf(box), player);
-        if (Text(box)->hasFocus())
-            focused = said;
-    }
-    return focused;
-}
-
-bool PlayerColumn::WriteBack(PlayerRecord& player) const
-{
-    bool nameChanged = false;
-    for (PlayerBox box : ShowOrder)
-        nameChanged = StoreField(*Box(box), FieldOf(box), player) || nameChanged;
-    return nameChanged;
+    return fields_.MarkNumberBoxes(player);
 }
 
 NewPlayerEntries PlayerColumn::Entries() const

@@ -5,7 +5,8 @@
 #include <array>
 #include <functional>
 
-#include "data/records.h"
+#include "data/fields.h"
+#include "forms/record_boxes.h"
 #include "newplayer/new_player_check.h"
 
 class QComboBox;
@@ -40,8 +41,8 @@ struct PlayerColumnPlaces {
 };
 
 // One player's values, each in the box its field's kind calls for: a text box
-// for a name or a number, a list for a code. The column shows a record and, unless
-// it is read-only, carries what its boxes hold back into one.
+// for a name or a number, a list for a code. The column shows a record and,
+// unless it is read-only, tells each change the user makes by `edited`.
 class PlayerColumn : public QWidget {
     Q_OBJECT
 public:
@@ -53,17 +54,15 @@ public:
     // before, as no write-back can harm the record.
     void SetReadOnly(bool readOnly);
 
-    // Fills the boxes from the record, without running any handler. A code is
-    // shown by its place in the list, so the second "Namibia" stays the second;
-    // a code with no entry leaves its list with nothing chosen.
+    // Fills the boxes from the record, telling no one. A code is shown by its
+    // place in the list, so the second "Namibia" stays the second; a code
+    // with no entry leaves its list with nothing chosen.
     void Show(const PlayerRecord& player);
+    // The shown player changed: the boxes of the fields that changed show him
+    // again, but the one being typed in.
+    void Refresh(const PlayerRecord& player);
     // Every box empty and every list on no entry: no player is shown.
     void ShowNothing();
-
-    // Copies every box into the record, changed or not: a number that does not
-    // convert and a list with nothing chosen leave their field as it was.
-    // True when the initials or the surname changed.
-    bool WriteBack(PlayerRecord& player) const;
 
     // Tints each number box by what its field in `player` made of its text,
     // and gives what the box with the keyboard focus says (empty if none).
@@ -87,6 +86,8 @@ public:
     void SetNumberKeyFilter(const std::function<bool(const QKeyEvent& key)>& filter);
 
 signals:
+    // The user changed `field` in its box to `value`.
+    void edited(const PlayerField& field, const TypedValue& value);
     // A name box turned a key or a paste away, and why.
     void nameRefused(const QString& why);
 
@@ -95,5 +96,6 @@ private:
     QComboBox* Codes(PlayerBox box) const;
 
     std::array<QWidget*, PlayerBoxCount> boxes_{};
+    RecordBoxes<PlayerRecord> fields_;
     bool readOnly_ = false;
 };

@@ -35,21 +35,22 @@ TextBox::TextBox(QWidget* parent)
     // Every change a person makes, whether typed, pasted, dropped or undone,
     // comes through textEdited; the program's own setText does not.
     connect(this, &QLineEdit::textEdited, this, [this](const QString& edited) {
-        if (reverting_)
+        if (reverting_ || !textRule_)
             return;
-        if (textRule_) {
-            if (const std::optional<QString> why = textRule_(edited)) {
-                RevertEdit(edited);
-                Beep();
-                emit refused(*why);
-                return;
-            }
+        if (const std::optional<QString> why = textRule_(edited)) {
+            RevertEdit(edited);
+            Beep();
+            emit refused(*why);
         }
-        lastAccepted_ = edited;
     });
+    // A refused edit is taken back by the handler above, whichever of the
+    // two signals comes first; here it is only left untold.
     connect(this, &QLineEdit::textChanged, this, [this] {
-        if (!reverting_)
-            lastAccepted_ = text();
+        if (reverting_ || text() == lastAccepted_ || (textRule_ && textRule_(text())))
+            return;
+        lastAccepted_ = text();
+        if (!showing_)
+            emit edited(lastAccepted_);
     });
 }
 
@@ -62,6 +63,15 @@ void TextBox::SetTextRule(TextRule rule)
 {
     textRule_ = std::move(rule);
     lastAccepted_ = text();
+}
+
+void TextBox::ShowText(const QString& text)
+{
+    showing_ = true;
+    setText(text);
+    showing_ = false;
+    lastAccepted_ = text;
+    setCursorPosition(0);
 }
 
 void TextBox::RevertEdit(const QString& edited)

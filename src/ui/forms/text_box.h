@@ -10,7 +10,8 @@ class QKeyEvent;
 // types text, and says whether it may pass; a refused key beeps and does
 // nothing. A text rule says why the whole text a key or a paste would leave
 // may not stand; such a change beeps, leaves the box as it was and is told
-// by `refused`.
+// by `refused`. Every other change is told by `edited`, but for the values
+// the program shows with ShowText.
 class TextBox : public QLineEdit {
     Q_OBJECT
 public:
@@ -22,7 +23,12 @@ public:
     void SetKeyFilter(KeyFilter filter);
     void SetTextRule(TextRule rule);
 
+    // Shows a value the program holds, with its beginning in view.
+    void ShowText(const QString& text);
+
 signals:
+    // The text changed to one the rule lets stand, by the user or by setText.
+    void edited(const QString& text);
     void refused(const QString& why);
 
 protected:
@@ -35,4 +41,5 @@ private:
     TextRule textRule_;
     QString lastAccepted_;
     bool reverting_ = false;
+    bool showing_ = false;
 };

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "document/squad_steps.h"
 #include "forms/fitted_layout.h"
 #include "forms/message_box.h"
 #include "forms/modal.h"
@@ -75,8 +76,8 @@ PlayerColumnPlaces EntryPlaces()
 
 }  // namespace
 
-NewPlayerWindow::NewPlayerWindow(Game& game, int team, QWidget* parent)
-    : QDialog(parent), game_(game), team_(team)
+NewPlayerWindow::NewPlayerWindow(GameDocument& document, int team, QWidget* parent)
+    : QDialog(parent), document_(document), team_(team)
 {
     setObjectName(QStringLiteral("newPlayerWindow"));
     setWindowTitle(QStringLiteral("New Player"));
@@ -118,7 +119,7 @@ bool NewPlayerWindow::PassesNumberKey(const QKeyEvent& key)
 void NewPlayerWindow::OnOk()
 {
     const NewPlayerEntries entries = entries_->Entries();
-    const NewPlayerOutcome outcome = CommitNewPlayer(game_, team_, entries);
+    const NewPlayerOutcome outcome = CommitNewPlayer(document_, team_, entries);
     if (outcome == NewPlayerOutcome::BadEntries) {
         // The message names the box, so the user need not hunt for it.
         ShowMessage(QMessageBox::Information, QStringLiteral("Error"),
@@ -130,7 +131,6 @@ void NewPlayerWindow::OnOk()
         ShowOutcome(outcome);
         return;
     }
-    emit playerCreated(game_.PlayerCount);
     accept();
 }
 

@@ -46,8 +46,8 @@ QString FromSystemPath(const std::string& path)
     return QDir::fromNativeSeparators(QString::fromStdString(path));
 }
 
-OptionsWindow::OptionsWindow(Game& game, SettingPlaces places, Mode mode, QWidget* parent)
-    : QDialog(parent), game_(game), places_(std::move(places))
+OptionsWindow::OptionsWindow(std::string folder, SettingPlaces places, Mode mode, QWidget* parent)
+    : QDialog(parent), folder_(std::move(folder)), places_(std::move(places))
 {
     setObjectName(QStringLiteral("optionsWindow"));
     setWindowTitle(QStringLiteral("Options"));
@@ -81,7 +81,7 @@ OptionsWindow::OptionsWindow(Game& game, SettingPlaces places, Mode mode, QWidge
     if (mode == Mode::ChangeDirectory) {
         firstStartOkButton_->hide();
         changeDirectoryOkButton_->show();
-        folderList_->SetPath(FromSystemPath(game_.GameDirectory));
+        folderList_->SetPath(FromSystemPath(folder_));
         driveList_->SetDrive(folderList_->Path());
         folderList_->SetPath(fileList_->Path());
     }
@@ -118,7 +118,7 @@ void OptionsWindow::OnFolderOpened()
 void OptionsWindow::OnFirstStartOk()
 {
     if (BothDataFilesListed()) {
-        SetGameDirectory(game_, ToSystemPath(folderList_->Path()));
+        folder_ = ToSystemPath(folderList_->Path());
         StoreSetting();
     } else {
         ShowMessage(QMessageBox::Critical, QStringLiteral("Error"),
@@ -136,16 +136,16 @@ void OptionsWindow::OnChangeDirectoryOk()
     }
     if (mayLeaveGame_ && !mayLeaveGame_())
         return;
-    SetGameDirectory(game_, ToSystemPath(folderList_->Path()));
+    folder_ = ToSystemPath(folderList_->Path());
     StoreSetting();
-    emit gameDirectoryChanged();
+    emit folderChosen(folder_);
     accept();
 }
 
 void OptionsWindow::StoreSetting()
 {
     const QString settingFile = places_.PathToWrite();
-    const FileResult stored = WriteSettingFile(ToSystemPath(settingFile), game_.GameDirectory);
+    const FileResult stored = WriteSettingFile(ToSystemPath(settingFile), folder_);
     if (stored.ok())
         return;
     ShowMessage(QMessageBox::Warning, QStringLiteral("Options"),

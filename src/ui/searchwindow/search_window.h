@@ -3,11 +3,11 @@
 #include <QDialog>
 #include <optional>
 
-#include "data/game.h"
 #include "search/search_filters.h"
 
 class FittedLayout;
 class ChoiceList;
+class GameDocument;
 class PlayerColumn;
 class QComboBox;
 class QPushButton;
@@ -15,7 +15,7 @@ class TextBox;
 
 // The search window: finds players of any club by nationality and type,
 // sorts them, shows one in a read-only panel and moves him into the squad of
-// the team it was opened for. It opens in add mode ("Add This Player", which
+// the team it was opened for, each move a step of the document. It opens in add mode ("Add This Player", which
 // may be pressed again and again) or in replace mode ("Replace with this
 // player", which closes the window once done). Built afresh for each showing.
 class SearchWindow : public QDialog {
@@ -25,17 +25,10 @@ public:
 
     // `squadRow` is the chosen row of the team's squad list, the player a
     // replacement puts out; -1 when none is chosen.
-    SearchWindow(Game& game, int team, Mode mode, int squadRow, QWidget* parent = nullptr);
+    SearchWindow(GameDocument& document, int team, Mode mode, int squadRow, QWidget* parent = nullptr);
 
     // The candidate shown in the panel, if one has been picked.
     std::optional<std::int16_t> Candidate() const;
-
-    // The squad list's chosen row changed under this window.
-    void SetSquadRow(int row) { squadRow_ = row; }
-
-signals:
-    // A player was moved into the squad of `team`.
-    void squadChanged(int team);
 
 private:
     void BuildFilters(FittedLayout& at);
@@ -65,9 +58,9 @@ private:
     // The bar as long as the share `done` of the sort.
     void ShowSortProgress(double done);
 
-    Game& game_;
+    GameDocument& document_;
     const int team_;
-    int squadRow_;
+    const int squadRow_;
 
     QComboBox* nationalityFilter_ = nullptr;
     QComboBox* clubFilter_ = nullptr;

@@ -10,6 +10,7 @@
 #include "forms/player_column.h"
 #include "forms/text_box.h"
 #include "forms/value_boxes.h"
+#include "document/game_document.h"
 #include "searchwindow/search_window.h"
 
 namespace {
@@ -60,8 +61,8 @@ Control* Named(Control* control, const char* name)
 
 }  // namespace
 
-SearchWindow::SearchWindow(Game& game, int team, Mode mode, int squadRow, QWidget* parent)
-    : QDialog(parent), game_(game), team_(team), squadRow_(squadRow)
+SearchWindow::SearchWindow(GameDocument& document, int team, Mode mode, int squadRow, QWidget* parent)
+    : QDialog(parent), document_(document), team_(team), squadRow_(squadRow)
 {
     setObjectName(QStringLiteral("searchWindow"));
     setWindowTitle(QStringLiteral("Add Player.."));
@@ -155,9 +156,9 @@ void SearchWindow::ConnectHandlers()
 void SearchWindow::FillSelectors()
 {
     clubFilter_->addItem(QStringLiteral("All Clubs"));
-    const int teams = LoadedTeamCount(game_);
-    for (int team = 1; team <= teams; ++team)
-        clubFilter_->addItem(FromGame(game_.Teams[std::size_t(team)].teamName), team);
+    const Game& game = document_.Records();
+    for (int team = 1; team <= LoadedTeamCount(game); ++team)
+        clubFilter_->addItem(FromGame(game.Teams[std::size_t(team)].teamName), team);
     for (QComboBox* selector :
          {nationalityFilter_, clubFilter_, battingFilter_, bowlingFilter_, fieldingFilter_, sortKeyList_})
         selector->setCurrentIndex(0);

@@ -4,6 +4,7 @@
 
 #include "forms/choice_list.h"
 #include "forms/listed_name.h"
+#include "document/game_document.h"
 #include "search/player_sort.h"
 #include "search/search_filters.h"
 #include "searchwindow/search_window.h"
@@ -21,7 +22,7 @@ void SearchWindow::OnSearch()
     // A new search leaves no candidate: Add and Replace then have no one to move.
     resultList_->clear();
     ShowNoCandidate();
-    results_ = RunFilters(game_, filters);
+    results_ = RunFilters(document_.Records(), filters);
     SortWithBar();
 
     for (const PlayerRecord& candidate : results_) {

@@ -1,7 +1,7 @@
 #pragma once
 
 // A game written into a folder of its own, an editor.dat that names it, and
-// the main window opened on it as the program opens it.
+// the editor opened on it as the program opens it.
 
 #include <QAction>
 #include <QApplication>
@@ -16,8 +16,8 @@
 
 #include "forms/choice_list.h"
 #include "forms/message_box.h"
+#include "editor/editor.h"
 #include "forms/text_box.h"
-#include "mainwindow/main_window.h"
 #include "support/game_builder.h"
 #include "support/window_parts.h"
 
@@ -38,9 +38,9 @@ protected:
     // Writes the game's files and editor.dat, then runs the start-up as the
     // program does and shows the window.
     void Open(GameBuilder built = SmallWorld());
-
-    // The tick as the timer runs it.
-    void Tick() { main->CarryEditsIntoRecords(); }
+    // The editor as the program makes it, before its start.
+    void MakeEditor(const SettingPlaces& places);
+    GameDocument& Document() const { return editor->Document(); }
 
     // Answers for the coming message boxes, in order; OK when none is left.
     void Answer(std::vector<QMessageBox::StandardButton> answers) { answers_ = std::move(answers); }
@@ -57,8 +57,9 @@ protected:
     QString TeamNumber() const { return Find<QLabel>(*main, "teamNumber").text(); }
 
     QTemporaryDir root_;
-    std::unique_ptr<Game> game;
-    std::unique_ptr<MainWindow> main;
+    std::unique_ptr<Editor> editor;
+    MainWindow* main = nullptr;
+    const Game* game = nullptr;
 
 private:
     std::vector<QMessageBox::StandardButton> answers_;

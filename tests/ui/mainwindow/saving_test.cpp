@@ -31,7 +31,6 @@ protected:
         // One edit in each file.
         Retype("batSkill", "58");
         Retype("team.teamName", "Perth Pelicans XI");
-        Tick();
     }
 
     std::string Files() const

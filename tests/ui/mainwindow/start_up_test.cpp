@@ -1,5 +1,5 @@
 // The editor comes up on the first country, team and player of the game
-// that editor.dat names, and only then starts carrying edits into the records.
+// that editor.dat names, and what is typed there goes into the records.
 
 #include "editor_fixture.h"
 
@@ -22,7 +22,7 @@ TEST_F(StartUp, OpensOnTheFirstTeamAndPlayerOfTheFirstCountry)
     EXPECT_EQ(main->CurrentPlayer(), 1);
     EXPECT_EQ(QApplication::focusWidget(), &Squad());
     EXPECT_TRUE(ShownMessages().empty());
-    // The timer carries an edit without help.
+    // An edit reaches the record without help.
     Retype("potential", "19");
     EXPECT_TRUE(QTest::qWaitFor([&] { return game->Players[1].potential == 19; }, 2000));
 
@@ -55,14 +55,13 @@ TEST_F(StartUp, AFirstCountryWithoutTeamsLeavesNoCurrentTeam)
     EXPECT_EQ(Squad().count(), 0);
     EXPECT_EQ(TeamNumber(), "123");
     EXPECT_EQ(main->CurrentPlayer(), std::nullopt);
-    Tick();
+    Retype("team.teamName", "Renamed");
     EXPECT_EQ(game->Teams[123].teamName, "Club 123");
 
     // Once a team is shown, it is the one that edits go to.
     Pick(Combo("countryList"), "England");
     EXPECT_EQ(main->CurrentPlayer(), 1);
     Retype("team.reputation", "61");
-    Tick();
     EXPECT_EQ(game->Teams[1].reputation, 61);
     EXPECT_EQ(game->Teams[123].reputation, 50);
 }

@@ -1,13 +1,12 @@
-// Nothing typed is lost or changed behind the user's back: pending edits are
-// carried before anything reads the records, leaving with unsaved changes
-// asks first, every step can be undone and redone, and what a box does not
-// take as typed is shown.
+// Nothing typed is lost or changed behind the user's back: an edit is in the
+// records before any command reads them, leaving with unsaved changes asks
+// first, every step can be undone and redone, and what a box does not take
+// as typed is shown.
 
 #include <QDir>
 #include <QFile>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QTimer>
 #include <QWheelEvent>
 
 #include "data/file_io.h"
@@ -29,11 +28,10 @@ class UnsavedWork : public EditorTest {
 protected:
     ~UnsavedWork() override { SetModalDriver({}); }
 
-    // Opens the small game with the timer stopped: the tests say when a tick runs.
+    // Opens the small game, no message shown yet.
     void OpenStill()
     {
         Open();
-        Find<QTimer>(*main, "editTimer").stop();
         ClearShownMessages();
     }
 
@@ -103,8 +101,7 @@ protected:
     }
 };
 
-// An edit typed a moment before a command is in the records when it runs:
-// no tick comes between the typing and any of these.
+// An edit typed a moment before a command is in the records when it runs.
 TEST_F(UnsavedWork, AnEditJustTypedReachesTheRecordsBeforeAnyCommand)
 {
     const struct {
@@ -165,7 +162,6 @@ TEST_F(UnsavedWork, TheCloseBoxAsksWhenThereAreUnsavedChanges)
         EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
         if (c.edited) {
             Retype("team.wealth", "700");
-            Tick();
             EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")*");
         }
         Answer({c.answer, QMessageBox::Ok});
@@ -185,10 +181,9 @@ TEST_F(UnsavedWork, TheCloseBoxAsksWhenThereAreUnsavedChanges)
     // steps, and undoing past it puts the mark back.
     OpenStill();
     Retype("team.wealth", "700");
-    Tick();
     Undo().trigger();
     EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
-    EXPECT_FALSE(main->HasUnsavedChanges());
+    EXPECT_FALSE(Document().IsModified());
     Redo().trigger();
     Answer({QMessageBox::Ok});
     Find<QAction>(*main, "saveAction").trigger();
@@ -205,13 +200,10 @@ TEST_F(UnsavedWork, EveryKindOfStepIsUndoneAndRedoneWhereItHappened)
     OpenStill();
     EXPECT_FALSE(Undo().isEnabled());
 
-    // A box is one step however many ticks carry it, until the focus leaves.
+    // A box is one step however many keys are typed in it, until the focus leaves.
     Retype("batSkill", "2");
-    Tick();
     QTest::keyClicks(&Find<TextBox>(*main, "batSkill"), "5");
-    Tick();
     Retype("potential", "19");
-    Tick();
     EXPECT_EQ(Undo().text(), "&Undo edit of Potential for H R Quillfeather");
     Undo().trigger();
     EXPECT_EQ(Undo().text(), "&Undo edit of Bat skill for H R Quillfeather");
@@ -260,7 +252,7 @@ TEST_F(UnsavedWork, EveryKindOfStepIsUndoneAndRedoneWhereItHappened)
     Undo().trigger();
     EXPECT_EQ(BoxText("batSkill"), "52");
     EXPECT_FALSE(Undo().isEnabled());
-    EXPECT_FALSE(main->HasUnsavedChanges());
+    EXPECT_FALSE(Document().IsModified());
 
     while (Redo().isEnabled())
         Redo().trigger();
@@ -290,7 +282,6 @@ TEST_F(UnsavedWork, UndoingAWholeSessionGivesBackTheLoadedFilesByteForByte)
     };
     for (const auto& [box, text] : edits) {
         Retype(box, text);
-        Tick();
     }
     Find<TextBox>(*main, "team.support").setFocus();
     Answer({QMessageBox::Ok});
@@ -316,14 +307,12 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
     EXPECT_EQ(main->CurrentPlayer(), std::nullopt);
     EXPECT_FALSE(column.isEnabled());
     EXPECT_EQ(BoxText("surname"), "");
-    Tick();
     EXPECT_EQ(game->Players[1].surname, "Quillfeather");
     Pick(Squad(), "K Ashgrove");
     EXPECT_TRUE(column.isEnabled());
 
     // Renaming keeps his row, so Delete still finds him.
     Retype("surname", "Ashgrove-Smith");
-    Tick();
     EXPECT_EQ(Squad().item(Squad().ChosenRow())->text(), "K Ashgrove-Smith");
 
     // The wheel over a list the user is not working passes it by.
@@ -352,7 +341,6 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
     };
     for (const auto& t : typed) {
         Retype(t.box, t.text);
-        Tick();
         EXPECT_EQ(MarkOf(Find<TextBox>(*main, t.box)), t.mark) << t.text;
         EXPECT_EQ(Find<TextBox>(*main, t.box).toolTip(), t.status) << t.text;
         EXPECT_EQ(main->statusBar()->currentMessage(), t.status) << t.text;
@@ -387,10 +375,8 @@ TEST_F(UnsavedWork, AGameFolderThatCannotBeOpenedAtStartIsToldAndOptionsOffered)
         Answer({c.answer});
         bool optionsShown = false;
         SetModalDriver([&](QDialog& shown) { optionsShown = dynamic_cast<OptionsWindow*>(&shown) != nullptr; });
-        main.reset();
-        game = std::make_unique<Game>();
-        main = std::make_unique<MainWindow>(*game, places);
-        ASSERT_TRUE(main->Start());
+        MakeEditor(places);
+        ASSERT_TRUE(editor->Start());
         ASSERT_EQ(ShownMessages().size(), 1u) << c.told.toStdString();
         EXPECT_EQ(ShownMessages()[0].text,
                   c.told + "\n\nDo you want to choose the game's folder now (File > Options)?");

@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -13,7 +12,7 @@
 #include "forms/message_box.h"
 #include "forms/modal.h"
 #include "forms/text_box.h"
-#include "mainwindow/main_window.h"
+#include "editor/editor.h"
 #include "support/game_builder.h"
 #include "support/window_parts.h"
 
@@ -37,9 +36,9 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
     b.Players(4);
     b.Team(Club, "Harbour CC", {1, 2}).homeCountry = 1;
     Game& game = *b.game;
-    MainWindow main{game, SettingPlaces{}};
+    Editor editor{SettingPlaces{}, std::move(b.game)};
+    MainWindow& main = editor.Window();
     main.ShowFirstEntries();
-    Find<QTimer>(main, "editTimer").stop();
     auto& squad = Find<ChoiceList>(main, "squadList");
     ClickRow(squad, 1);
     ASSERT_EQ(main.CurrentPlayer(), 2);

@@ -9,7 +9,6 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QUrl>
 #include <memory>
 #include <vector>
@@ -22,7 +21,7 @@
 #include "forms/modal.h"
 #include "forms/clickable_picture.h"
 #include "forms/text_box.h"
-#include "mainwindow/main_window.h"
+#include "editor/editor.h"
 #include "options/about_window.h"
 #include "options/folder_lists.h"
 #include "options/options_window.h"
@@ -67,12 +66,11 @@ protected:
     // Lions, the last of another country.
     const QString full = Fixture("game_four_teams");
     const QString teamsOnly = Fixture("teams_file_only");
-    std::unique_ptr<Game> game = std::make_unique<Game>();
 };
 
 TEST_F(OptionsTest, ADriveThatCannotBeReadIsReportedAndChangesNothing)
 {
-    OptionsWindow options(*game, places, OptionsWindow::Mode::FirstStart);
+    OptionsWindow options(std::string(), places, OptionsWindow::Mode::FirstStart);
     auto& folders = Find<FolderTree>(options, "folderList");
     auto& drives = Find<DriveBox>(options, "driveList");
     ASSERT_TRUE(folders.SetPath(full));
@@ -102,8 +100,8 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
         SCOPED_TRACE(dir.toStdString());
         const bool good = dir == full;
         ClearShownMessages();
-        auto fresh = std::make_unique<Game>();
-        MainWindow main(*fresh, places);
+        Editor editor(places);
+        MainWindow& main = editor.Window();
         WhileOpen([&](OptionsWindow& options) {
             EXPECT_FALSE(Find<QPushButton>(options, "firstStartOkButton").isHidden());
             EXPECT_TRUE(Find<QPushButton>(options, "changeDirectoryOkButton").isHidden());
@@ -113,7 +111,7 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
                                                    : "Files teams.dat and players.dat NOT found in current directory.");
             QTest::mouseClick(&Find<QPushButton>(options, "firstStartOkButton"), Qt::LeftButton);
         });
-        ASSERT_EQ(main.Start(), good);
+        ASSERT_EQ(editor.Start(), good);
         if (good) {
             EXPECT_EQ(Setting(), full);
             EXPECT_EQ(ShownTitle(main), "KOLTA editor (" + full + ")");
@@ -124,7 +122,7 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
             EXPECT_TRUE(ShownMessages().empty());
             continue;
         }
-        EXPECT_TRUE(fresh->GameDirectory.empty());
+        EXPECT_TRUE(editor.Document().Folder().empty());
         EXPECT_FALSE(QFile::exists(places.besideExecutable));
         ASSERT_EQ(ShownMessages().size(), 1u);
         EXPECT_EQ(ShownMessages()[0].text, "teams.dat and players.dat not found in current directory.KOLTA ed will exit.");
@@ -138,8 +136,10 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
 TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
 {
     ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(full)).ok());
-    MainWindow window(*game, places);
-    ASSERT_TRUE(window.Start());
+    Editor editor(places);
+    ASSERT_TRUE(editor.Start());
+    MainWindow& window = editor.Window();
+    const Game* game = &editor.Document().Records();
     QAction& optionsAction = Find<QAction>(window, "optionsAction");
     ClearShownMessages();
     Find<TextBox>(window, "team.teamName").setText("Renamed but not saved");
@@ -183,7 +183,6 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
     EXPECT_EQ(Rows(Find<QComboBox>(window, "teamList")), std::vector<QString>{"Brisbane Bats"});
     const auto& squad = Find<ChoiceList>(window, "squadList");
     EXPECT_EQ(squad.item(squad.ChosenRow())->text(), "A Green");
-    EXPECT_TRUE(Find<QTimer>(window, "editTimer").isActive());
     EXPECT_FALSE(Find<QAction>(window, "undoAction").isEnabled()) << "the old game's steps are gone";
     // Slot 2 is where the reader's pass over the closing empty lines went:
     // blank but for its number.
@@ -197,8 +196,8 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
 
 TEST(InfoWindows, AboutClosesOnEscapeAndEachPictureOpensItsPage)
 {
-    Game game;
-    MainWindow main{game, SettingPlaces{}};
+    Editor editor{SettingPlaces{}};
+    MainWindow& main = editor.Window();
     bool closed = false;
     SetModalDriver([&](QDialog& shown) {
         auto& about = dynamic_cast<AboutWindow&>(shown);

@@ -1,7 +1,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,7 +13,7 @@
 #include "forms/modal.h"
 #include "forms/text_box.h"
 #include "support/game_builder.h"
-#include "mainwindow/main_window.h"
+#include "editor/editor.h"
 #include "searchwindow/search_window.h"
 #include "support/window_parts.h"
 
@@ -52,9 +51,9 @@ protected:
         b.Team(Kiwis, "Kiwis XI", {6, 7}).homeCountry = 4;
         b.Team(Newlands, "Newlands", {8}).homeCountry = 4;
 
-        main = std::make_unique<MainWindow>(game, SettingPlaces{});
+        editor = std::make_unique<Editor>(SettingPlaces{}, std::move(b.game));
+        main = &editor->Window();
         main->ShowFirstEntries();
-        Find<QTimer>(*main, "editTimer").stop();
         ClearShownMessages();
         SetMessageAnswerer([this](const ShownMessage&) { return answer; });
     }
@@ -91,8 +90,9 @@ protected:
     static std::vector<QString> Titles() { return Shown(&ShownMessage::title); }
 
     GameBuilder b;
-    Game& game = *b.game;
-    std::unique_ptr<MainWindow> main;
+    Game& game = *b.game;   // the editor's own, changed behind its back where a test sets the scene
+    std::unique_ptr<Editor> editor;
+    MainWindow* main = nullptr;
 
     ChoiceList& Squad() const { return Find<ChoiceList>(*main, "squadList"); }
     QMessageBox::StandardButton answer = QMessageBox::Ok;
@@ -201,10 +201,7 @@ TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
         EXPECT_EQ(Find<QComboBox>(form, "sortKeyList").currentIndex(), 0);
         EXPECT_EQ(Find<ChoiceList>(form, "resultList").count(), 0);
         EXPECT_EQ(form.Candidate(), std::nullopt);
-        // A name edit carried over under the window rebuilds the squad list;
-        // the row of the player shown stays chosen.
         SearchAndPick(form, "A P0003");
-        main->RefreshSquad();
         Click(&Find<QPushButton>(form, "replaceButton"));
     });
     EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "Player already in team",

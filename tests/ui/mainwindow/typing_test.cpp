@@ -1,32 +1,32 @@
-// The tick that carries what the boxes hold into the current player and team.
+// What is typed into a box goes into the current player's or team's record.
 
 #include "editor_fixture.h"
 #include "forms/beep.h"
 
 namespace {
 
-using EditTick = EditorTest;
+using Typing = EditorTest;
 
-TEST_F(EditTick, ANumberReachesTheRecordAndAnythingElseLeavesTheLastGoodValue)
+TEST_F(Typing, ANumberReachesTheRecordAndAnythingElseLeavesTheLastGoodValue)
 {
     Open();
-    // Each text in turn, with the value the field holds after its tick.
+    // Each text in turn, typed afresh after leaving the box, with the value
+    // the field holds then.
     const std::vector<std::pair<QString, int>> cases{
         {"44", 44}, {" -7 ", -7}, {"13.5", 14}, {"1e2", 100}, {"abc", 100}, {"32768", 100},
         {"1,000", 100}, {"-32768", -32768}, {"5", 5}, {"", 5}, {" ", 5},
     };
     for (const auto& [text, value] : cases) {
         Retype("batSkill", text);
-        Tick();
-        Tick();
         EXPECT_EQ(game->Players[1].batSkill, value) << text.toStdString();
         EXPECT_EQ(BoxText("batSkill"), text);   // the box keeps what was typed
+        Squad().setFocus();
     }
     EXPECT_EQ(BeepCount(), 0);   // no sound, no message: the box just waits
     EXPECT_TRUE(ShownMessages().empty());
 }
 
-TEST_F(EditTick, ANewNameRebuildsTheSquadListAndKeepsThePlayer)
+TEST_F(Typing, ANewNameShowsInTheSquadListAndKeepsThePlayer)
 {
     Open();
     TextBox& surname = Find<TextBox>(*main, "surname");
@@ -34,7 +34,6 @@ TEST_F(EditTick, ANewNameRebuildsTheSquadListAndKeepsThePlayer)
     surname.end(false);
     QTest::keyClicks(&surname, "s");
     const int caret = surname.cursorPosition();
-    Tick();
     EXPECT_EQ(game->Players[1].surname, "Quillfeathers");
     EXPECT_EQ(Rows(Squad()), (std::vector<QString>{"H R Quillfeathers", " Ormsby", "T Vanterpool"}));
     EXPECT_EQ(Squad().ChosenRow(), 0);  // his row stays chosen, so Delete and Replace still find him
@@ -43,13 +42,13 @@ TEST_F(EditTick, ANewNameRebuildsTheSquadListAndKeepsThePlayer)
     EXPECT_EQ(QApplication::focusWidget(), &surname);
     EXPECT_EQ(surname.cursorPosition(), caret);
 
-    // A tick that finds the name unchanged leaves the list and its choice.
+    // Another field of his leaves the list and its choice.
     Pick(Squad(), " Ormsby");
-    Tick();
+    Retype("batSkill", "13");
     EXPECT_EQ(Squad().ChosenRow(), 1);
 }
 
-TEST_F(EditTick, NameBoxesRefuseWhatTheFilesCannotCarry)
+TEST_F(Typing, NameBoxesRefuseWhatTheFilesCannotCarry)
 {
     Open();
     for (const char* box : {"initials", "surname", "team.teamName", "team.abbreviation"}) {

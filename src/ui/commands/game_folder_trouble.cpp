@@ -1,4 +1,4 @@
-#include "mainwindow/game_folder_trouble.h"
+#include "commands/game_folder_trouble.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "mainwindow/save_failure.h"
+#include "commands/save_failure.h"
 
 #include <QFile>
 
