@@ -124,26 +124,15 @@ void MainWindow::BuildSquadColumn(FittedLayout& at, QWidget* area)
 
 void MainWindow::BuildPlayerColumn(FittedLayout& at, QWidget* area)
 {
-    // Captions at the left of the column, the values beside them.
-    const auto caption = [](int top, int height) { return QRect(5400, top, 1335, height); };
-    PlayerColumnPlaces places;
-    places.boldCaptions = true;
-    places.slashAlignment = Qt::AlignCenter;
-    places.captions = {caption(120, 315), caption(540, 255),  caption(900, 315),  caption(1320, 315),
-                       caption(1740, 315), caption(2160, 255), caption(2520, 255), caption(2880, 315),
-                       caption(3300, 315), caption(3720, 255), caption(4080, 255), caption(4440, 255),
-                       caption(4800, 315), caption(5220, 255)};
-    places.boxes = {
-        QRect(6780, 120, 435, 315),   QRect(7260, 120, 1275, 315),  QRect(6780, 540, 375, 255),
-        QRect(7380, 540, 375, 255),   QRect(7980, 540, 555, 255),   QRect(6780, 900, 1755, 315),
-        QRect(6780, 1320, 1755, 315), QRect(6780, 1740, 1755, 315), QRect(6780, 2160, 1695, 255),
-        QRect(6780, 2520, 1695, 255), QRect(6780, 2880, 1695, 315), QRect(6780, 3300, 1695, 315),
-        QRect(6780, 3720, 1695, 255), QRect(6780, 4080, 1695, 255), QRect(6780, 4440, 1695, 255),
-        QRect(6780, 4800, 1695, 315), QRect(6780, 5220, 1695, 255),
-    };
-    places.dateSlashes = {QRect(7200, 540, 135, 255), QRect(7800, 540, 135, 255)};
-    playerColumn_ = Named(new PlayerColumn(at, places, area), "playerColumn");
-    for (PlayerBox name : {PlayerBox::Initials, PlayerBox::Surname})
+    // One column of captions and values down the right of the window; the
+    // rows above Bat skill stand wide.
+    PlayerColumnDesign design;
+    design.columns = {{5400, 6780, 120, 0}};
+    design.wideRows = PlayerRowOf(&PlayerRecord::batSkill);
+    design.boldCaptions = true;
+    design.slashAlignment = Qt::AlignCenter;
+    playerColumn_ = Named(new PlayerColumn(at, design, area), "playerColumn");
+    for (auto name : {&PlayerRecord::initials, &PlayerRecord::surname})
         MakeBold(*playerColumn_->Box(name));
 }
 
@@ -186,16 +175,16 @@ void MainWindow::SetTabOrder()
 {
     // The order the game's players know: up the player column from the
     // bottom, across the team, the buttons, the pickers, then the rest.
-    const auto box = [this](PlayerBox which) { return playerColumn_->Box(which); };
+    const auto box = [this](auto field) { return playerColumn_->Box(field); };
     const auto team = [this](std::size_t field) { return teamColumn_->Box(field); };
+    using P = PlayerRecord;
     const std::array<QWidget*, 30> order{
         squadList_,
-        box(PlayerBox::FieldsAt), box(PlayerBox::Potential), box(PlayerBox::Bowls), box(PlayerBox::BowlType),
-        box(PlayerBox::Bats), box(PlayerBox::BatPosition), box(PlayerBox::FieldAbility), box(PlayerBox::BowlEconomy),
-        box(PlayerBox::BowlSkill), box(PlayerBox::BatAggression), box(PlayerBox::BatSkill), box(PlayerBox::BirthDay),
-        box(PlayerBox::Surname), team(0), team(1), team(2), team(3), team(4), team(5),
+        box(&P::fieldsAt), box(&P::potential), box(&P::bowls), box(&P::bowlType), box(&P::bats), box(&P::batPosition),
+        box(&P::fieldAbility), box(&P::bowlEconomy), box(&P::bowlSkill), box(&P::batAggression), box(&P::batSkill),
+        box(&P::birthDay), box(&P::surname), team(0), team(1), team(2), team(3), team(4), team(5),
         addExistingPlayerButton_, deletePlayerButton_, addNewPlayerButton_, replacePlayerButton_, teamList_, countryList_,
-        box(PlayerBox::BirthMonth), box(PlayerBox::BirthYear), box(PlayerBox::Initials), box(PlayerBox::HomeCountry),
+        box(&P::birthMonth), box(&P::birthYear), box(&P::initials), box(&P::homeCountry),
     };
     for (std::size_t i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);

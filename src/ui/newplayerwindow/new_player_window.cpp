@@ -18,11 +18,6 @@ namespace {
 constexpr int AreaWidth = 6900;
 constexpr int AreaHeight = 3675;
 
-// The two columns of captions, each left of its column of boxes.
-constexpr int LeftCaptions = 300;
-constexpr int RightCaptions = 3540;
-constexpr int CaptionWidth = 1335;
-
 QPushButton* MakeButton(FittedLayout& at, QWidget* form, const QString& caption, QRect rect, const char* name)
 {
     auto* button = at.Put(new QPushButton(caption, form), rect, true);
@@ -54,24 +49,14 @@ void ShowOutcome(NewPlayerOutcome outcome)
     }
 }
 
-PlayerColumnPlaces EntryPlaces()
+// Two columns of captions and boxes, the batting on the left, the bowling and
+// fielding on the right; the rows above Bat skill stand wide.
+PlayerColumnDesign EntryDesign()
 {
-    const auto left = [](int top, int height) { return QRect(LeftCaptions, top, CaptionWidth, height); };
-    const auto right = [](int top, int height) { return QRect(RightCaptions, top, CaptionWidth, height); };
-    PlayerColumnPlaces places;
-    places.captions = {left(240, 315),  left(660, 255),   left(1020, 315),  left(1440, 315), left(1860, 315),
-                       left(2280, 255), left(2640, 255),  right(300, 315),  right(720, 315), right(1140, 255),
-                       right(1500, 255), right(1860, 255), right(2220, 315), right(2640, 255)};
-    places.boxes = {
-        QRect(1680, 240, 435, 315),   QRect(2160, 240, 1275, 315),  QRect(1680, 660, 375, 255),
-        QRect(2280, 660, 375, 255),   QRect(2880, 660, 555, 255),   QRect(1680, 1020, 1755, 315),
-        QRect(1680, 1440, 1755, 315), QRect(1680, 1860, 1755, 315), QRect(1680, 2280, 1695, 255),
-        QRect(1680, 2640, 1695, 255), QRect(4920, 300, 1695, 315),  QRect(4920, 720, 1695, 315),
-        QRect(4920, 1140, 1695, 255), QRect(4920, 1500, 1695, 255), QRect(4920, 1860, 1695, 255),
-        QRect(4920, 2220, 1695, 315), QRect(4920, 2640, 1695, 255),
-    };
-    places.dateSlashes = {QRect(2100, 660, 135, 255), QRect(2700, 660, 135, 255)};
-    return places;
+    PlayerColumnDesign design;
+    design.columns = {{300, 1680, 240, 0}, {3540, 4920, 300, PlayerRowOf(&PlayerRecord::bowlType)}};
+    design.wideRows = PlayerRowOf(&PlayerRecord::batSkill);
+    return design;
 }
 
 }  // namespace
@@ -87,12 +72,13 @@ NewPlayerWindow::NewPlayerWindow(GameDocument& document, int team, QWidget* pare
     okButton_ = MakeButton(at, this, QStringLiteral("OK"), QRect(1200, 3180, 1395, 375), "okButton");
     okButton_->setDefault(true);
 
-    entries_ = new PlayerColumn(at, EntryPlaces(), this);
+    entries_ = new PlayerColumn(at, EntryDesign(), this);
     entries_->setObjectName(QStringLiteral("entries"));
-    for (PlayerBox box : {PlayerBox::BirthDay, PlayerBox::BirthMonth, PlayerBox::BatSkill, PlayerBox::BatAggression,
-                          PlayerBox::BowlSkill, PlayerBox::BowlEconomy, PlayerBox::FieldAbility, PlayerBox::Potential})
+    using P = PlayerRecord;
+    for (auto box : {&P::birthDay, &P::birthMonth, &P::batSkill, &P::batAggression, &P::bowlSkill, &P::bowlEconomy,
+                     &P::fieldAbility, &P::potential})
         entries_->LimitLength(box, 2);
-    entries_->LimitLength(PlayerBox::BirthYear, 4);
+    entries_->LimitLength(&P::birthYear, 4);
     entries_->SetNumberKeyFilter(&NewPlayerWindow::PassesNumberKey);
 
     cancelButton_ = MakeButton(at, this, QStringLiteral("Cancel"), QRect(3000, 3180, 1395, 375), "cancelButton");

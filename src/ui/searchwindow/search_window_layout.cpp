@@ -19,14 +19,6 @@ namespace {
 constexpr int AreaWidth = 9540;
 constexpr int AreaHeight = 5955;
 
-// The panel's two columns: captions, then values.
-constexpr int LeftCaptions = 2700;
-constexpr int LeftValues = 4140;
-constexpr int RightCaptions = 6060;
-constexpr int RightValues = 7500;
-constexpr int CaptionWidth = 1335;
-constexpr int ValueWidth = 1695;
-
 const QColor BarColour(128, 128, 255);
 
 // A selector: its catch-all entry, if it has one, then the words.
@@ -105,30 +97,20 @@ void SearchWindow::BuildFilters(FittedLayout& at)
 
 void SearchWindow::BuildPanel(FittedLayout& at)
 {
-    const auto left = [](int top, int height) { return QRect(LeftCaptions, top, CaptionWidth, height); };
-    const auto right = [](int top, int height) { return QRect(RightCaptions, top, CaptionWidth, height); };
-    const auto leftValue = [](int top, int height) { return QRect(LeftValues, top, ValueWidth, height); };
-    const auto rightValue = [](int top, int height) { return QRect(RightValues, top, ValueWidth, height); };
-    PlayerColumnPlaces places;
-    places.slashesMustFit = false;
-    places.captions = {left(2100, 315),  left(2520, 255),  left(2880, 315),  left(3660, 315), left(4080, 315),
-                       left(4500, 255),  left(4860, 255),  right(2100, 315), right(2520, 315), right(2940, 255),
-                       right(3300, 255), right(3660, 255), right(4020, 315), right(4440, 255)};
-    places.boxes = {
-        QRect(LeftValues, 2100, 435, 315), QRect(4620, 2100, 1215, 315), QRect(LeftValues, 2520, 375, 255),
-        QRect(4740, 2520, 375, 255),       QRect(5280, 2520, 555, 255),  leftValue(2880, 315),
-        leftValue(3660, 315),              leftValue(4080, 315),         leftValue(4500, 255),
-        leftValue(4860, 255),              rightValue(2100, 315),        rightValue(2520, 315),
-        rightValue(2940, 255),             rightValue(3300, 255),        rightValue(3660, 255),
-        rightValue(4020, 315),             rightValue(4440, 255),
-    };
-    places.dateSlashes = {QRect(4560, 2580, 135, 195), QRect(5160, 2580, 135, 195)};
-    candidatePanel_ = Named(new PlayerColumn(at, places, this), "candidatePanel");
+    // Two columns, the batting on the left with the present club under the
+    // home country, the bowling and fielding on the right.
+    PlayerColumnDesign design;
+    design.columns = {{2700, 4140, 2100, 0}, {6060, 7500, 2100, PlayerRowOf(&PlayerRecord::bowlType)}};
+    design.lowSlashes = true;
+    design.slashesMustFit = false;
+    design.rowOfYourOwnAfter = PlayerRowOf(&PlayerRecord::homeCountry);
+    candidatePanel_ = Named(new PlayerColumn(at, design, this), "candidatePanel");
     // The panel only shows: nothing in it takes input.
     candidatePanel_->SetReadOnly(true);
 
-    at.Put(new QLabel(QStringLiteral("Present Club"), this), left(3300, 255), true);
-    presentClubBox_ = Named(at.Put(new TextBox(this), leftValue(3300, 255)), "presentClub");
+    const PlayerColumnPlaces places = PlacePlayerColumn(design);
+    at.Put(new QLabel(QStringLiteral("Present Club"), this), places.ownCaption, true);
+    presentClubBox_ = Named(at.Put(new TextBox(this), places.ownValue), "presentClub");
     MakeReadOnly(*presentClubBox_);
 }
 

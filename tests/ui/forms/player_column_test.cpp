@@ -22,27 +22,15 @@ QString Latin(std::string_view text)
     return QString::fromLatin1(text.data(), qsizetype(text.size()));
 }
 
-// Every part on a row of its own, so that nothing overlaps.
-PlayerColumnPlaces Stacked()
-{
-    PlayerColumnPlaces places;
-    int top = 0;
-    for (QRect& r : places.captions)
-        r = QRect(0, top += 300, 1200, 255);
-    for (QRect& r : places.boxes)
-        r = QRect(1300, top += 300, 1500, 255);
-    for (QRect& r : places.dateSlashes)
-        r = QRect(0, top += 300, 135, 255);
-    return places;
-}
-
 struct Window {
     QWidget area;
     PlayerColumn* column;
     Window()
     {
-        FittedLayout at(&area, {3000, 12000});
-        column = new PlayerColumn(at, Stacked(), &area);
+        FittedLayout at(&area, {3200, 6000});
+        PlayerColumnDesign design;
+        design.columns = {{0, 1400, 0, 0}};
+        column = new PlayerColumn(at, design, &area);
         at.Apply();
     }
 };
