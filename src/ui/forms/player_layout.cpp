@@ -107,9 +107,9 @@ PlayerColumnPlaces PlacePlayerColumn(const PlayerColumnDesign& design)
             places.captions.emplace_back(column.captionLeft, top, CaptionWidth, height);
             PlaceRow(rows[std::size_t(r)], column.valueLeft, top, width, design.lowSlashes, places);
             top += height + RowGap;
-            if (r == design.rowOfYourOwnAfter) {
-                places.ownCaption = QRect(column.captionLeft, top, CaptionWidth, Row);
-                places.ownValue = QRect(column.valueLeft, top, Value, Row);
+            if (r == design.windowRowAfter) {
+                places.windowCaption = QRect(column.captionLeft, top, CaptionWidth, Row);
+                places.windowValue = QRect(column.valueLeft, top, Value, Row);
                 top += Row + RowGap;
             }
         }

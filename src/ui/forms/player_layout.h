@@ -20,7 +20,7 @@ struct PlayerColumnDesign {
     std::vector<Column> columns;
     int wideRows = 0;              // the first rows' values stand 1755 wide, the others 1695
     bool lowSlashes = false;       // the slashes of the date stand 60 lower and 195 high
-    int rowOfYourOwnAfter = -1;    // a row the window fills itself stands under this row
+    int windowRowAfter = -1;       // a row the window fills itself stands under this row
 
     // How the parts look.
     bool boldCaptions = false;
@@ -33,8 +33,8 @@ struct PlayerColumnPlaces {
     std::vector<QRect> captions;   // one to each row
     std::vector<QRect> boxes;      // one to each captioned field, in the table's order
     std::vector<QRect> slashes;    // between the parts of a date
-    QRect ownCaption;              // the window's own row, if it has one
-    QRect ownValue;
+    QRect windowCaption;           // the window's own row, if it has one
+    QRect windowValue;
 };
 
 // The fields that have a caption, which a window shows, in the table's order.

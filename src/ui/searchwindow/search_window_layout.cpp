@@ -103,14 +103,14 @@ void SearchWindow::BuildPanel(FittedLayout& at)
     design.columns = {{2700, 4140, 2100, 0}, {6060, 7500, 2100, PlayerRowOf(&PlayerRecord::bowlType)}};
     design.lowSlashes = true;
     design.slashesMustFit = false;
-    design.rowOfYourOwnAfter = PlayerRowOf(&PlayerRecord::homeCountry);
+    design.windowRowAfter = PlayerRowOf(&PlayerRecord::homeCountry);
     candidatePanel_ = Named(new PlayerColumn(at, design, this), "candidatePanel");
     // The panel only shows: nothing in it takes input.
     candidatePanel_->SetReadOnly(true);
 
     const PlayerColumnPlaces places = PlacePlayerColumn(design);
-    at.Put(new QLabel(QStringLiteral("Present Club"), this), places.ownCaption, true);
-    presentClubBox_ = Named(at.Put(new TextBox(this), places.ownValue), "presentClub");
+    at.Put(new QLabel(QStringLiteral("Present Club"), this), places.windowCaption, true);
+    presentClubBox_ = Named(at.Put(new TextBox(this), places.windowValue), "presentClub");
     MakeReadOnly(*presentClubBox_);
 }
 
