@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Builds the benchmark programs in build-bench/ and prints their figures at the
 # game's full size (2000 players, 500 teams): load, save, search and sort, the
-# squad commands, the edit timer's tick, start to first shown window beside an
-# empty Qt window, and the editor's use of a core while idle.
+# squad commands, a keystroke written through the document, start to first
+# shown window beside an empty Qt window, and the editor's use of a core while
+# idle.
 #   ./bench.sh
 source "$(dirname "$0")/tools/setup.sh"
 kolta_install_missing xvfb xauth
