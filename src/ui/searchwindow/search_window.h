@@ -5,8 +5,8 @@
 
 #include "search/search_filters.h"
 
-class FittedLayout;
 class ChoiceList;
+class FittedLayout;
 class GameDocument;
 class PlayerColumn;
 class QComboBox;
@@ -15,9 +15,10 @@ class TextBox;
 
 // The search window: finds players of any club by nationality and type,
 // sorts them, shows one in a read-only panel and moves him into the squad of
-// the team it was opened for, each move a step of the document. It opens in add mode ("Add This Player", which
-// may be pressed again and again) or in replace mode ("Replace with this
-// player", which closes the window once done). Built afresh for each showing.
+// the team it was opened for, each move a step of the document. It opens in
+// add mode ("Add This Player", which may be pressed again and again) or in
+// replace mode ("Replace with this player", which closes the window once
+// done). Built afresh for each showing.
 class SearchWindow : public QDialog {
     Q_OBJECT
 public:
