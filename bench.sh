@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Builds the benchmark programs in build-bench/ and prints their figures at the
 # game's full size (2000 players, 500 teams): load, save and its parts, search
-# and sort, the squad commands, the edit timer's tick, the kolta-data commands,
-# start to first shown window beside an empty Qt window, and the editor's use
-# of a core while idle. Each benchmark runs five times, in turns with the others
+# and sort, the squad commands, a keystroke written through the document, the
+# kolta-data commands, start to first shown window beside an empty Qt window,
+# and the editor's use of a core while idle. Each benchmark runs five times, in turns with the others
 # of its program, and its median CPU time is kept.
 #
 # Last come the ratios that bench/limits.txt lists: each hot path against a

@@ -51,13 +51,13 @@ void BM_WorstCaseSearch(benchmark::State& state)
 {
     const auto game = ReversedGame(state.range(1) != 0);
     const int key = static_cast<int>(state.range(0));
-    double lastWidth = 0;
+    double lastDone = 0;
     for (auto _ : state) {
         SearchRows rows = RunFilters(*game, {});
-        SortResults(rows, key, [&](double width) { lastWidth = width; });
+        SortResults(rows, key, [&](double done) { lastDone = done; });
         benchmark::DoNotOptimize(rows.front());
     }
-    benchmark::DoNotOptimize(lastWidth);
+    benchmark::DoNotOptimize(lastDone);
 }
 BENCHMARK(BM_WorstCaseSearch)
     ->ArgNames({"key", "sharedPrefix"})

@@ -47,7 +47,7 @@ void BM_SearchAllSorted(benchmark::State& state)
     const auto game = GameInOrder(key, static_cast<Order>(state.range(1)));
     for (auto _ : state) {
         SearchRows rows = RunFilters(*game, {});
-        SortResults(rows, static_cast<int>(key), [](double width) { benchmark::DoNotOptimize(width); });
+        SortResults(rows, static_cast<int>(key), [](double done) { benchmark::DoNotOptimize(done); });
         benchmark::DoNotOptimize(rows.front());
     }
 }

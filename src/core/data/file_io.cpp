@@ -9,8 +9,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "data/cp1252.h"
-
 #if defined(_WIN32)
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
@@ -68,33 +66,6 @@ std::string NotRegular(bool folder)
 }
 
 }  // namespace
-
-fs::path NativePath(const std::string& path)
-{
-#if defined(_WIN32)
-    // Text that is not UTF-8 is a path the game's own editor wrote into
-    // editor.dat, in the game's code page.
-    try {
-        return fs::path(std::u8string(path.begin(), path.end()));
-    } catch (const std::system_error&) {
-        const std::u16string text = DecodeCp1252(path);
-        return fs::path(std::wstring(text.begin(), text.end()));
-    }
-#else
-    return fs::path(std::u8string(path.begin(), path.end()));
-#endif
-}
-
-std::string PathText(const fs::path& path)
-{
-    const std::u8string text = path.u8string();
-    return std::string(text.begin(), text.end());
-}
-
-std::string JoinPath(const std::string& folder, const std::string& name)
-{
-    return PathText(NativePath(folder) / NativePath(name));
-}
 
 FileResult MakeFolders(const std::string& path)
 {
@@ -227,4 +198,23 @@ FileResult ReplaceFile(const std::string& path, std::string_view bytes)
         return Failure(path, reason);
     }
     return FileResult::Success(path);
+}
+
+std::string LinkOrCopy(const std::string& from, const std::string& to)
+{
+    if (std::string removed = RemoveFile(to); !removed.empty())
+        return removed;
+    std::error_code error;
+    fs::create_hard_link(NativePath(from), NativePath(to), error);
+    if (!error)
+        return {};
+    // Copied through our own reader and writer, so that a full disk says so
+    // rather than giving a bare input/output error.
+    FileBytes bytes = ReadFileBytes(from);
+    if (!bytes.ok())
+        return bytes.reason;
+    std::string reason = WriteNewFile(to, bytes.bytes);
+    if (!reason.empty())
+        RemoveFile(to);
+    return reason;
 }

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr double FullBarTwips = 2500.0;
 
 // Row `row` of the sort, counted from 1.
 PlayerRecord& Row(SearchRows& rows, int row)
@@ -48,7 +47,7 @@ void ListInOrder(SearchRows& rows, std::vector<Key> keys, std::vector<int> rowAt
 {
     FollowSortSweeps(keys, [&progress](int first, int last) {
         if (progress)
-            progress(static_cast<double>(first) / last * FullBarTwips);
+            progress(static_cast<double>(first) / last);
     });
     PlaceRows(rows, rowAt);
 }

@@ -152,28 +152,28 @@ TEST_F(PlayerSearchTest, EveryKeyKeepsEqualRowsInTheirOrder)
     }
 }
 
-// The bar widens once per pair of sweeps: four rows in reverse order take a
+// Progress is told once per pair of sweeps: four rows in reverse order take a
 // pair over rows 1 to 4 and one over rows 2 to 3; rows in order take one;
 // forty in reverse order, one pair for each two rows, each sweep placing one.
-TEST_F(PlayerSearchTest, TheBarWidensOncePerPairOfSweeps)
+TEST_F(PlayerSearchTest, ProgressIsToldOncePerPairOfSweeps)
 {
     const auto widths = [&](const std::vector<int>& skills) {
         std::vector<double> seen;
         SearchRows rows;
         for (int skill : skills)
             Row(rows, "R").batSkill = static_cast<std::int16_t>(skill);
-        SortResults(rows, static_cast<int>(SortKey::BatSkill), [&](double width) { seen.push_back(width); });
+        SortResults(rows, static_cast<int>(SortKey::BatSkill), [&](double done) { seen.push_back(done); });
         EXPECT_TRUE(std::is_sorted(rows.begin(), rows.end(),
                                    [](const auto& a, const auto& b) { return a.batSkill > b.batSkill; }));
         return seen;
     };
-    EXPECT_THAT(widths({1, 2, 3, 4}), Pointwise(DoubleNear(1e-9), std::vector{2500.0 / 4, 2500.0 * 2 / 3}));
-    EXPECT_THAT(widths({5, 4, 3, 2, 1}), Pointwise(DoubleNear(1e-9), std::vector{500.0}));
+    EXPECT_THAT(widths({1, 2, 3, 4}), Pointwise(DoubleNear(1e-9), std::vector{1.0 / 4, 2.0 / 3}));
+    EXPECT_THAT(widths({5, 4, 3, 2, 1}), Pointwise(DoubleNear(1e-9), std::vector{1.0 / 5}));
     std::vector<int> rising(40);
     std::iota(rising.begin(), rising.end(), 1);
     std::vector<double> expected;
     for (int pair = 1; pair <= 20; ++pair)
-        expected.push_back(2500.0 * pair / (41 - pair));
+        expected.push_back(static_cast<double>(pair) / (41 - pair));
     EXPECT_THAT(widths(rising), Pointwise(DoubleNear(1e-9), expected));
     EXPECT_THAT(widths({}), IsEmpty());
     EXPECT_THAT(widths({7}), IsEmpty());

@@ -14,8 +14,8 @@ EditorTest::EditorTest()
     ClearShownMessages();
     SetMessageAnswerer([this](const ShownMessage&) {
         if (answers_.empty())
-            return IdOk;
-        const int answer = answers_.front();
+            return QMessageBox::Ok;
+        const QMessageBox::StandardButton answer = answers_.front();
         answers_.erase(answers_.begin());
         return answer;
     });
@@ -61,11 +61,18 @@ void EditorTest::Open(GameBuilder built)
                                root_.filePath(QStringLiteral("config/editor.dat"))};
     ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(GameFolder())).ok());
 
-    game = std::make_unique<Game>();
-    main = std::make_unique<MainWindow>(*game, places);
-    ASSERT_TRUE(main->Start());
+    MakeEditor(places);
+    ASSERT_TRUE(editor->Start());
     main->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(main.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(main));
+}
+
+void EditorTest::MakeEditor(const SettingPlaces& places)
+{
+    editor.reset();
+    editor = std::make_unique<Editor>(places);
+    main = &editor->Window();
+    game = &editor->Document().Records();
 }
 
 void EditorTest::Retype(const char* box, const QString& text)

@@ -7,8 +7,8 @@
 #include <gtest/gtest.h>
 
 #include "data/game.h"
-#include "mainwindow/game_folder_trouble.h"
-#include "mainwindow/save_failure.h"
+#include "commands/game_folder_trouble.h"
+#include "commands/save_failure.h"
 
 namespace {
 
