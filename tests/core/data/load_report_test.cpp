@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -16,6 +15,7 @@
 #include "data/players_file.h"
 #include "data/teams_file.h"
 #include "support/file_text.h"
+#include "support/scratch_folder.h"
 
 namespace fs = std::filesystem;
 
@@ -90,18 +90,8 @@ TEST(LoadReport, LongListsAreCut)
 // Pipes, devices and permission bits are Unix things.
 class ReadFile : public testing::Test {
 protected:
-    void SetUp() override
-    {
-        dir_ = fs::temp_directory_path() / ("kolta-read-" + std::to_string(std::random_device{}()));
-        fs::create_directories(dir_);
-    }
-    void TearDown() override
-    {
-        std::error_code ignored;
-        fs::permissions(dir_ / "locked", fs::perms::owner_all, ignored);
-        fs::remove_all(dir_, ignored);
-    }
-    fs::path dir_;
+    ScratchFolder scratch_;
+    const fs::path dir_ = scratch_.Path();
 };
 
 // Nothing here may block or read without end: a pipe nobody writes to, a

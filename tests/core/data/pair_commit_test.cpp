@@ -7,7 +7,6 @@
 #include <chrono>
 #include <csignal>
 #include <filesystem>
-#include <random>
 #include <string>
 #include <thread>
 #include <vector>
@@ -23,13 +22,14 @@
 #include "data/save.h"
 #include "data/teams_file.h"
 #include "support/file_text.h"
+#include "support/scratch_folder.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-const std::string OldPlayers = Bytes(KOLTA_SAMPLE "/players.dat");
-const std::string OldTeams = Bytes(KOLTA_SAMPLE "/teams.dat");
+const std::string OldPlayers = SampleBytes("players.dat");
+const std::string OldTeams = SampleBytes("teams.dat");
 
 std::vector<std::string> stepsSeen;
 std::string stopAt;
@@ -49,21 +49,12 @@ void StopAtStep(std::string_view step)
 
 class PairCommit : public testing::Test {
 protected:
-    void TearDown() override
-    {
-        SetCommitStepHook(nullptr);
-        std::error_code ignored;
-        for (const fs::path& dir : made_)
-            fs::remove_all(dir, ignored);
-    }
+    void TearDown() override { SetCommitStepHook(nullptr); }
 
     // A copy of the sample game, loaded and changed in both files.
     fs::path ChangedCopy(Game& game)
     {
-        const fs::path dir = fs::temp_directory_path() / ("kolta-pair-" + std::to_string(std::random_device{}()));
-        fs::create_directories(dir);
-        fs::copy(KOLTA_SAMPLE, dir);
-        made_.push_back(dir);
+        const fs::path dir = scratch_.Sample("game" + std::to_string(++copies_));
         SetGameDirectory(game, dir.string());
         LoadGame(game);
         game.Players[1].surname = "Changed";
@@ -90,7 +81,8 @@ protected:
         return strays;
     }
 
-    std::vector<fs::path> made_;
+    ScratchFolder scratch_;
+    int copies_ = 0;
 };
 
 #if !defined(_WIN32)

@@ -91,7 +91,7 @@ TEST_F(Check, FindsEachKindOfProblemWhereItIs)
         EXPECT_EQ(run.code, c.findings.front().ends_with(": error") ? 1 : 0);  // errors come first
         EXPECT_THAT(Findings(run), ElementsAreArray(c.findings)) << run.out;
     }
-    EXPECT_EQ(RunTool({"check", KOLTA_SAMPLE}).out, "0 errors, 0 warnings\n");
+    EXPECT_EQ(RunTool({"check", SampleCopy()}).out, "0 errors, 0 warnings\n");
 }
 
 }  // namespace

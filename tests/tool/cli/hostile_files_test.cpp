@@ -15,15 +15,7 @@ using testing::HasSubstr;
 
 namespace {
 
-class HostileFiles : public CliTest {
-protected:
-    fs::path Sample()
-    {
-        const fs::path dir = NewFolder("sample");
-        fs::copy(KOLTA_SAMPLE, dir);
-        return dir;
-    }
-};
+using HostileFiles = CliTest;
 
 TEST_F(HostileFiles, AreRefusedWithTheirReasonAndNothingChanges)
 {
@@ -51,7 +43,7 @@ TEST_F(HostileFiles, AreRefusedWithTheirReasonAndNothingChanges)
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
-        const fs::path dir = Sample();
+        const fs::path dir = SampleCopy();
         c.spoil(dir);
         const std::string players = fs::is_regular_file(dir / "players.dat") ? FileBytes(dir / "players.dat") : "";
         std::vector<std::string> args = c.command;
@@ -68,7 +60,7 @@ TEST_F(HostileFiles, AreRefusedWithTheirReasonAndNothingChanges)
 
 TEST_F(HostileFiles, AnUnreadableCsvStopsTheImport)
 {
-    const fs::path game = Sample();
+    const fs::path game = SampleCopy();
     const fs::path csv = NewFolder("csv");
     ASSERT_EQ(RunTool({"export", game, csv}).code, 0);
     fs::remove(csv / "players.csv");
@@ -106,7 +98,7 @@ TEST_F(HostileFiles, WhatTheLoadCouldNotKeepIsSavedAwayOnlyWhenForced)
 
 TEST_F(HostileFiles, ALinkedGameFileStaysALinkAndItsTargetIsSaved)
 {
-    const fs::path dir = Sample();
+    const fs::path dir = SampleCopy();
     const fs::path elsewhere = NewFolder("elsewhere");
     fs::rename(dir / "teams.dat", elsewhere / "teams.dat");
     fs::create_symlink(elsewhere / "teams.dat", dir / "teams.dat");

@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
-#include <QTemporaryDir>
 #include <QTest>
 #include <memory>
 #include <ostream>
@@ -20,6 +19,8 @@
 #include "forms/text_box.h"
 #include "mainwindow/main_window.h"
 #include "support/game_builder.h"
+#include "support/qt_path.h"
+#include "support/scratch_folder.h"
 #include "support/window_parts.h"
 
 inline void PrintTo(const QString& text, std::ostream* out)
@@ -56,7 +57,7 @@ protected:
     // Answers for the coming message boxes, in order; OK when none is left.
     void Answer(std::vector<int> answers) { answers_ = std::move(answers); }
 
-    QString GameFolder() const { return root_.filePath(QStringLiteral("game")); }
+    QString GameFolder() const { return QtPath(scratch_ / "game"); }
 
     // Types into a box as a person would, after clearing it with the keys.
     void Retype(const char* box, const QString& text);
@@ -67,7 +68,7 @@ protected:
     ListBox& Squad() const { return Find<ListBox>(*main, "squadList"); }
     QString TeamNumber() const { return Find<QLabel>(*main, "teamNumber").text(); }
 
-    QTemporaryDir root_;
+    ScratchFolder scratch_;
     std::unique_ptr<Game> game;
     std::unique_ptr<MainWindow> main;
 
