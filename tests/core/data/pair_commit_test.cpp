@@ -35,6 +35,7 @@ std::vector<std::string> stepsSeen;
 std::string stopAt;
 void (*atStop)(const fs::path&) = nullptr;
 fs::path stopFolder;
+int holdingFolder = -1;  // where a child process says it holds the folder
 
 void RecordStep(std::string_view step)
 {
@@ -184,15 +185,28 @@ TEST_F(PairCommit, ASecondWriterWaitsThenChangesNothing)
 #if !defined(_WIN32)
     // Two processes at once: the one that comes second finds the files
     // changed since it loaded them and leaves the first one's pair alone.
+    // The second starts only once the first holds the folder, however slowly
+    // the first got there.
+    int holding[2];
+    ASSERT_EQ(::pipe(holding), 0);
     const pid_t child = ::fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
+        ::close(holding[0]);
+        holdingFolder = holding[1];
         stopAt = "wrote the commit record";
-        atStop = [](const fs::path&) { std::this_thread::sleep_for(std::chrono::milliseconds(500)); };
+        atStop = [](const fs::path&) {
+            const char held = 1;
+            (void)!::write(holdingFolder, &held, 1);
+            std::this_thread::sleep_for(std::chrono::milliseconds(500));
+        };
         SetCommitStepHook(StopAtStep);
         ::_exit(SaveGame(*first).ok() ? 0 : 1);
     }
-    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    ::close(holding[1]);
+    char held = 0;
+    ASSERT_EQ(::read(holding[0], &held, 1), 1);
+    ::close(holding[0]);
     const FileResult late = SaveGame(*second);
     int status = 0;
     ::waitpid(child, &status, 0);
