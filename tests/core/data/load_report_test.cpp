@@ -35,7 +35,7 @@ Lines Teams(int count)
 {
     Lines lines;
     for (int i = 0; i < count; ++i)
-        lines = Cat(lines, Team());
+        lines = Cat(std::move(lines), Team());
     return lines;
 }
 
@@ -80,7 +80,7 @@ TEST(LoadReport, LongListsAreCut)
 {
     Lines lines;
     for (int i = 0; i < 12; ++i)
-        lines = Cat(lines, Player("?"));
+        lines = Cat(std::move(lines), Player("?"));
     auto game = NewGame();
     EXPECT_EQ(ReadPlayers(*game, Join(lines, PlayersEnd)).DroppedText(),
               "players.dat: 12 records without a usable player number (record 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, ...)");

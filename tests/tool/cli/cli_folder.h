@@ -36,7 +36,7 @@ inline Lines Players(const std::vector<int>& teams)
     static const char* const surnames[] = {"Arlow", "Brenick", "Corvane", "Dunmore", "Elkin", "Farrow", "Garnet"};
     Lines lines;
     for (std::size_t i = 0; i < teams.size(); ++i)
-        lines = Cat(lines, PlayerRecordLines(static_cast<int>(i) + 1, surnames[i], teams[i]));
+        lines = Cat(std::move(lines), PlayerRecordLines(static_cast<int>(i) + 1, surnames[i], teams[i]));
     return lines;
 }
 

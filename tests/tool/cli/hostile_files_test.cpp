@@ -76,7 +76,7 @@ TEST_F(HostileFiles, WhatTheLoadCouldNotKeepIsSavedAwayOnlyWhenForced)
 {
     Lines teams;
     for (int i = 1; i <= 501; ++i)
-        teams = Cat(teams, TeamRecordLines("Side", i));
+        teams = Cat(std::move(teams), TeamRecordLines("Side", i));
     const fs::path dir = GameOf(PlayerRecordLines(1), teams);
     const std::string original = FileBytes(dir / "teams.dat");
 
