@@ -18,14 +18,23 @@ in_git=0
 git -C "$KOLTA_ROOT" rev-parse --is-inside-work-tree >/dev/null 2>&1 && in_git=1
 [ "$in_git" -eq 0 ] || tree_before="$(tree_state)"
 
-# stage NAME COMMAND...: runs one stage and notes how long it took.
+# CPU seconds (user and system) of everything this script has run so far.
+cpu_seconds() {
+  local stat
+  read -r -a stat </proc/$$/stat
+  echo $(((stat[15] + stat[16]) / $(getconf CLK_TCK)))
+}
+
+# stage NAME COMMAND...: runs one stage and notes its wall and CPU time.
 timings=()
 stage() {
-  local stage_name="$1" stage_start=$SECONDS
+  local stage_name="$1" stage_start=$SECONDS stage_cpu
+  stage_cpu="$(cpu_seconds)"
   shift
   echo "== $stage_name"
   "$@"
-  timings+=("$(printf '%-26s %5d s' "$stage_name" $((SECONDS - stage_start)))")
+  timings+=("$(printf '%-26s %5d s, CPU %5d s' "$stage_name" $((SECONDS - stage_start)) \
+    $(($(cpu_seconds) - stage_cpu)))")
 }
 
 run_tests() {
