@@ -15,15 +15,7 @@ using testing::HasSubstr;
 
 namespace {
 
-class HostileFiles : public CliTest {
-protected:
-    fs::path Sample()
-    {
-        const fs::path dir = NewFolder("sample");
-        fs::copy(KOLTA_SAMPLE, dir);
-        return dir;
-    }
-};
+using HostileFiles = CliTest;
 
 // Every command stops with exit 2 on a game file that is there but cannot
 // be read, info included, which loads a game with a file missing.
@@ -50,10 +42,10 @@ TEST_F(HostileFiles, AreRefusedWithTheirReasonByEveryCommandAndNothingChanges)
         {"teams.dat past 16 MB", [](const fs::path& dir) { fs::resize_file(dir / "teams.dat", MaxFileSize + 1); },
          "teams.dat (the file is larger than 16 MB"},
     };
-    const fs::path csv = Export(Sample());
+    const fs::path csv = Export(SampleCopy());
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
-        const fs::path dir = Sample();
+        const fs::path dir = SampleCopy();
         c.spoil(dir);
         const std::string players = fs::is_regular_file(dir / "players.dat") ? FileBytes(dir / "players.dat") : "";
         const fs::path out = NewFolder("out");
@@ -78,7 +70,7 @@ TEST_F(HostileFiles, AreRefusedWithTheirReasonByEveryCommandAndNothingChanges)
 
 TEST_F(HostileFiles, AnUnreadableCsvStopsTheImport)
 {
-    const fs::path game = Sample();
+    const fs::path game = SampleCopy();
     const fs::path csv = NewFolder("csv");
     ASSERT_EQ(RunTool({"export", game, csv}).code, 0);
     fs::remove(csv / "players.csv");
@@ -94,7 +86,7 @@ TEST_F(HostileFiles, WhatTheLoadCouldNotKeepIsSavedAwayOnlyWhenForced)
 {
     Lines teams;
     for (int i = 1; i <= 501; ++i)
-        teams = Cat(teams, TeamRecordLines("Side", i));
+        teams = Cat(std::move(teams), TeamRecordLines("Side", i));
     const fs::path dir = GameOf(PlayerRecordLines(1), teams);
     const std::string original = FileBytes(dir / "teams.dat");
 
@@ -116,7 +108,7 @@ TEST_F(HostileFiles, WhatTheLoadCouldNotKeepIsSavedAwayOnlyWhenForced)
 
 TEST_F(HostileFiles, ALinkedGameFileStaysALinkAndItsTargetIsSaved)
 {
-    const fs::path dir = Sample();
+    const fs::path dir = SampleCopy();
     const fs::path elsewhere = NewFolder("elsewhere");
     fs::rename(dir / "teams.dat", elsewhere / "teams.dat");
     fs::create_symlink(elsewhere / "teams.dat", dir / "teams.dat");

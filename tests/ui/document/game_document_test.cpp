@@ -4,12 +4,13 @@
 #include "document/game_document.h"
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 #include "document/squad_steps.h"
 #include "support/game_builder.h"
+#include "support/qt_path.h"
+#include "support/scratch_folder.h"
 
 namespace {
 
@@ -51,8 +52,8 @@ protected:
     QString UndoText() const { return document.History().undoText(); }
     int Steps() const { return document.History().count(); }
 
-    QTemporaryDir folder;
-    std::unique_ptr<Game> built = SmallGame(folder.path());
+    ScratchFolder scratch;
+    std::unique_ptr<Game> built = SmallGame(QtPath(scratch.Path()));
     Game& game = *built;   // the document's own, for the tests to read
     GameDocument document{std::move(built)};
     std::vector<std::pair<int, int>> shown;   // team, player

@@ -52,13 +52,11 @@ GameBuilder EditorTest::SmallWorld()
 
 void EditorTest::Open(GameBuilder built)
 {
-    ASSERT_TRUE(root_.isValid());
     ASSERT_TRUE(QDir().mkpath(GameFolder()));
     SetGameDirectory(*built.game, ToSystemPath(GameFolder()));
     ASSERT_TRUE(WritePlayersFile(*built.game).ok());
     ASSERT_TRUE(WriteTeamsFile(*built.game).ok());
-    const SettingPlaces places{root_.filePath(QStringLiteral("editor.dat")),
-                               root_.filePath(QStringLiteral("config/editor.dat"))};
+    const SettingPlaces places{QtPath(scratch_ / "editor.dat"), QtPath(scratch_ / "config" / "editor.dat")};
     ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(GameFolder())).ok());
 
     MakeEditor(places);

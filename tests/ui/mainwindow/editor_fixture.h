@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
-#include <QTemporaryDir>
 #include <QTest>
 #include <memory>
 #include <ostream>
@@ -19,6 +18,8 @@
 #include "editor/editor.h"
 #include "forms/text_box.h"
 #include "support/game_builder.h"
+#include "support/qt_path.h"
+#include "support/scratch_folder.h"
 #include "support/window_parts.h"
 
 inline void PrintTo(const QString& text, std::ostream* out)
@@ -45,7 +46,7 @@ protected:
     // Answers for the coming message boxes, in order; OK when none is left.
     void Answer(std::vector<QMessageBox::StandardButton> answers) { answers_ = std::move(answers); }
 
-    QString GameFolder() const { return root_.filePath(QStringLiteral("game")); }
+    QString GameFolder() const { return QtPath(scratch_ / "game"); }
 
     // Types into a box as a person would, after clearing it with the keys.
     void Retype(const char* box, const QString& text);
@@ -56,7 +57,7 @@ protected:
     ChoiceList& Squad() const { return Find<ChoiceList>(*main, "squadList"); }
     QString TeamNumber() const { return Find<QLabel>(*main, "teamNumber").text(); }
 
-    QTemporaryDir root_;
+    ScratchFolder scratch_;
     std::unique_ptr<Editor> editor;
     MainWindow* main = nullptr;
     const Game* game = nullptr;

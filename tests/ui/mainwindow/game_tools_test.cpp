@@ -24,18 +24,6 @@ using ::testing::IsEmpty;
 
 namespace {
 
-QString Fixture(const char* name)
-{
-    return QStringLiteral(KOLTA_FIXTURES "/") + QLatin1String(name);
-}
-
-GameBuilder FromFixture(const char* name)
-{
-    GameBuilder built;
-    built.game = ReadGameFiles(Fixture(name).toStdString());
-    return built;
-}
-
 void DoubleClick(QAbstractItemView& view, const QRect& at)
 {
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, at.center());
@@ -47,6 +35,16 @@ protected:
     ~GameToolsTest() override { SetModalDriver({}); }
 
     void Trigger(const char* action) { Find<QAction>(*main, action).trigger(); }
+
+    // This test's copy of a case folder among the fixtures.
+    QString Fixture(const char* name) const { return QtPath(scratch_.Fixture(name)); }
+
+    GameBuilder FromFixture(const char* name) const
+    {
+        GameBuilder built;
+        built.game = ReadGameFiles(Fixture(name).toStdString());
+        return built;
+    }
 
     // Where the main window stands: country, team entry, squad row, shown player.
     std::vector<QString> Place() const
@@ -161,7 +159,7 @@ TEST_F(GameToolsTest, ChangesSinceTheOriginalAndSinceTheSaveGoToTheirRecords)
     emit tools.aboutToShow();
     EXPECT_FALSE(Find<QAction>(*main, "changesSinceOriginalAction").isEnabled());
     for (const char* file : {"players.dat.orig", "teams.dat.orig"})
-        ASSERT_TRUE(QFile::copy(Fixture("game_with_changes/") + file, GameFolder() + "/" + file));
+        ASSERT_TRUE(QFile::copy(Fixture("game_with_changes") + "/" + file, GameFolder() + "/" + file));
     emit tools.aboutToShow();
     Trigger("changesSinceOriginalAction");
 
@@ -217,10 +215,10 @@ TEST_F(GameToolsTest, AFaultyImportChangesNothingAndAGoodOneChangesOnlyTheOpenGa
     EXPECT_EQ(game->Players[5].surname, "Ellerby");
 
     // Export writes both files where the user points.
-    QTemporaryDir sheets;
-    DriveImport(sheets.path(), QDialogButtonBox::Ok);
+    const QString sheets = QtPath(scratch_.Folder("sheets"));
+    DriveImport(sheets, QDialogButtonBox::Ok);
     Trigger("exportCsvAction");
-    const auto exported = ImportCsvFolder(*game, ToSystemPath(sheets.path()));
+    const auto exported = ImportCsvFolder(*game, ToSystemPath(sheets));
     EXPECT_TRUE(exported.read);
     EXPECT_THAT(exported.changes, IsEmpty());
 }

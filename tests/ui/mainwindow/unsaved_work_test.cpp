@@ -354,11 +354,11 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
 // no file at all, is named with the reason, and File > Options is offered.
 TEST_F(UnsavedWork, AGameFolderThatCannotBeOpenedAtStartIsToldAndOptionsOffered)
 {
-    const QString missing = root_.filePath("gone");
-    const QString refusing = root_.filePath("refusing");
+    const QString missing = QtPath(scratch_ / "gone");
+    const QString refusing = QtPath(scratch_ / "refusing");
     ASSERT_TRUE(QDir().mkpath(refusing + "/players.dat"));
-    ASSERT_TRUE(QFile::copy(KOLTA_SAMPLE "/teams.dat", refusing + "/teams.dat"));
-    const SettingPlaces places{root_.filePath("editor.dat"), root_.filePath("config/editor.dat")};
+    ASSERT_TRUE(QFile::copy(QtPath(scratch_.Sample() / "teams.dat"), refusing + "/teams.dat"));
+    const SettingPlaces places{QtPath(scratch_ / "editor.dat"), QtPath(scratch_ / "config" / "editor.dat")};
     const struct {
         QString folder;
         QString told;

@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
 #include <memory>
@@ -26,23 +25,17 @@
 #include "options/folder_lists.h"
 #include "options/options_window.h"
 #include "options/web_pages.h"
+#include "support/qt_path.h"
+#include "support/scratch_folder.h"
 #include "support/window_parts.h"
 
 namespace {
-
-// A game folder among the fixtures.
-QString Fixture(const char* name)
-{
-    return QDir(QStringLiteral(KOLTA_FIXTURES "/") + name).canonicalPath();
-}
 
 class OptionsTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(root.isValid());
-        QDir().mkpath(root.filePath("exe"));
-        places = {root.filePath("exe/editor.dat"), root.filePath("config/editor.dat")};
+        places = {QtPath(scratch.Folder("exe") / "editor.dat"), QtPath(scratch / "config" / "editor.dat")};
         ClearShownMessages();
         SetMessageAnswerer([](const ShownMessage&) { return QMessageBox::Ok; });
     }
@@ -60,7 +53,10 @@ protected:
 
     QString Setting() const { return FromSystemPath(ReadSettingFile(ToSystemPath(places.besideExecutable))); }
 
-    QTemporaryDir root;
+    // A copy of a game folder among the fixtures.
+    QString Fixture(const char* name) const { return QDir(QtPath(scratch.Fixture(name))).canonicalPath(); }
+
+    ScratchFolder scratch;
     SettingPlaces places;
     // Sydney Sixes (Smith, Jones), Perth Pies, Hobart Hurricanes and Leeds
     // Lions, the last of another country.
@@ -74,7 +70,7 @@ TEST_F(OptionsTest, ADriveThatCannotBeReadIsReportedAndChangesNothing)
     auto& folders = Find<FolderTree>(options, "folderList");
     auto& drives = Find<DriveBox>(options, "driveList");
     ASSERT_TRUE(folders.SetPath(full));
-    const QString noDisk = root.filePath("drive-without-a-disk");
+    const QString noDisk = QtPath(scratch / "drive-without-a-disk");
     drives.AddDrive(noDisk);
     drives.setCurrentIndex(drives.count() - 1);
     ASSERT_EQ(ShownMessages().size(), 1u);
