@@ -35,15 +35,15 @@ TEST(NumberEntry, PlainWholeNumbersAreStoredAndTheRestIsRefusedWithWhatTheFieldH
         // A date of birth has no range of its own.
         {"-32768", birthYear, Kind::Stored, -32768},
         // Texts the field does not take as they stand: it keeps its value,
-        // or holds what the conversion makes of the text.
+        // even where a conversion would read a number nobody typed.
         {"1234567", batSkill, Kind::Refused, 52},
         {"32768", batSkill, Kind::Refused, 52},
         {"0x1F", batSkill, Kind::Refused, 52},
         {"1,5", batSkill, Kind::Refused, 52},
         {"", batSkill, Kind::Refused, 52},
         {"-", birthYear, Kind::Refused, 1980},
-        {"12.5", batSkill, Kind::Refused, 12},
-        {"1e1", batSkill, Kind::Refused, 10},
+        {"12.5", batSkill, Kind::Refused, 52},
+        {"1e1", batSkill, Kind::Refused, 52},
     };
     for (const auto& c : cases) {
         const NumberEntry entry = JudgeNumberEntry(c.text, player, c.field);
