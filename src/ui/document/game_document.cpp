@@ -29,13 +29,19 @@ void Store(Record& record, const Field<Record>& field, const TypedValue& value)
 
 }  // namespace
 
-// The box being typed in: its field, its record and what the field held when
-// the box was entered.
+// The box being typed in: its field, its record, what the field held when
+// the box was entered and the typing session its keystrokes join.
 struct GameDocument::OpenEdit {
     const void* field;
     bool team;
     int number;
     TypedValue entry;
+    int session;
+
+    bool Edits(const void* otherField, bool otherTeam, int otherNumber) const
+    {
+        return field == otherField && team == otherTeam && number == otherNumber;
+    }
 };
 
 GameDocument::GameDocument(std::unique_ptr<Game> game, QObject* parent)
@@ -109,9 +115,10 @@ void GameDocument::TypeInto(Record& record, int number, const Field<Record>& fie
                             StepPlace where)
 {
     constexpr bool team = std::is_same_v<Record, TeamRecord>;
-    if (!typing_ || typing_->field != &field || typing_->team != team || typing_->number != number) {
+    if (!typing_ || !typing_->Edits(&field, team, number)) {
         EndTyping();
-        typing_ = std::make_unique<OpenEdit>(OpenEdit{&field, team, number, ValueOf(record, field)});
+        typing_ = std::make_unique<OpenEdit>(
+            OpenEdit{&field, team, number, ValueOf(record, field), SessionFor(&field, team, number)});
     }
     // A text that is no value of the field leaves what was there before the box was entered.
     Store(record, field, std::holds_alternative<std::monostate>(value) ? typing_->entry : value);
@@ -120,13 +127,27 @@ void GameDocument::TypeInto(Record& record, int number, const Field<Record>& fie
     if (change.Empty())
         return;
     const QString text = TypingStepText(change);
-    Push(std::move(change), text, where, typingSession_);
+    Push(std::move(change), text, where, typing_->session);
+}
+
+int GameDocument::SessionFor(const void* field, bool team, int number)
+{
+    const int newest = history_.index() - 1;
+    const auto* step = newest >= 0 && newest == history_.count() - 1
+                           ? static_cast<const RecordStep*>(history_.command(newest))
+                           : nullptr;
+    if (lastTyping_ && lastTyping_->Edits(field, team, number) && step &&
+        step->TypingSession() == lastTyping_->session)
+        return lastTyping_->session;
+    return ++sessions_;
 }
 
 void GameDocument::EndTyping()
 {
-    typing_.reset();
-    ++typingSession_;
+    if (!typing_)
+        return;
+    lastTyping_ = std::move(typing_);
+    emit typingEnded();
 }
 
 void GameDocument::Change(const QString& text, StepPlace place, const std::function<void(Game&)>& change)
@@ -166,7 +187,7 @@ void GameDocument::Revisit(const RecordChange& change, bool undo, StepPlace plac
         change.Redo(*game_);
     ledger_.Follow(*game_, change);
     Announce(change);
-    emit stepRevisited(place);
+    emit stepRevisited(undo && place.replaced ? StepPlace{place.team, place.replaced} : place);
 }
 
 void GameDocument::Announce(const RecordChange& change)

@@ -20,6 +20,7 @@
 #include "forms/clickable_picture.h"
 #include "forms/drop_down.h"
 #include "forms/fitted_layout.h"
+#include "forms/game_text.h"
 #include "forms/player_column.h"
 #include "mainwindow/edit_menu.h"
 #include "mainwindow/team_column.h"
@@ -134,6 +135,14 @@ void MainWindow::BuildPlayerColumn(FittedLayout& at, QWidget* area)
     playerColumn_ = Named(new PlayerColumn(at, design, area), "playerColumn");
     for (auto name : {&PlayerRecord::initials, &PlayerRecord::surname})
         MakeBold(*playerColumn_->Box(name));
+    // The search lists players by surname, and one without a surname ends
+    // its listing: the last letter stays until a new one is typed.
+    static_cast<TextBox*>(playerColumn_->Box(&PlayerRecord::surname))
+        ->SetTextRule([](const QString& text) -> std::optional<QString> {
+            if (text.isEmpty())
+                return QStringLiteral("A player needs a surname: type the new one before deleting the last letter");
+            return NameRefusalOf(text);
+        });
 }
 
 void MainWindow::BuildMenu()
@@ -217,15 +226,18 @@ void MainWindow::ConnectHandlers()
             document_.Type(*shownTeam_, field, value, {*shownTeam_, currentPlayer_.value_or(0)});
         MarkNumberBoxes();
     });
-    connect(playerColumn_, &PlayerColumn::nameRefused, this, &MainWindow::SayInStatusBar);
-    connect(teamColumn_, &TeamColumn::nameRefused, this, &MainWindow::SayInStatusBar);
-    // A box's typed value is one step until the focus leaves the box.
+    connect(playerColumn_, &PlayerColumn::nameRefused, this, &MainWindow::Explain);
+    connect(teamColumn_, &TeamColumn::nameRefused, this, &MainWindow::Explain);
+    // A box's typed value is one step until the focus leaves the box, or a
+    // command ends it; a number box left with a text its field cannot hold
+    // then shows the record's value again.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old) {
         if (old && isAncestorOf(old)) {
             document_.EndTyping();
             MarkNumberBoxes();
         }
     });
+    connect(&document_, &GameDocument::typingEnded, this, &MainWindow::TakeBackInexactBoxes);
 
     connect(problemsBar_, &ProblemsBar::showProblemsRequested, this, [this] { tools_.CheckGame(this); });
     connect(&tools_, &GameTools::errorsCounted, problemsBar_, &ProblemsBar::SetErrorCount);
@@ -247,10 +259,7 @@ void MainWindow::FollowDocument()
     connect(&document_, &GameDocument::gameReplaced, this, [this] {
         // No box may edit the record of the new game that has the old numbers.
         currentPlayer_.reset();
-        if (shownTeam_) {
-            shownTeam_.reset();
-            teamColumn_->ForgetTeam();
-        }
+        ShowNoTeam();
         SetTitle();
         caption_ = QStringLiteral("KOLTA Editor");
         ShowFirstEntries();

@@ -102,8 +102,9 @@ TEST_F(GameToolsTest, FindPlayerGoesToHisCountryTeamAndRow)
     find("6");
     EXPECT_THAT(Place(), ElementsAre("West Indies and Mics.", "Kingston Kites", "W Calloway", "Calloway"));
 
-    // A player without a club: no team chosen, an empty squad list, and he is
-    // the one the boxes show and edit.
+    // A player without a club: no team chosen, an empty squad list, no team
+    // in the team's boxes, and he is the one the boxes show and edit.
+    const TeamRecord kites = game->Teams[3];
     find("brinkw");
     EXPECT_EQ(main->CurrentPlayer(), 7);
     EXPECT_EQ(main->CurrentTeam(), std::nullopt);
@@ -111,7 +112,13 @@ TEST_F(GameToolsTest, FindPlayerGoesToHisCountryTeamAndRow)
     EXPECT_EQ(BoxText("surname"), "Brinkwell");
     Retype("surname", "Brinkworth");
     EXPECT_EQ(game->Players[7].surname, "Brinkworth");
-    EXPECT_EQ(game->Teams[3].teamName, "Kingston Kites") << "the team shown before keeps its values";
+    EXPECT_EQ(TeamNumber(), "");
+    for (const char* box : {"team.teamName", "team.wealth"}) {
+        EXPECT_EQ(BoxText(box), "") << box;
+        EXPECT_FALSE(Find<TextBox>(*main, box).isEnabled()) << box;
+        Retype(box, "5");
+    }
+    EXPECT_EQ(game->Teams[3], kites) << "the team shown before takes no typing";
 }
 
 TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)

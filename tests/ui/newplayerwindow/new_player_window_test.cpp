@@ -83,6 +83,13 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
             box(name)->clear();
             QTest::keyClicks(box(name), text);
         }
+        // A nameless player, or one born on a day that never was, is refused.
+        for (const auto& [name, bad] : {std::pair{"surname", ""}, {"initials", " "}, {"birthDay", "31"}}) {
+            const QString good = box(name)->text();
+            box(name)->setText(QString::fromLatin1(bad));
+            Find<QPushButton>(form, "okButton").click();
+            box(name)->setText(good);
+        }
         Paste(skill, "-5");
         EXPECT_EQ(BeepCount() - beeps, 6);
         Find<QPushButton>(form, "okButton").click();
@@ -102,11 +109,13 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
     Find<QPushButton>(main, "addNewPlayerButton").click();
     SetModalDriver({});
     SetMessageAnswerer({});
-    ASSERT_EQ(ShownMessages().size(), 2u) << "success is not announced";
+    ASSERT_EQ(ShownMessages().size(), 5u) << "success is not announced";
     // Each refusal names the first box at fault.
     const QString refusal = "Data not in correct range.Please see help for correct range of data values.\n\n";
-    EXPECT_EQ(ShownMessages()[0].text, refusal + "Date of birth is empty.");
-    EXPECT_EQ(ShownMessages()[1].text, refusal + "Bat skill must lie from 0 to 60, not -5.");
+    const char* said[] = {"Date of birth is empty.", "Player Name has no surname.", "Player Name has no initials.",
+                          "Date of birth 31/11/1982 does not exist.", "Bat skill must lie from 0 to 60, not -5."};
+    for (std::size_t i = 0; i < std::size(said); ++i)
+        EXPECT_EQ(ShownMessages()[i].text, refusal + said[i]);
     for (const ShownMessage& message : ShownMessages()) {
         EXPECT_EQ(message.title, "Error");
         EXPECT_EQ(Look(message), Look(QMessageBox::Information));
