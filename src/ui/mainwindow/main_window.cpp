@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLayout>
 #include <QMenuBar>
 #include <QPushButton>
@@ -238,6 +239,13 @@ void MainWindow::ConnectHandlers()
         }
     });
     connect(&document_, &GameDocument::typingEnded, this, &MainWindow::TakeBackInexactBoxes);
+    // Enter ends the typing of a box as leaving it does.
+    for (QLineEdit* box : findChildren<QLineEdit*>()) {
+        connect(box, &QLineEdit::returnPressed, this, [this] {
+            document_.EndTyping();
+            MarkNumberBoxes();
+        });
+    }
 
     connect(problemsBar_, &ProblemsBar::showProblemsRequested, this, [this] { tools_.CheckGame(this); });
     connect(&tools_, &GameTools::errorsCounted, problemsBar_, &ProblemsBar::SetErrorCount);

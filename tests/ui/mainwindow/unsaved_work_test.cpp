@@ -347,7 +347,8 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
         const char* text;
         BoxMark mark;
         QString status;
-        QString left, statusLeft;   // the box and the status bar after Tab
+        QString left, statusLeft;   // the box and the status bar once left
+        Qt::Key leaveBy = Qt::Key_Tab;
     } typed[] = {
         {"team.wealth", "1234567", BoxMark::Refused,
          "Wealth takes a whole number from -32768 to 32767: the record holds 0.", "0",
@@ -366,7 +367,7 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
         // A whole edit: 50 was held a moment, and goes with the rest.
         {"batSkill", "50x", BoxMark::Refused,
          "Bat skill takes a whole number from -32768 to 32767: the record holds 44.", "44",
-         "Bat skill stays 44: 50x" + notWhole},
+         "Bat skill stays 44: 50x" + notWhole, Qt::Key_Return},
     };
     for (const auto& t : typed) {
         Retype(t.box, t.text);
@@ -374,7 +375,7 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
         EXPECT_EQ(MarkOf(box), t.mark) << t.text;
         EXPECT_EQ(box.toolTip(), t.status) << t.text;
         EXPECT_EQ(main->statusBar()->currentMessage(), t.status) << t.text;
-        QTest::keyClick(&box, Qt::Key_Tab);
+        QTest::keyClick(&box, t.leaveBy);
         EXPECT_EQ(box.text(), t.left) << t.text;
         EXPECT_EQ(MarkOf(box), t.mark == BoxMark::Refused ? BoxMark::Plain : t.mark) << t.text;
         EXPECT_EQ(main->statusBar()->currentMessage(), t.statusLeft) << t.text;
