@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -71,6 +72,7 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
         QTest::keyClicks(box("initials"), "\"a.b");
         EXPECT_EQ(box("surname")->text(), "O'Neil-Smith 2nd");
         EXPECT_EQ(box("initials")->text(), "a.b");
+        EXPECT_EQ(QToolTip::text(), "A name cannot begin with a double quote") << "the refusal says why";
         EXPECT_EQ(BeepCount() - beeps, 6);
 
         Find<QPushButton>(form, "okButton").click();  // the date and most skills are still empty
