@@ -16,6 +16,7 @@
 
 #include "document/game_document.h"
 #include "forms/box_marks.h"
+#include "forms/game_text.h"
 #include "tables/cell_editor.h"
 #include "tables/record_table_model.h"
 
@@ -57,7 +58,6 @@ TableWindow::TableWindow(GameDocument& document, RecordKind kind, CalendarDay to
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
     QHeaderView* header = table->horizontalHeader();
     header->setSectionsMovable(true);
-    header->setResizeContentsPrecision(0);  // widths from the rows in view only
     header->setContextMenuPolicy(Qt::CustomContextMenu);
     header->setSortIndicator(0, Qt::AscendingOrder);
     table->setSortingEnabled(true);
@@ -199,8 +199,28 @@ void TableWindow::Restore()
     settings.beginGroup(SettingsGroup(kind_));
     if (!restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray()))
         resize(1100, 640);
-    if (!table->horizontalHeader()->restoreState(settings.value(QStringLiteral("columns")).toByteArray()))
-        table->resizeColumnsToContents();
+    if (!table->horizontalHeader()->restoreState(settings.value(QStringLiteral("columns")).toByteArray())) {
+        for (int column = 0; column < model->columnCount(); ++column)
+            table->setColumnWidth(column, NaturalWidth(column));
+    }
+}
+
+int TableWindow::NaturalWidth(int logical) const
+{
+    // Measured from what a column can hold rather than from its 2000 rows,
+    // which would take most of the time the window needs to open.
+    const TableColumn& column = model->ColumnAt(logical);
+    QString widest = QStringLiteral("000000");
+    if (const CodeList* codes = column.Codes()) {
+        for (std::string_view word : codes->words)
+            widest = std::max(widest, FromGame(word), [](const QString& a, const QString& b) { return a.size() < b.size(); });
+    } else if (column.IsName() || column.source == ColumnSource::Club) {
+        widest = QString(14, QLatin1Char('n'));
+    }
+    const int cell = table->fontMetrics().horizontalAdvance(widest);
+    const QHeaderView& header = *table->horizontalHeader();
+    const int caption = header.fontMetrics().horizontalAdvance(model->headerData(logical, Qt::Horizontal, Qt::DisplayRole).toString());
+    return std::max(cell, caption + header.fontMetrics().height()) + 12;
 }
 
 void TableWindow::Remember()

@@ -57,6 +57,7 @@ private:
     void SayCount();
     void OnHeaderMenu(const QPoint& at);
     void OnRowActivated(int row);
+    int NaturalWidth(int logical) const;
     void Restore();
     void Remember();
 
