@@ -74,6 +74,8 @@ TableWindow::TableWindow(GameDocument& document, RecordKind kind, CalendarDay to
     connect(table, &QTableView::activated, this, [this](const QModelIndex& index) { OnRowActivated(index.row()); });
     connect(static_cast<CellEditor*>(table->itemDelegate()), &CellEditor::said, this,
             [this](const QString& text) { statusBar()->showMessage(text); });
+    // What was said about a cell stands until another cell is chosen.
+    connect(table->selectionModel(), &QItemSelectionModel::currentChanged, statusBar(), &QStatusBar::clearMessage);
     Restore();
     SayCount();
     filterBox->setFocus();
