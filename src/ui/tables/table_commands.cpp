@@ -28,6 +28,22 @@ const QString NothingSelected = QStringLiteral("Select the rows to change first.
 
 }  // namespace
 
+std::vector<int> TableWindow::SelectedRecords() const
+{
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range : table->selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row);
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    std::vector<int> numbers;
+    numbers.reserve(rows.size());
+    for (int row : rows)
+        numbers.push_back(model->RecordAt(row));
+    return numbers;
+}
+
 StepPlace TableWindow::PlaceOf(const std::vector<int>& records) const
 {
     // Undo brings back into view the first record changed that the main
@@ -115,7 +131,7 @@ QString TableWindow::ExportSelection(const QString& path)
         return QStringLiteral("Could not write %1:\n%2")
             .arg(QDir::toNativeSeparators(path), QString::fromStdString(written.reason));
     statusBar()->showMessage(
-        QStringLiteral("Wrote %1 %2 to %3").arg(records.size()).arg(KindWord(), QDir::toNativeSeparators(path)));
+        QStringLiteral("Wrote %1 rows to %2").arg(records.size()).arg(QDir::toNativeSeparators(path)));
     return {};
 }
 

@@ -103,14 +103,14 @@ void TableWindow::BuildMenu()
     });
     // Paste is the table's own, so that the filter box and a cell being
     // edited keep theirs.
-    QAction* paste = command(edit, QStringLiteral("&Paste"), "pasteAction", QKeySequence::Paste, [this] { OnPaste(); });
+    QAction* paste = command(edit, QStringLiteral("&Paste"), "pasteAction", QKeySequence::Paste, &TableWindow::OnPaste);
     paste->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     table->addAction(paste);
-    command(edit, QStringLiteral("&Set Value..."), "setValueAction", SetValueKeys, [this] { OnSetValue(); });
+    command(edit, QStringLiteral("&Set Value..."), "setValueAction", SetValueKeys, &TableWindow::OnSetValue);
     if (kind_ == RecordKind::Player)
-        command(edit, QStringLiteral("&Move Selected to Team..."), "moveToTeamAction", {}, [this] { OnMoveToTeam(); });
+        command(edit, QStringLiteral("&Move Selected to Team..."), "moveToTeamAction", {}, &TableWindow::OnMoveToTeam);
     edit->addSeparator();
-    command(edit, QStringLiteral("&Export Selection to CSV..."), "exportSelectionAction", {}, [this] { OnExport(); });
+    command(edit, QStringLiteral("&Export Selection to CSV..."), "exportSelectionAction", {}, &TableWindow::OnExport);
 }
 
 bool TableWindow::eventFilter(QObject* watched, QEvent* event)
@@ -177,22 +177,6 @@ void TableWindow::OnRowActivated(int row)
         emit playerChosen(number);
     else
         emit teamChosen(number);
-}
-
-std::vector<int> TableWindow::SelectedRecords() const
-{
-    std::vector<int> rows;
-    for (const QItemSelectionRange& range : table->selectionModel()->selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            rows.push_back(row);
-    }
-    std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    std::vector<int> numbers;
-    numbers.reserve(rows.size());
-    for (int row : rows)
-        numbers.push_back(model->RecordAt(row));
-    return numbers;
 }
 
 void TableWindow::Restore()
