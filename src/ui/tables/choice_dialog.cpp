@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "forms/box_marks.h"
@@ -22,6 +23,9 @@ ChoiceDialog::ChoiceDialog(const QString& title, const QString& listCaption, con
     choices->setObjectName(QStringLiteral("choices"));
     choices->addItems(entries);
     choices->setCurrentRow(std::max(chosen, 0));
+    // Wide enough for its longest entry beside a scroll bar.
+    choices->setMinimumWidth(choices->sizeHintForColumn(0) + 2 * choices->frameWidth() +
+                             choices->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 8);
     caption->setBuddy(choices);
     layout->addWidget(choices);
     if (!valueCaption.isEmpty()) {

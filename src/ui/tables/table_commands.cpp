@@ -14,6 +14,7 @@
 #include "bulkedit/bulk_edit.h"
 #include "csv/csv_export.h"
 #include "data/file_io.h"
+#include "data/squad.h"
 #include "document/game_document.h"
 #include "forms/game_text.h"
 #include "forms/message_box.h"
@@ -178,8 +179,13 @@ void TableWindow::OnMoveToTeam()
     std::stable_sort(teams.begin(), teams.end(),
                      [&game](int a, int b) { return NameKey(game.Teams[a].teamName) < NameKey(game.Teams[b].teamName); });
     QStringList entries;
-    for (int team : teams)
-        entries.append(FromGame(game.Teams[std::size_t(team)].teamName));
+    for (int team : teams) {
+        const TeamRecord& record = game.Teams[std::size_t(team)];
+        const auto country = TeamCountries.WordFor(record.homeCountry);
+        entries.append(QStringLiteral("%1   (%2, %3 players)")
+                           .arg(FromGame(record.teamName), FromGame(country.value_or(std::string_view())))
+                           .arg(SquadCount(record)));
+    }
     ChoiceDialog dialog(QStringLiteral("Move Selected to Team"), QStringLiteral("&Team:"), entries, 0, QString(),
                         [this, &teams](int row, const QString&) { return MoveToTeam(teams[std::size_t(row)]); }, this);
     dialog.setObjectName(QStringLiteral("moveToTeamDialog"));

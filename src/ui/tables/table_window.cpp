@@ -201,7 +201,7 @@ int TableWindow::NaturalWidth(int logical) const
         for (std::string_view word : codes->words)
             widest = std::max(widest, FromGame(word), [](const QString& a, const QString& b) { return a.size() < b.size(); });
     } else if (column.IsName() || column.source == ColumnSource::Club) {
-        widest = QString(14, QLatin1Char('n'));
+        widest = QString(18, QLatin1Char('n'));
     }
     const int cell = table->fontMetrics().horizontalAdvance(widest);
     const QHeaderView& header = *table->horizontalHeader();
