@@ -2,11 +2,10 @@
 
 #include <QColor>
 #include <algorithm>
-#include <numeric>
 
+#include "bulkedit/field_value.h"
 #include "data/number_entry.h"
 #include "data/record_changes.h"
-#include "bulkedit/field_value.h"
 #include "document/game_document.h"
 #include "forms/box_marks.h"
 #include "forms/game_text.h"
