@@ -13,6 +13,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <memory>
 
 #include "document/game_document.h"
 #include "forms/box_marks.h"
@@ -24,9 +25,15 @@ namespace {
 
 const QKeySequence SetValueKeys(Qt::CTRL | Qt::Key_E);
 
-QString SettingsGroup(RecordKind kind)
+// The tables' layouts are kept in windows.ini in the user's configuration
+// folder for the editor, beside the editor.dat kept there, in the group of
+// each table.
+std::unique_ptr<QSettings> LayoutSettings(RecordKind kind)
 {
-    return kind == RecordKind::Player ? QStringLiteral("playersTable") : QStringLiteral("teamsTable");
+    auto settings = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
+                                                QStringLiteral("kolta-editor"), QStringLiteral("windows"));
+    settings->beginGroup(kind == RecordKind::Player ? QStringLiteral("playersTable") : QStringLiteral("teamsTable"));
+    return settings;
 }
 
 }  // namespace
@@ -181,11 +188,10 @@ void TableWindow::OnRowActivated(int row)
 
 void TableWindow::Restore()
 {
-    QSettings settings;
-    settings.beginGroup(SettingsGroup(kind_));
-    if (!restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray()))
+    const auto settings = LayoutSettings(kind_);
+    if (!restoreGeometry(settings->value(QStringLiteral("geometry")).toByteArray()))
         resize(1100, 640);
-    if (!table->horizontalHeader()->restoreState(settings.value(QStringLiteral("columns")).toByteArray())) {
+    if (!table->horizontalHeader()->restoreState(settings->value(QStringLiteral("columns")).toByteArray())) {
         for (int column = 0; column < model->columnCount(); ++column)
             table->setColumnWidth(column, NaturalWidth(column));
     }
@@ -211,10 +217,9 @@ int TableWindow::NaturalWidth(int logical) const
 
 void TableWindow::Remember()
 {
-    QSettings settings;
-    settings.beginGroup(SettingsGroup(kind_));
-    settings.setValue(QStringLiteral("geometry"), saveGeometry());
-    settings.setValue(QStringLiteral("columns"), table->horizontalHeader()->saveState());
+    const auto settings = LayoutSettings(kind_);
+    settings->setValue(QStringLiteral("geometry"), saveGeometry());
+    settings->setValue(QStringLiteral("columns"), table->horizontalHeader()->saveState());
 }
 
 void TableWindow::closeEvent(QCloseEvent* event)

@@ -64,7 +64,8 @@ class TableWindowTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        QSettings().clear();
+        // Each test starts from the tables' first layout.
+        QSettings(QSettings::IniFormat, QSettings::UserScope, "kolta-editor", "windows").clear();
         ShowWindow(players, RecordKind::Player);
         ShowWindow(teams, RecordKind::Team);
     }
