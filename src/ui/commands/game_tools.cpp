@@ -19,6 +19,7 @@
 #include "forms/message_box.h"
 #include "forms/modal.h"
 #include "problemswindow/problems_window.h"
+#include "tables/table_window.h"
 
 namespace {
 
@@ -183,4 +184,33 @@ void GameTools::ImportCsv(QWidget* owner)
         game.TeamCount = imported.TeamCount;
     });
     emit gameImported();
+}
+
+void GameTools::PlayersTable(QWidget* owner)
+{
+    ShowTable(playersTable_, true, owner);
+}
+
+void GameTools::TeamsTable(QWidget* owner)
+{
+    ShowTable(teamsTable_, false, owner);
+}
+
+void GameTools::ShowTable(QPointer<TableWindow>& window, bool players, QWidget* owner)
+{
+    if (!window) {
+        const QDate today = QDate::currentDate();
+        window = new TableWindow(document_, players ? RecordKind::Player : RecordKind::Team,
+                                 {today.year(), today.month(), today.day()}, owner);
+        window->setObjectName(players ? QStringLiteral("playersTable") : QStringLiteral("teamsTable"));
+        const auto front = [owner] {
+            owner->window()->raise();
+            owner->window()->activateWindow();
+        };
+        connect(window, &TableWindow::playerChosen, this, &GameTools::playerChosen);
+        connect(window, &TableWindow::teamChosen, this, &GameTools::teamChosen);
+        connect(window, &TableWindow::playerChosen, owner, front);
+        connect(window, &TableWindow::teamChosen, owner, front);
+    }
+    Raise(*window);
 }

@@ -9,6 +9,7 @@
 class ChangesWindow;
 class GameDocument;
 class ProblemsWindow;
+class TableWindow;
 class QWidget;
 
 // The commands over the whole game: Find Player, the check of the game and
@@ -31,6 +32,10 @@ public:
     bool HasOriginals() const;
     void ExportCsv(QWidget* owner);
     void ImportCsv(QWidget* owner);
+    // The players and teams tables, open beside `owner`; a record chosen in
+    // one brings `owner` to the front.
+    void PlayersTable(QWidget* owner);
+    void TeamsTable(QWidget* owner);
 
 signals:
     void playerChosen(int number);
@@ -43,8 +48,11 @@ signals:
 private:
     void ShowChanges(QWidget* owner, const QString& since, const Game& before);
     QString ChooseFolder(QWidget* owner, const QString& title);
+    void ShowTable(QPointer<TableWindow>& window, bool players, QWidget* owner);
 
     GameDocument& document_;
     QPointer<ProblemsWindow> problemsWindow_;
     QPointer<ChangesWindow> changesWindow_;
+    QPointer<TableWindow> playersTable_;
+    QPointer<TableWindow> teamsTable_;
 };

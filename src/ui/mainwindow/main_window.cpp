@@ -175,6 +175,11 @@ void MainWindow::BuildMenu()
     QAction* sinceOriginal = command(tools, "Changes Since &Original...", "changesSinceOriginalAction",
                                      [this] { tools_.ChangesSinceOriginal(this); });
     connect(tools, &QMenu::aboutToShow, this, [this, sinceOriginal] { sinceOriginal->setEnabled(tools_.HasOriginals()); });
+    tools->addSeparator();
+    command(tools, "&Players Table...", "playersTableAction", [this] { tools_.PlayersTable(this); })
+        ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
+    command(tools, "&Teams Table...", "teamsTableAction", [this] { tools_.TeamsTable(this); })
+        ->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T));
 
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
     command(help, "Help On Editor", "helpAction", [this] { OnHelp(); })->setShortcut(QKeySequence(Qt::Key_F1));
