@@ -42,7 +42,7 @@ GameDocument::GameDocument(std::unique_ptr<Game> game, QObject* parent)
     : QObject(parent), game_(std::move(game))
 {
     ledger_.Reset(*game_);
-    connect(&history_, &QUndoStack::cleanChanged, this, &GameDocument::FollowModified);
+    saved_.Reset(*game_);
 }
 
 GameDocument::~GameDocument() = default;
@@ -57,6 +57,7 @@ GameLoad GameDocument::Load(const std::string& folder)
     SetGameDirectory(*game_, folder);
     const GameLoad load = LoadGame(*game_);
     ledger_.Reset(*game_);
+    saved_.Reset(*game_);
     history_.clear();
     FollowModified();
     emit gameReplaced();
@@ -70,18 +71,15 @@ bool GameDocument::MarkFolderOpen()
     return presence_->OthersHadItOpen();
 }
 
-FileResult GameDocument::Save(bool dropConfirmed)
+FileResult GameDocument::Save(bool dropConfirmed, OtherChanges otherChanges)
 {
     EndTyping();
-    const FileResult result = SaveGame(*game_, dropConfirmed);
-    if (result.ok())
-        history_.setClean();
+    const FileResult result = SaveGame(*game_, dropConfirmed, otherChanges);
+    if (result.ok()) {
+        saved_.Reset(*game_);
+        FollowModified();
+    }
     return result;
-}
-
-bool GameDocument::IsModified() const
-{
-    return !history_.isClean();
 }
 
 void GameDocument::FollowModified()
@@ -171,6 +169,8 @@ void GameDocument::Revisit(const RecordChange& change, bool undo, StepPlace plac
 
 void GameDocument::Announce(const RecordChange& change)
 {
+    saved_.Follow(*game_, change);
+    FollowModified();
     for (const RecordChange::PlayerCopy& copy : change.players)
         emit playerChanged(copy.number);
     for (const RecordChange::TeamCopy& copy : change.teams)

@@ -14,6 +14,8 @@
 #include "data/game.h"
 #include "data/load_game.h"
 #include "data/record_changes.h"
+#include "data/save.h"
+#include "document/saved_records.h"
 #include "forms/typed_value.h"
 
 class FolderPresence;
@@ -47,11 +49,13 @@ public:
     // true when another editor has it open too.
     bool MarkFolderOpen();
     // Writes both files as one pair; `dropConfirmed`: the user agreed to lose
-    // what the load could not keep. A save that works makes the game as it
-    // is now the saved state.
-    FileResult Save(bool dropConfirmed);
-    // Whether the game differs from the files as last loaded or saved.
-    bool IsModified() const;
+    // what the load could not keep; `otherChanges`: what becomes of files
+    // another program saved meanwhile. A save that works makes the game as
+    // it is now the saved state.
+    FileResult Save(bool dropConfirmed, OtherChanges otherChanges = OtherChanges::Refuse);
+    // Whether the records differ from the files as last loaded or saved: an
+    // edit typed back to what was there is no change.
+    bool IsModified() const { return saved_.Differ(); }
 
     // A value typed or picked in the box of a field: the record follows at
     // once. A value the field cannot take puts back what the field held when
@@ -98,6 +102,7 @@ private:
     RecordLedger ledger_;
     QUndoStack history_;
     std::unique_ptr<FolderPresence> presence_;
+    SavedRecords saved_;
     std::unique_ptr<OpenEdit> typing_;
     int typingSession_ = 0;
     bool modified_ = false;
