@@ -22,6 +22,8 @@ public:
 
     // The game's files were just read or written: counts their errors.
     void CheckFiles();
+    // After a step: the errors again, the files' own as last counted.
+    void Recount();
 
     void FindPlayer(QWidget* owner);
     void CheckGame(QWidget* owner);
@@ -45,6 +47,9 @@ private:
     QString ChooseFolder(QWidget* owner, const QString& title);
 
     GameDocument& document_;
+    // The errors only the bytes of the files show; they change when the
+    // files do, not with the steps.
+    int fileErrors_ = 0;
     QPointer<ProblemsWindow> problemsWindow_;
     QPointer<ChangesWindow> changesWindow_;
 };

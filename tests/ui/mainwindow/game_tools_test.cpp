@@ -134,12 +134,15 @@ TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
     QTest::keyClick(&table, Qt::Key_Return);  // players.dat 5: a skill out of range
     EXPECT_THAT(Place(), ElementsAre("Australia", "Bayside", "E Ellery", "Ellery"));
 
-    // Once the game is put right and saved, the bar goes.
+    // The bar follows every step, and goes once the game is put right.
     Retype("batSkill", "50");
-    Document().Change("fix", {}, [](Game& fixed) {
-        fixed.Teams[2].squad[3] = 0;
-        fixed.Teams[3].squad[2] = 0;
-    });
+    Document().Change("fix", {}, [](Game& fixed) { fixed.Teams[2].squad[3] = 0; });
+    EXPECT_THAT(bar.message->text().toStdString(), ::testing::HasSubstr("1 error "));
+    Document().Change("fix", {}, [](Game& fixed) { fixed.Teams[3].squad[2] = 0; });
+    EXPECT_FALSE(bar.isVisible());
+    Document().Undo();
+    EXPECT_TRUE(bar.isVisible());
+    Document().Redo();
     Find<QAction>(*main, "saveAction").trigger();
     EXPECT_FALSE(bar.isVisible());
     Trigger("checkGameAction");
