@@ -125,7 +125,8 @@ bool GameFiles::ReloadTheirs()
         AskMessage(QMessageBox::Warning, QStringLiteral("Reload"),
                    QStringLiteral("Reading players.dat and teams.dat as the other program saved them loses "
                                   "your unsaved changes."),
-                   {{QMessageBox::Yes, QStringLiteral("&Reload theirs")}, {QMessageBox::Cancel, QStringLiteral("Cancel")}},
+                   {{QMessageBox::Yes, QStringLiteral("&Reload theirs")},
+                    {QMessageBox::Cancel, QStringLiteral("Cancel")}},
                    QMessageBox::Cancel) != QMessageBox::Yes)
         return false;
     if (const std::optional<QString> refused = Open(document_.Folder()))

@@ -72,17 +72,28 @@ void Raise(Window& window)
 
 }  // namespace
 
-GameTools::GameTools(GameDocument& document) : document_(document) {}
+GameTools::GameTools(GameDocument& document) : document_(document)
+{
+    recount_.setSingleShot(true);
+    recount_.setInterval(0);
+    connect(&recount_, &QTimer::timeout, this, &GameTools::CountErrors);
+}
 
 void GameTools::CheckFiles()
 {
     const FilesToCheck files = BytesOnDisk(document_.Records());
     fileErrors_ = Errors(ProblemsInPlayersFile(files.players)) + Errors(ProblemsInTeamsFile(files.teams));
-    Recount();
+    CountErrors();
 }
 
 void GameTools::Recount()
 {
+    recount_.start();
+}
+
+void GameTools::CountErrors()
+{
+    recount_.stop();
     // The check of the whole game drops warnings only, so its errors are
     // those of the files' bytes and those of the records.
     emit errorsCounted(fileErrors_ + Errors(ProblemsInGame(document_.Records())));

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QTimer>
 
 #include "data/game.h"
 
@@ -22,7 +23,9 @@ public:
 
     // The game's files were just read or written: counts their errors.
     void CheckFiles();
-    // After a step: the errors again, the files' own as last counted.
+    // After a step: the errors are counted again as soon as the event loop
+    // is free, the files' own as last counted. Keystrokes that come in a
+    // row are counted once.
     void Recount();
 
     void FindPlayer(QWidget* owner);
@@ -43,6 +46,7 @@ signals:
     void gameImported();
 
 private:
+    void CountErrors();
     void ShowChanges(QWidget* owner, const QString& since, const Game& before);
     QString ChooseFolder(QWidget* owner, const QString& title);
 
@@ -50,6 +54,7 @@ private:
     // The errors only the bytes of the files show; they change when the
     // files do, not with the steps.
     int fileErrors_ = 0;
+    QTimer recount_;
     QPointer<ProblemsWindow> problemsWindow_;
     QPointer<ChangesWindow> changesWindow_;
 };

@@ -11,6 +11,7 @@ NoticeBar::NoticeBar(const char* name, QStyle::StandardPixmap icon, QWidget* par
     setFloatable(false);
     toggleViewAction()->setVisible(false);
     icon_ = new QLabel(this);
+    icon_->setContentsMargins(2, 0, 6, 0);
     message = new QLabel(this);
     addWidget(icon_);
     addWidget(message);

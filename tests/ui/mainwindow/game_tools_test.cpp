@@ -135,13 +135,16 @@ TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
     EXPECT_THAT(Place(), ElementsAre("Australia", "Bayside", "E Ellery", "Ellery"));
 
     // The bar follows every step, and goes once the game is put right.
+    const auto shown = [&bar](bool visible) {
+        return QTest::qWaitFor([&] { return bar.isVisible() == visible; }, 2000);
+    };
     Retype("batSkill", "50");
     Document().Change("fix", {}, [](Game& fixed) { fixed.Teams[2].squad[3] = 0; });
-    EXPECT_THAT(bar.message->text().toStdString(), ::testing::HasSubstr("1 error "));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.message->text().contains("1 error "); }, 2000));
     Document().Change("fix", {}, [](Game& fixed) { fixed.Teams[3].squad[2] = 0; });
-    EXPECT_FALSE(bar.isVisible());
+    EXPECT_TRUE(shown(false));
     Document().Undo();
-    EXPECT_TRUE(bar.isVisible());
+    EXPECT_TRUE(shown(true));
     Document().Redo();
     Find<QAction>(*main, "saveAction").trigger();
     EXPECT_FALSE(bar.isVisible());
