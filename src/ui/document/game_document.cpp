@@ -138,7 +138,7 @@ void GameDocument::Change(const QString& text, StepPlace place, const std::funct
 
 void GameDocument::Push(RecordChange change, const QString& text, StepPlace place, int typingSession)
 {
-    Announce(change);
+    Announce(change, false);
     history_.push(new RecordStep([this](const RecordChange& step, bool undo,
                                         StepPlace at) { Revisit(step, undo, at); },
                                  std::move(change), place, text, typingSession));
@@ -163,13 +163,13 @@ void GameDocument::Revisit(const RecordChange& change, bool undo, StepPlace plac
     else
         change.Redo(*game_);
     ledger_.Follow(*game_, change);
-    Announce(change);
+    Announce(change, undo);
     emit stepRevisited(place);
 }
 
-void GameDocument::Announce(const RecordChange& change)
+void GameDocument::Announce(const RecordChange& change, bool undone)
 {
-    saved_.Follow(*game_, change);
+    saved_.Follow(*game_, change, undone);
     FollowModified();
     for (const RecordChange::PlayerCopy& copy : change.players)
         emit playerChanged(copy.number);

@@ -95,7 +95,8 @@ private:
     void Push(RecordChange change, const QString& text, StepPlace place, int typingSession);
     // An undo or redo of a step: the records go back or forward.
     void Revisit(const RecordChange& change, bool undo, StepPlace place);
-    void Announce(const RecordChange& change);
+    // Says what a step changed; `undone`: the step was taken back.
+    void Announce(const RecordChange& change, bool undone);
     void FollowModified();
 
     std::unique_ptr<Game> game_;

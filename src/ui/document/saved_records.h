@@ -1,27 +1,34 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
+#include <unordered_map>
 
 #include "data/game.h"
 #include "data/record_changes.h"
 
-// The records as the files held them when last loaded or saved, and which of
-// the game's records differ from them now. Each step updates only the records
-// it touched, so whether the game is modified costs nothing to ask.
+// Which records differ from the files as last loaded or saved. The first
+// step that touches a record since then holds its saved value, so only the
+// records touched are kept and compared, and a load or save costs nothing.
 class SavedRecords {
 public:
     // After a load or a save: the game as it is now is what the files hold.
     void Reset(const Game& game);
-    // After a step, undone or redone too: the records it touched are compared.
-    void Follow(const Game& game, const RecordChange& change);
-    bool Differ() const;
+    // After a step, or the undo of one (`undone`): the records it touched are
+    // compared with their saved values.
+    void Follow(const Game& game, const RecordChange& change, bool undone);
+    bool Differ() const { return differing_ > 0 || countsDiffer_; }
 
 private:
-    std::vector<PlayerRecord> players_;
-    std::vector<TeamRecord> teams_;
-    std::vector<bool> playerDiffers_;
-    std::vector<bool> teamDiffers_;
+    template <typename Record>
+    struct Saved {
+        Record record;
+        bool differs = false;
+    };
+    template <typename Record, typename Copy, typename Table>
+    void Compare(std::unordered_map<int, Saved<Record>>& saved, const Copy& copy, const Table& now, bool undone);
+
+    std::unordered_map<int, Saved<PlayerRecord>> players_;
+    std::unordered_map<int, Saved<TeamRecord>> teams_;
     int differing_ = 0;
     std::int16_t playerCount_ = 0;
     std::int16_t teamCount_ = 0;
