@@ -39,11 +39,28 @@ std::string ToPath(const QString& path)
 // The scans of the files speak of the files as they lie on disk, the rest of
 // the check of the game as it is now. A file that can't be read is checked
 // as a save would write it.
+struct FilesToCheck {
+    std::string players;
+    std::string teams;
+};
+
+FilesToCheck BytesOnDisk(const Game& game)
+{
+    auto players = ReadWholeFile(game.PlayersPath);
+    auto teams = ReadWholeFile(game.TeamsPath);
+    return {players ? std::move(*players) : WritePlayers(game), teams ? std::move(*teams) : WriteTeams(game)};
+}
+
 std::vector<Problem> ProblemsNow(const Game& game)
 {
-    const auto players = ReadWholeFile(game.PlayersPath);
-    const auto teams = ReadWholeFile(game.TeamsPath);
-    return ProblemsOfGame(game, players ? *players : WritePlayers(game), teams ? *teams : WriteTeams(game));
+    const FilesToCheck files = BytesOnDisk(game);
+    return ProblemsOfGame(game, files.players, files.teams);
+}
+
+int Errors(const std::vector<Problem>& problems)
+{
+    return int(std::count_if(problems.begin(), problems.end(),
+                             [](const Problem& p) { return p.severity == Severity::Error; }));
 }
 
 template <typename Window>
@@ -56,13 +73,31 @@ void Raise(Window& window)
 
 }  // namespace
 
-GameTools::GameTools(GameDocument& document) : document_(document) {}
+GameTools::GameTools(GameDocument& document) : document_(document)
+{
+    recount_.setSingleShot(true);
+    recount_.setInterval(0);
+    connect(&recount_, &QTimer::timeout, this, &GameTools::CountErrors);
+}
 
 void GameTools::CheckFiles()
 {
-    const std::vector<Problem> problems = ProblemsNow(document_.Records());
-    emit errorsCounted(int(std::count_if(problems.begin(), problems.end(),
-                                         [](const Problem& p) { return p.severity == Severity::Error; })));
+    const FilesToCheck files = BytesOnDisk(document_.Records());
+    fileErrors_ = Errors(ProblemsInPlayersFile(files.players)) + Errors(ProblemsInTeamsFile(files.teams));
+    CountErrors();
+}
+
+void GameTools::Recount()
+{
+    recount_.start();
+}
+
+void GameTools::CountErrors()
+{
+    recount_.stop();
+    // The check of the whole game drops warnings only, so its errors are
+    // those of the files' bytes and those of the records.
+    emit errorsCounted(fileErrors_ + Errors(ProblemsInGame(document_.Records())));
 }
 
 void GameTools::FindPlayer(QWidget* owner)

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QTimer>
 
 #include "data/game.h"
 
@@ -23,6 +24,10 @@ public:
 
     // The game's files were just read or written: counts their errors.
     void CheckFiles();
+    // After a step: the errors are counted again as soon as the event loop
+    // is free, the files' own as last counted. Keystrokes that come in a
+    // row are counted once.
+    void Recount();
 
     void FindPlayer(QWidget* owner);
     void CheckGame(QWidget* owner);
@@ -46,11 +51,16 @@ signals:
     void gameImported();
 
 private:
+    void CountErrors();
     void ShowChanges(QWidget* owner, const QString& since, const Game& before);
     QString ChooseFolder(QWidget* owner, const QString& title);
     void ShowTable(QPointer<TableWindow>& window, bool players, QWidget* owner);
 
     GameDocument& document_;
+    // The errors only the bytes of the files show; they change when the
+    // files do, not with the steps.
+    int fileErrors_ = 0;
+    QTimer recount_;
     QPointer<ProblemsWindow> problemsWindow_;
     QPointer<ChangesWindow> changesWindow_;
     QPointer<TableWindow> playersTable_;

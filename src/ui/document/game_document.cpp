@@ -48,7 +48,7 @@ GameDocument::GameDocument(std::unique_ptr<Game> game, QObject* parent)
     : QObject(parent), game_(std::move(game))
 {
     ledger_.Reset(*game_);
-    connect(&history_, &QUndoStack::cleanChanged, this, &GameDocument::FollowModified);
+    saved_.Reset(*game_);
 }
 
 GameDocument::~GameDocument() = default;
@@ -63,6 +63,7 @@ GameLoad GameDocument::Load(const std::string& folder)
     SetGameDirectory(*game_, folder);
     const GameLoad load = LoadGame(*game_);
     ledger_.Reset(*game_);
+    saved_.Reset(*game_);
     history_.clear();
     FollowModified();
     emit gameReplaced();
@@ -76,18 +77,15 @@ bool GameDocument::MarkFolderOpen()
     return presence_->OthersHadItOpen();
 }
 
-FileResult GameDocument::Save(bool dropConfirmed)
+FileResult GameDocument::Save(bool dropConfirmed, OtherChanges otherChanges)
 {
     EndTyping();
-    const FileResult result = SaveGame(*game_, dropConfirmed);
-    if (result.ok())
-        history_.setClean();
+    const FileResult result = SaveGame(*game_, dropConfirmed, otherChanges);
+    if (result.ok()) {
+        saved_.Reset(*game_);
+        FollowModified();
+    }
     return result;
-}
-
-bool GameDocument::IsModified() const
-{
-    return !history_.isClean();
 }
 
 void GameDocument::FollowModified()
@@ -161,7 +159,7 @@ void GameDocument::Change(const QString& text, StepPlace place, const std::funct
 
 void GameDocument::Push(RecordChange change, const QString& text, StepPlace place, int typingSession)
 {
-    Announce(change);
+    Announce(change, false);
     history_.push(new RecordStep([this](const RecordChange& step, bool undo,
                                         StepPlace at) { Revisit(step, undo, at); },
                                  std::move(change), place, text, typingSession));
@@ -186,12 +184,14 @@ void GameDocument::Revisit(const RecordChange& change, bool undo, StepPlace plac
     else
         change.Redo(*game_);
     ledger_.Follow(*game_, change);
-    Announce(change);
+    Announce(change, undo);
     emit stepRevisited(undo && place.replaced ? StepPlace{place.team, place.replaced} : place);
 }
 
-void GameDocument::Announce(const RecordChange& change)
+void GameDocument::Announce(const RecordChange& change, bool undone)
 {
+    saved_.Follow(*game_, change, undone);
+    FollowModified();
     for (const RecordChange::PlayerCopy& copy : change.players)
         emit playerChanged(copy.number);
     for (const RecordChange::TeamCopy& copy : change.teams)

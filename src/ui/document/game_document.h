@@ -14,6 +14,8 @@
 #include "data/game.h"
 #include "data/load_game.h"
 #include "data/record_changes.h"
+#include "data/save.h"
+#include "document/saved_records.h"
 #include "forms/typed_value.h"
 
 class FolderPresence;
@@ -49,11 +51,13 @@ public:
     // true when another editor has it open too.
     bool MarkFolderOpen();
     // Writes both files as one pair; `dropConfirmed`: the user agreed to lose
-    // what the load could not keep. A save that works makes the game as it
-    // is now the saved state.
-    FileResult Save(bool dropConfirmed);
-    // Whether the game differs from the files as last loaded or saved.
-    bool IsModified() const;
+    // what the load could not keep; `otherChanges`: what becomes of files
+    // another program saved meanwhile. A save that works makes the game as
+    // it is now the saved state.
+    FileResult Save(bool dropConfirmed, OtherChanges otherChanges = OtherChanges::Refuse);
+    // Whether the records differ from the files as last loaded or saved: an
+    // edit typed back to what was there is no change.
+    bool IsModified() const { return saved_.Differ(); }
 
     // A value typed or picked in the box of a field: the record follows at
     // once. A value the field cannot take puts back what the field held when
@@ -100,13 +104,15 @@ private:
     void Push(RecordChange change, const QString& text, StepPlace place, int typingSession);
     // An undo or redo of a step: the records go back or forward.
     void Revisit(const RecordChange& change, bool undo, StepPlace place);
-    void Announce(const RecordChange& change);
+    // Says what a step changed; `undone`: the step was taken back.
+    void Announce(const RecordChange& change, bool undone);
     void FollowModified();
 
     std::unique_ptr<Game> game_;
     RecordLedger ledger_;
     QUndoStack history_;
     std::unique_ptr<FolderPresence> presence_;
+    SavedRecords saved_;
     std::unique_ptr<OpenEdit> typing_;
     std::unique_ptr<OpenEdit> lastTyping_;   // the box typed in before, once left
     int sessions_ = 0;

@@ -23,6 +23,7 @@
 #include "forms/fitted_layout.h"
 #include "forms/game_text.h"
 #include "forms/player_column.h"
+#include "mainwindow/changed_files_bar.h"
 #include "mainwindow/edit_menu.h"
 #include "mainwindow/team_column.h"
 #include "options/artwork.h"
@@ -81,6 +82,9 @@ MainWindow::MainWindow(GameDocument& document, GameFiles& files, GameTools& tool
     problemsBar_ = new ProblemsBar(this);
     addToolBar(Qt::TopToolBarArea, problemsBar_);
     problemsBar_->hide();
+    addToolBarBreak(Qt::TopToolBarArea);
+    changedFilesBar_ = new ChangedFilesBar(this);
+    addToolBar(Qt::TopToolBarArea, changedFilesBar_);
     statusBar()->setSizeGripEnabled(false);
     SetTabOrder();
     ConnectHandlers();
@@ -254,6 +258,9 @@ void MainWindow::ConnectHandlers()
 
     connect(problemsBar_, &ProblemsBar::showProblemsRequested, this, [this] { tools_.CheckGame(this); });
     connect(&tools_, &GameTools::errorsCounted, problemsBar_, &ProblemsBar::SetErrorCount);
+    connect(&files_, &GameFiles::changedElsewhere, changedFilesBar_, &ChangedFilesBar::setVisible);
+    connect(changedFilesBar_, &ChangedFilesBar::reloadRequested, &files_, &GameFiles::ReloadTheirs);
+    connect(changedFilesBar_, &ChangedFilesBar::keepMineRequested, &files_, &GameFiles::KeepMine);
     connect(&tools_, &GameTools::playerChosen, this, &MainWindow::GoToPlayer);
     connect(&tools_, &GameTools::teamChosen, this, &MainWindow::GoToTeam);
     connect(&tools_, &GameTools::gameImported, this, &MainWindow::ShowRecordsAgain);

@@ -4,6 +4,7 @@
 #include <QString>
 #include <optional>
 
+class ChangedFilesBar;
 class ChoiceList;
 class ClickablePicture;
 class FittedLayout;
@@ -131,6 +132,7 @@ private:
 
     PlayerColumn* playerColumn_ = nullptr;
     ProblemsBar* problemsBar_ = nullptr;
+    ChangedFilesBar* changedFilesBar_ = nullptr;
 
     // The shown player and team, by number. The team is the one its record's
     // own number names; it is set once a team has been shown.

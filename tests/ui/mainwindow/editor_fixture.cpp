@@ -63,6 +63,7 @@ void EditorTest::Open(GameBuilder built)
     ASSERT_TRUE(editor->Start());
     main->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(main));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return editor->Started(); }, 2000));
 }
 
 void EditorTest::MakeEditor(const SettingPlaces& places)

@@ -141,12 +141,18 @@ TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
     QTest::keyClick(&table, Qt::Key_Return);  // players.dat 5: a skill out of range
     EXPECT_THAT(Place(), ElementsAre("Australia", "Bayside", "E Ellery", "Ellery"));
 
-    // Once the game is put right and saved, the bar goes.
+    // The bar follows every step, and goes once the game is put right.
+    const auto shown = [&bar](bool visible) {
+        return QTest::qWaitFor([&] { return bar.isVisible() == visible; }, 2000);
+    };
     Retype("batSkill", "50");
-    Document().Change("fix", {}, [](Game& fixed) {
-        fixed.Teams[2].squad[3] = 0;
-        fixed.Teams[3].squad[2] = 0;
-    });
+    Document().Change("fix", {}, [](Game& fixed) { fixed.Teams[2].squad[3] = 0; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.message->text().contains("1 error "); }, 2000));
+    Document().Change("fix", {}, [](Game& fixed) { fixed.Teams[3].squad[2] = 0; });
+    EXPECT_TRUE(shown(false));
+    Document().Undo();
+    EXPECT_TRUE(shown(true));
+    Document().Redo();
     Find<QAction>(*main, "saveAction").trigger();
     EXPECT_FALSE(bar.isVisible());
     Trigger("checkGameAction");
