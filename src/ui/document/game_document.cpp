@@ -82,6 +82,9 @@ FileResult GameDocument::Save(bool dropConfirmed, OtherChanges otherChanges)
     EndTyping();
     const FileResult result = SaveGame(*game_, dropConfirmed, otherChanges);
     if (result.ok()) {
+        // Typing on in the box of the saved step starts a step of its own,
+        // so the saved state stays one undo away.
+        lastTyping_.reset();
         saved_.Reset(*game_);
         FollowModified();
     }
