@@ -71,6 +71,7 @@ TEST_F(ExportImport, TheSampleAndWindowsNamesComeBackByteForByte)
 
 // Columns of players.csv and teams.csv.
 constexpr int SurnameColumn = 2;
+constexpr int HomeCountryNameColumn = 7;
 constexpr int BatSkillColumn = 13;
 constexpr int ReputationColumn = 5;
 constexpr int Squad1Column = 8;
@@ -140,6 +141,11 @@ TEST_F(Import, AnyWrongRowRefusesTheWholeImportAndIsListedByItsLine)
          {"players.csv:3"}, "batSkill \"40000\""},
         {[](Lines& p, Lines&) { Set(p[1], BatSkillColumn, "+-5"); }, {"players.csv:2"}, "batSkill \"+-5\""},
         {[](Lines& p, Lines&) { Set(p[1], SurnameColumn, "Tab\tHere"); }, {"players.csv:2"}, "control character"},
+        {[](Lines& p, Lines&) { Set(p[2], SurnameColumn, "\"Ar\"low"); }, {"players.csv:3"},
+         "text after the closing double quote"},
+        // The word changed without its number: player 1 stays English.
+        {[](Lines& p, Lines&) { Set(p[1], HomeCountryNameColumn, "Australia"); }, {"players.csv:2"},
+         "homeCountryName \"Australia\" does not match homeCountry 2 (England)"},
         {[](Lines& p, Lines& t) {
              AddRow(p, 3, "7");  // skips number 4
              AddRow(p, 3, "2001");
