@@ -140,9 +140,10 @@ TEST_F(UnsavedWork, AnEditJustTypedReachesTheRecordsBeforeAnyCommand)
     }
 }
 
-// The close box asks only when something is unsaved; the title's mark says
-// when that is so, also after an undo back to the saved state.
-TEST_F(UnsavedWork, TheCloseBoxAsksWhenThereAreUnsavedChanges)
+// The close box asks only when something is unsaved (File > Exit always
+// asks); the title's mark says when that is so, also after an undo back to
+// the saved state.
+TEST_F(UnsavedWork, LeavingAsksWhenThereAreUnsavedChanges)
 {
     const struct {
         bool edited;
@@ -155,26 +156,36 @@ TEST_F(UnsavedWork, TheCloseBoxAsksWhenThereAreUnsavedChanges)
         {true, QMessageBox::No, true, false},
         {true, QMessageBox::Yes, true, true},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.edited << " " << c.answer);
-        OpenStill();
-        const std::string before = Files();
-        EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
-        if (c.edited) {
-            Retype("team.wealth", "700");
-            EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")*");
+    for (const bool throughMenu : {false, true}) {
+        for (const auto& c : cases) {
+            if (throughMenu && !c.edited)
+                continue;
+            SCOPED_TRACE(testing::Message() << throughMenu << " " << c.edited << " " << c.answer);
+            OpenStill();
+            const std::string before = Files();
+            EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
+            if (c.edited) {
+                Retype("team.wealth", "700");
+                EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")*");
+            }
+            Answer({c.answer, QMessageBox::Ok});
+            if (throughMenu)
+                Find<QAction>(*main, "exitAction").trigger();
+            else
+                main->close();
+            EXPECT_EQ(main->isVisible(), !c.closes);
+            ASSERT_EQ(ShownMessages().size(), c.edited ? 1u + c.saves : 0u);
+            if (c.edited) {
+                EXPECT_EQ(ShownMessages()[0].text, SaveQuestion);
+                EXPECT_EQ(ShownMessages()[0].title, "Saving..");
+                EXPECT_EQ(Look(ShownMessages()[0]),
+                          Look(QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel));
+            }
+            EXPECT_EQ(Files() == before, !c.saves);
+            if (c.saves) {
+                EXPECT_EQ(OnDisk()->Teams[1].wealth, 700);
+            }
         }
-        Answer({c.answer, QMessageBox::Ok});
-        main->close();
-        EXPECT_EQ(main->isVisible(), !c.closes);
-        ASSERT_EQ(ShownMessages().empty(), !c.edited);
-        if (c.edited) {
-            EXPECT_EQ(ShownMessages()[0].text, SaveQuestion);
-            EXPECT_EQ(ShownMessages()[0].title, "Saving..");
-            EXPECT_EQ(Look(ShownMessages()[0]),
-                      Look(QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel));
-        }
-        EXPECT_EQ(Files() == before, !c.saves);
     }
 
     // Undoing back to the saved state takes the mark away; a save keeps the
