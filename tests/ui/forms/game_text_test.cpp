@@ -11,17 +11,11 @@ TEST(GameText, RoundTripsEveryByteOfTheCodePageAndNamesOnlyWhatItCanHold)
     EXPECT_EQ(FromGame("Zo\xEB\x80"), QString::fromUtf8("Zoë€"));
     EXPECT_EQ(ToGame(QString::fromUtf8("Łukasz")), "ukasz");
 
-    for (const char* name : {"Smith", "Zoë", "Šimonek", "O'Neil", "Q\""})
+    // What the files cannot carry is refused in the core's tests; here, what
+    // the code page cannot: "ŁQ" would be shortened to a storable "Q", but the
+    // box must not let the user believe the whole name was kept.
+    for (const char* name : {"Zoë", "Šimonek"})
         EXPECT_EQ(NameRefusalOf(QString::fromUtf8(name)), std::nullopt) << name;
-    // "ŁQ" would be shortened to a storable "Q", but the box must not let
-    // the user believe the whole name was kept.
-    const std::pair<const char*, const char*> refused[] = {
-        {"O,Neil", "A name cannot hold a comma"},
-        {"\"Q", "A name cannot begin with a double quote"},
-        {" \"Q", "A name cannot begin with a blank"},
-        {"ŁQ", "A name cannot hold the character Ł"},
-    };
-    for (const auto& [name, why] : refused) {
-        EXPECT_EQ(NameRefusalOf(QString::fromUtf8(name)).value_or(QString()), QString::fromUtf8(why)) << name;
-    }
+    EXPECT_EQ(NameRefusalOf(QString::fromUtf8("ŁQ")).value_or(QString()), QString::fromUtf8("A name cannot hold the character Ł"));
+    EXPECT_EQ(NameRefusalOf(QStringLiteral("O,Neil")).value_or(QString()), "A name cannot hold a comma");
 }
