@@ -53,9 +53,9 @@ TEST_F(ExportImport, TheSampleAndWindowsNamesComeBackByteForByte)
     EXPECT_FALSE(fs::exists(sample / "players.dat.bak"));
     ExpectRoundTrip(sample, sampleCsv);
 
-    // é, €, the undefined 0x81, Ÿ, a double quote and a "#" inside a name, a
-    // blank at the end of a surname, no initials.
-    const Lines players = Cat(With(PlayerRecordLines(1, "Ch\xE9ron \x80", 1), InitialsLine, "\x81\x9F#"),
+    // é, a no-break space, € and †, the undefined 0x81, Ÿ, a double quote and
+    // a "#" inside a name, a blank at the end of a surname, no initials.
+    const Lines players = Cat(With(PlayerRecordLines(1, "Ch\xE9ron\xA0\x80\x86", 1), InitialsLine, "\x81\x9F#"),
                               With(PlayerRecordLines(2, "Mac\"Dee#Two ", 1), InitialsLine, "#"),
                               PlayerRecordLines(3, "O'Rourke"));
     const Lines teams = With(With(TeamRecordLines("Z\xFCrich Zebras", 1, {1, 2}), AbbreviationLine, "Z\xDF#"),
@@ -63,7 +63,7 @@ TEST_F(ExportImport, TheSampleAndWindowsNamesComeBackByteForByte)
     const fs::path game = GameOf(players, teams);
     const fs::path csv = Export(game);
     const std::string playersCsv = FileBytes(csv / "players.csv");
-    EXPECT_THAT(playersCsv, HasSubstr("1,\xC2\x81\xC5\xB8,Ch\xC3\xA9ron \xE2\x82\xAC,"));
+    EXPECT_THAT(playersCsv, HasSubstr("1,\xC2\x81\xC5\xB8,Ch\xC3\xA9ron\xC2\xA0\xE2\x82\xAC\xE2\x80\xA0,"));
     EXPECT_THAT(playersCsv, HasSubstr("2,,\"Mac\"\"Dee#Two \","));
     EXPECT_THAT(FileBytes(csv / "teams.csv"), HasSubstr("1,Z\xC3\xBCrich Zebras,Z\xC3\x9F,2,England,-7,"));
     ExpectRoundTrip(game, csv);
