@@ -26,20 +26,20 @@ protected:
             }
             return Join(lines);
         };
-        return GameFolder(scramble(FileBytes(game / "players.dat"), 21, {0, 1}),
-                          scramble(FileBytes(game / "teams.dat"), 30, {0, 7, 8, 9}));
+        return GameFolder(scramble(Bytes(game / "players.dat"), 21, {0, 1}),
+                          scramble(Bytes(game / "teams.dat"), 30, {0, 7, 8, 9}));
     }
 
     // Imports the export of `game` into a scrambled copy of it, which must come out byte for byte the same.
     void ExpectRoundTrip(const fs::path& game, const fs::path& csv)
     {
         const fs::path into = ScrambledCopy(game);
-        const std::string scrambled = FileBytes(into / "players.dat");
+        const std::string scrambled = Bytes(into / "players.dat");
         const ToolRun imported = RunTool({"import", into, csv});
         ASSERT_EQ(imported.code, 0) << imported.err;
-        EXPECT_EQ(FileBytes(into / "players.dat"), FileBytes(game / "players.dat"));
-        EXPECT_EQ(FileBytes(into / "teams.dat"), FileBytes(game / "teams.dat"));
-        EXPECT_EQ(FileBytes(into / "players.dat.bak"), scrambled);
+        EXPECT_EQ(Bytes(into / "players.dat"), Bytes(game / "players.dat"));
+        EXPECT_EQ(Bytes(into / "teams.dat"), Bytes(game / "teams.dat"));
+        EXPECT_EQ(Bytes(into / "players.dat.bak"), scrambled);
     }
 };
 
@@ -62,10 +62,10 @@ TEST_F(ExportImport, TheSampleAndWindowsNamesComeBackByteForByte)
                              ReputationLine, "-7");
     const fs::path game = GameOf(players, teams);
     const fs::path csv = Export(game);
-    const std::string playersCsv = FileBytes(csv / "players.csv");
+    const std::string playersCsv = Bytes(csv / "players.csv");
     EXPECT_THAT(playersCsv, HasSubstr("1,\xC2\x81\xC5\xB8,Ch\xC3\xA9ron\xC2\xA0\xE2\x82\xAC\xE2\x80\xA0,"));
     EXPECT_THAT(playersCsv, HasSubstr("2,,\"Mac\"\"Dee#Two \","));
-    EXPECT_THAT(FileBytes(csv / "teams.csv"), HasSubstr("1,Z\xC3\xBCrich Zebras,Z\xC3\x9F,2,England,-7,"));
+    EXPECT_THAT(Bytes(csv / "teams.csv"), HasSubstr("1,Z\xC3\xBCrich Zebras,Z\xC3\x9F,2,England,-7,"));
     ExpectRoundTrip(game, csv);
 }
 
@@ -101,8 +101,8 @@ protected:
     {
         game_ = GameOf(Players({1, 1, 0}), Cat(TeamRecordLines("Ashby", 1, {1, 2}), TeamRecordLines("Bexley", 2)));
         csv_ = Export(game_);
-        exported_ = {SplitLines(FileBytes(csv_ / "players.csv")), SplitLines(FileBytes(csv_ / "teams.csv"))};
-        dat_ = {FileBytes(game_ / "players.dat"), FileBytes(game_ / "teams.dat")};
+        exported_ = {SplitLines(Bytes(csv_ / "players.csv")), SplitLines(Bytes(csv_ / "teams.csv"))};
+        dat_ = {Bytes(game_ / "players.dat"), Bytes(game_ / "teams.dat")};
     }
 
     // Imports the exported rows once `edit` has changed them.
@@ -117,8 +117,8 @@ protected:
 
     void ExpectGameUntouched() const
     {
-        EXPECT_EQ(FileBytes(game_ / "players.dat"), dat_.first);
-        EXPECT_EQ(FileBytes(game_ / "teams.dat"), dat_.second);
+        EXPECT_EQ(Bytes(game_ / "players.dat"), dat_.first);
+        EXPECT_EQ(Bytes(game_ / "teams.dat"), dat_.second);
         EXPECT_FALSE(fs::exists(game_ / "players.dat.bak"));
     }
 
@@ -197,7 +197,7 @@ TEST_F(Import, NewPlayersTakeTheNextNumbersAndFollowTheirSquads)
                              "player 3 (R J Corvane): teamNumber 0 -> 2\n",
                              "player 4 (R J Dunmore) joined team 1 (Ashby)\n"})
         EXPECT_THAT(run.out, HasSubstr(line));
-    EXPECT_EQ(FileBytes(game_ / "teams.dat.bak"), dat_.second);
+    EXPECT_EQ(Bytes(game_ / "teams.dat.bak"), dat_.second);
     EXPECT_EQ(RunTool({"check", game_}).out, "0 errors, 0 warnings\n");
     EXPECT_THAT(RunTool({"info", game_}).out, HasSubstr("PlayerCount=5\nTeamCount=4\n"));
 }
