@@ -141,6 +141,8 @@ TEST_F(Import, AnyWrongRowRefusesTheWholeImportAndIsListedByItsLine)
          {"players.csv:3"}, "batSkill \"40000\""},
         {[](Lines& p, Lines&) { Set(p[1], BatSkillColumn, "+-5"); }, {"players.csv:2"}, "batSkill \"+-5\""},
         {[](Lines& p, Lines&) { Set(p[1], SurnameColumn, "Tab\tHere"); }, {"players.csv:2"}, "control character"},
+        // "A" written in two bytes, which UTF-8 forbids.
+        {[](Lines& p, Lines&) { Set(p[1], SurnameColumn, "\xC1\x81rlow"); }, {"players.csv:2"}, "is not UTF-8 text"},
         {[](Lines& p, Lines&) { Set(p[2], SurnameColumn, "\"Ar\"low"); }, {"players.csv:3"},
          "text after the closing double quote"},
         // The word changed without its number: player 1 stays English.
