@@ -184,14 +184,18 @@ TEST_F(Import, AnyWrongRowRefusesTheWholeImportAndIsListedByItsLine)
 
 TEST_F(Import, NewPlayersTakeTheNextNumbersAndFollowTheirSquads)
 {
-    const ToolRun run = ImportEdited([](Lines& p, Lines& t) {
+    const Edit edit = [](Lines& p, Lines& t) {
         Set(AddRow(p, 3, ""), SurnameColumn, "Dunmore");
         Set(AddRow(p, 3, "5"), SurnameColumn, "Elkin");
         // Team 1 goes from 1, 2 to 1, 4; team 2 from nobody to 3, 2.
         Set(t[1], Squad1Column + 1, "4");
         Set(t[2], Squad1Column, "3");
         Set(t[2], Squad1Column + 1, "2");
-    });
+    };
+    const ToolRun dry = ImportEdited(edit, "--dry-run");
+    EXPECT_THAT(dry.out, HasSubstr("player 4 (R J Dunmore) added\n"));
+    ExpectGameUntouched();
+    const ToolRun run = ImportEdited(edit);
     ASSERT_EQ(run.code, 0) << run.err;
     for (const char* line : {"player 4 (R J Dunmore) added\n", "player 5 (R J Elkin) added\n",
                              "player 2 (R J Brenick): teamNumber 1 -> 2\n",
