@@ -89,6 +89,10 @@ TEST_F(HostileFiles, WhatTheLoadCouldNotKeepIsSavedAwayOnlyWhenForced)
         teams = Cat(std::move(teams), TeamRecordLines("Side", i));
     const fs::path dir = GameOf(PlayerRecordLines(1), teams);
     const std::string original = Bytes(dir / "teams.dat");
+    const fs::path csv = Export(dir);
+    std::string rows = Bytes(csv / "players.csv");
+    WriteBytes(csv / "players.csv", rows.replace(rows.find("Mardle"), 6, "Marble"));
+    EXPECT_EQ(RunTool({"import", dir, csv}).code, 1);
 
     const ToolRun refused = RunTool({"normalize", dir});
     EXPECT_EQ(refused.code, 1);
