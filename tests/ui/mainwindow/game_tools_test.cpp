@@ -224,8 +224,6 @@ TEST_F(GameToolsTest, AFaultyImportChangesNothingAndAGoodOneChangesOnlyTheOpenGa
     Trigger("importCsvAction");
     EXPECT_EQ(game->Players[5].surname, "Ellerby");
     EXPECT_EQ(game->Teams[3].wealth, 99);
-    // Nothing in the window writes the old values back.
-    EXPECT_EQ(game->Players[5].surname, "Ellerby");
     EXPECT_EQ(ReadGameFiles(ToSystemPath(GameFolder()))->Players[5].surname, "Ellery") << "nothing is saved";
 
     // The whole import is one step of the history.

@@ -304,8 +304,6 @@ TEST_F(UnsavedWork, AGameFolderThatCannotBeOpenedAtStartIsToldAndOptionsOffered)
         QMessageBox::StandardButton answer;
     } cases[] = {
         {missing, "The game folder " + QDir::toNativeSeparators(missing) + " does not exist.", QMessageBox::No},
-        {missing, "The game folder " + QDir::toNativeSeparators(missing) + " does not exist.", QMessageBox::Yes},
-        {refusing, "players.dat was not read: it is a folder, not a file", QMessageBox::No},
         {refusing, "players.dat was not read: it is a folder, not a file", QMessageBox::Yes},
     };
     for (const auto& c : cases) {
