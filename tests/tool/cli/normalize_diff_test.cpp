@@ -35,6 +35,13 @@ TEST_F(Normalize, WritesWhatTheEditorsSaveWritesAndNeverHalfAGame)
     EXPECT_EQ(Bytes(game / "players.dat.bak"), players);
     EXPECT_EQ(Bytes(game / "teams.dat.bak"), teams);
 
+    // A name the files cannot carry is refused before anything is written.
+    const fs::path tab = GameOf(PlayerRecordLines(1, "Mar\tdle"), TeamRecordLines("Ashby", 1));
+    const ToolRun refused = RunTool({"normalize", tab});
+    EXPECT_EQ(refused.code, 1);
+    EXPECT_THAT(refused.err, HasSubstr("players.dat: "));
+    EXPECT_FALSE(fs::exists(tab / "players.dat.bak"));
+
     // A folder with only players.dat is read but never written.
     const fs::path half = NewFolder("half");
     WriteBytes(half / "players.dat", players);
