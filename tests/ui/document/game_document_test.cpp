@@ -72,8 +72,7 @@ TEST_F(Document, TypingIsOneStepPerBoxAndTypingBackLeavesNone)
     EXPECT_EQ(Steps(), 1);
     EXPECT_EQ(UndoText(), "edit of Bat skill for A Neskerly");
 
-    // The focus moves on to the team's Wealth: a step of its own.
-    document.EndTyping();
+    // The team's Wealth is a step of its own, even before Bat skill was left.
     document.Type(1, Wealth, std::int16_t(900), {1, 1});
     EXPECT_EQ(Steps(), 2);
     EXPECT_EQ(UndoText(), "edit of Wealth for Perth Pelicans");

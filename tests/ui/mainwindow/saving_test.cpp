@@ -1,5 +1,5 @@
-// Saving with the shortcut, leaving with and without saving, a save that
-// the disk refuses, and files another program saved meanwhile.
+// Saving with the shortcut from any control, a save that the disk refuses,
+// also on the way out, and files another program saved meanwhile.
 
 #include <QFile>
 
@@ -15,7 +15,6 @@
 namespace {
 
 const QString Saved = QStringLiteral("Updated Player and Team data successfully");
-const QString SaveQuestion = QStringLiteral("Do you want to update the files teams.dat and players.dat?");
 
 std::vector<QString> MessageTexts()
 {
@@ -89,29 +88,6 @@ TEST_F(Saving, CtrlSSavesWhicheverControlHasTheFocus)
     EXPECT_EQ(Look(ShownMessages()[0]), Look(QMessageBox::Information));
     EXPECT_EQ(BoxText("batSkill"), "58");   // nothing in the window moved
 }
-
-// The answer to the question on leaving, whether the window closes and whether it saves.
-class ExitAnswer : public Saving,
-                   public ::testing::WithParamInterface<std::tuple<QMessageBox::StandardButton, bool, bool>> {};
-
-TEST_P(ExitAnswer, DoesWhatItSays)
-{
-    const auto [answer, closes, saves] = GetParam();
-    Answer({answer, QMessageBox::Ok});
-    Find<QAction>(*main, "exitAction").trigger();
-    ASSERT_EQ(ShownMessages().size(), saves ? 2u : 1u);
-    EXPECT_EQ(ShownMessages()[0].text, SaveQuestion);
-    EXPECT_EQ(ShownMessages()[0].title, "Saving..");
-    EXPECT_EQ(Look(ShownMessages()[0]),
-              Look(QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel));
-    EXPECT_EQ(main->isVisible(), !closes);
-    EXPECT_TRUE(saves ? EditsSaved() : FilesUnchanged());
-}
-
-INSTANTIATE_TEST_SUITE_P(Saving, ExitAnswer,
-                         ::testing::Values(std::tuple(QMessageBox::Cancel, false, false),
-                                           std::tuple(QMessageBox::No, true, false),
-                                           std::tuple(QMessageBox::Yes, true, true)));
 
 TEST_F(Saving, ASaveTheDiskRefusesIsToldAndExitStaysOpen)
 {
