@@ -320,7 +320,7 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
         EXPECT_EQ(main->statusBar()->currentMessage(), t.statusLeft) << t.text;
     }
     EXPECT_EQ(game->Players[4].batSkill, 44);
-    EXPECT_EQ(Undo().text(), "&Undo edit of Bat skill for K Ashgrove-Smith") << "no step of Wealth";
+    EXPECT_EQ(Undo().text(), "&Undo edit of Bat skill for K Ashgrove") << "no step of Wealth";
     // Ctrl+S with the box still in use: the files never see the text.
     Retype("team.wealth", "1234567");
     Find<QAction>(*main, "saveAction").trigger();
