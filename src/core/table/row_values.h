@@ -5,16 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "data/dates.h"
 #include "data/game.h"
 #include "table/table_columns.h"
-
-// A day of the calendar: "today" for the ages, handed in so that a result
-// does not depend on the clock.
-struct CalendarDay {
-    int year = 0;
-    int month = 0;
-    int day = 0;
-};
 
 // The values the table rows show, for one pass over them: the clubs are
 // found in one walk over the squads when this is made, so make it afresh
