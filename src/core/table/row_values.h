@@ -19,7 +19,8 @@ public:
     const Game& GameShown() const { return game_; }
 
     // The number `column` holds for record `number` (a code as its code, the
-    // club as its team number, 0 for none). Nothing for a name field, an age
+    // club as its team number, 0 for none, the birth date as its DayOrder).
+    // Nothing for a name field, a birth date that does not exist, an age
     // whose birth date cannot be, the average of an empty squad, or a record
     // number outside the table.
     std::optional<double> Number(const TableColumn& column, int number) const;
