@@ -17,7 +17,9 @@
 // Values are held to what the records and files can carry, as in the main
 // window: a number is a whole number from -32768 to 32767, a coded field
 // takes a word of its list (letter case ignored) or one of its codes, a name
-// must be one the files can store, and a surname may not be empty. A value
+// must be one the files can store, a surname may not be empty, and birthDate
+// takes day/month/year ("14/3/1990") naming a day that exists, as a new
+// player's date of birth must, and sets the three fields of the date. A value
 // outside a skill's range in the game is taken, and `note` says so. Only the
 // fields a window shows can be set (TableColumn::Editable).
 //

@@ -6,6 +6,7 @@
 #include "data/names.h"
 #include "data/text_lines.h"
 #include "data/utf8.h"
+#include "newplayer/new_player_check.h"
 
 namespace {
 
@@ -51,10 +52,11 @@ int Result(const FieldValue& value, const Record& record)
     return value.relative ? record.*field.number + value.number : value.number;
 }
 
+// Only a relative change can leave the 16 bits; an absolute value was read into them.
 template <class Record>
 std::string Problem(const FieldValue& value, const Record& record)
 {
-    if (value.column->IsName())
+    if (!value.relative)
         return {};
     const int result = Result(value, record);
     if (result >= Lowest && result <= Highest)
@@ -66,6 +68,14 @@ std::string Problem(const FieldValue& value, const Record& record)
 template <class Record>
 void Put(const FieldValue& value, Record& record)
 {
+    if constexpr (std::is_same_v<Record, PlayerRecord>) {
+        if (value.column->source == ColumnSource::BirthDate) {
+            record.birthDay = static_cast<std::int16_t>(value.date.day);
+            record.birthMonth = static_cast<std::int16_t>(value.date.month);
+            record.birthYear = static_cast<std::int16_t>(value.date.year);
+            return;
+        }
+    }
     const Field<Record>& field = ColumnField<Record>(*value.column);
     if (field.text)
         record.*field.text = value.text;
@@ -76,6 +86,8 @@ void Put(const FieldValue& value, Record& record)
 template <class Record>
 bool IsOutside(const TableColumn& column, const Record& record)
 {
+    if (column.source != ColumnSource::Field)
+        return false;
     const Field<Record>& field = ColumnField<Record>(column);
     if (!field.range)
         return false;
@@ -96,6 +108,12 @@ FieldValue ReadFieldValue(const TableColumn& column, std::string_view typed, boo
             value.refusal = name + " " + Quoted(typed) + " cannot be saved because " + *problem;
         else if (column.playerField && column.playerField->text == &PlayerRecord::surname && TrimBlanks(typed).empty())
             value.refusal = "a surname cannot be empty: the search would end its listing there";
+        return value;
+    }
+    if (column.source == ColumnSource::BirthDate) {
+        BirthDateEntry date = ReadBirthDate(typed);
+        value.date = date.date;
+        value.refusal = std::move(date.fault).value_or("");
         return value;
     }
     std::string text = TrimBlanks(typed);

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "data/dates.h"
 #include "data/records.h"
 #include "table/table_columns.h"
 
@@ -11,6 +12,7 @@
 struct FieldValue {
     const TableColumn* column = nullptr;
     std::string text;       // for a name field
+    CalendarDay date;       // for the birth date
     int number = 0;         // a number, a code, or the step of a relative change
     bool relative = false;  // "+2", "-3": added to what each record holds
     std::string refusal;    // why the field cannot take it; empty when it can

@@ -127,8 +127,8 @@ private:
                 "is empty, and an empty surname ends a search listing in the editor");
         if (!DateExists(player.birthDay, player.birthMonth, player.birthYear))
             Add(Severity::Warning, PlayersFile, number, "birthDay",
-                "the birth date " + std::to_string(player.birthDay) + "/" + std::to_string(player.birthMonth) + "/" +
-                    std::to_string(player.birthYear) + " cannot be (day/month/year)");
+                "the birth date " + DateText(player.birthDay, player.birthMonth, player.birthYear) +
+                    " cannot be (day/month/year)");
     }
 
     void CheckTeamNumber(int number, const PlayerRecord& player)

@@ -17,3 +17,13 @@ bool DateExists(int day, int month, int year)
     const int last = daysIn[month - 1] + (month == 2 && IsLeapYear(year) ? 1 : 0);
     return day <= last;
 }
+
+std::string DateText(int day, int month, int year)
+{
+    return std::to_string(day) + "/" + std::to_string(month) + "/" + std::to_string(year);
+}
+
+int DayOrder(const CalendarDay& date)
+{
+    return (date.year * 100 + date.month) * 100 + date.day;
+}

@@ -7,6 +7,7 @@
 #include "data/text_number.h"
 #include "data/utf8.h"
 #include "filter/filter_tokens.h"
+#include "newplayer/new_player_check.h"
 
 namespace {
 
@@ -170,6 +171,14 @@ private:
         if (term.column->IsName()) {
             term.test = FilterTerm::Test::Text;
             term.key = value.key;
+            return std::nullopt;
+        }
+        if (term.column->source == ColumnSource::BirthDate) {
+            const BirthDateEntry date = ReadBirthDate(value.text);
+            if (date.fault)
+                return fault(*date.fault);
+            term.test = FilterTerm::Test::Number;
+            term.number = DayOrder(date.date);
             return std::nullopt;
         }
         if (number) {

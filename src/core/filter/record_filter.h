@@ -24,16 +24,18 @@
 //   club=none             club a team's name or number or "none", names are
 //   club=Perth Pelicans   compared as Find Player compares them. A value runs
 //   age<25                over as many words as make a word of its list or a
-//   surname="van Dyke"    name some record holds; any value can be quoted.
+//   birthDate<1/1/1990    name some record holds; a birth date is day/month/
+//   surname="van Dyke"    year and orders as the calendar does; any value
+//                         can be quoted.
 //   batSkill>40 potential>15 or age<20
 //                         terms side by side must all hold; "or" between
 //                         them means either side (side by side binds first).
 //
-// Players have the columns playerNumber, the fields, age and club; teams
-// teamNumber, the fields, squadSize and the squad's average of each skill
-// (averageBatSkill, ...). A record without a value for a column (an age whose
-// birth date cannot be, the average of an empty squad) passes no comparison
-// on it, != included.
+// Players have the columns playerNumber, the fields, birthDate, age and club;
+// teams teamNumber, the fields, squadSize and the squad's average of each
+// skill (averageBatSkill, ...). A record without a value for a column (a
+// birth date that does not exist, an age whose birth date cannot be, the
+// average of an empty squad) passes no comparison on it, != included.
 //
 // The text is Windows-1252, as the names in the records, so that its byte
 // offsets are the character offsets of the box it came from.

@@ -9,6 +9,7 @@
 #include "data/fields.h"
 #include "data/squad.h"
 #include "data/text_number.h"
+#include "data/utf8.h"
 
 namespace {
 
@@ -67,6 +68,16 @@ std::optional<std::string> DateFault(const NewPlayerEntries& entries)
            entries.birthMonth + "/" + entries.birthYear + " does not exist.";
 }
 
+// The three date boxes, each as any number box, then the day they name together.
+std::optional<std::string> DateEntriesFault(const NewPlayerEntries& entries)
+{
+    for (std::size_t i = 0; i < DateBoxCount; ++i) {
+        if (auto fault = BoxFault(entries, NumberBoxes[i]))
+            return fault;
+    }
+    return DateFault(entries);
+}
+
 // Fills the slot field by field over what it held: carriedValue and the
 // team are not among the entries, and a number that does not fit the game's
 // 16 bits leaves its field alone.
@@ -94,15 +105,33 @@ std::optional<std::string> FirstBadEntry(const NewPlayerEntries& entries)
 {
     if (auto fault = NameFault(entries))
         return fault;
-    for (std::size_t i = 0; i < NumberBoxes.size(); ++i) {
-        if (i == DateBoxCount) {
-            if (auto fault = DateFault(entries))
-                return fault;
-        }
+    if (auto fault = DateEntriesFault(entries))
+        return fault;
+    for (std::size_t i = DateBoxCount; i < NumberBoxes.size(); ++i) {
         if (auto fault = BoxFault(entries, NumberBoxes[i]))
             return fault;
     }
     return std::nullopt;
+}
+
+BirthDateEntry ReadBirthDate(std::string_view typed)
+{
+    // The parts go into the boxes they would be typed in; the messages quote them.
+    const std::string text = Utf8FromCp1252(typed);
+    NewPlayerEntries entries;
+    std::size_t start = 0;
+    for (std::size_t i = 0; i < DateBoxCount; ++i) {
+        const std::size_t slash = text.find('/', start);
+        if ((slash == std::string::npos) != (i + 1 == DateBoxCount))
+            return {{}, std::string(FieldOfBox(&PlayerRecord::birthDay).label) +
+                            " takes day/month/year, such as 14/3/1990, not \"" + text + "\"."};
+        entries.*NumberBoxes[i].box = text.substr(start, slash == std::string::npos ? slash : slash - start);
+        start = slash + 1;
+    }
+    if (auto fault = DateEntriesFault(entries))
+        return {{}, std::move(fault)};
+    const auto number = [&entries](std::size_t i) { return int(*TextAsNumber(entries.*NumberBoxes[i].box)); };
+    return {{number(2), number(1), number(0)}, std::nullopt};
 }
 
 bool CanAddNewPlayer(const Game& game)

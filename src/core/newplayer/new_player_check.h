@@ -1,10 +1,12 @@
 #pragma once
 
 #include <array>
-#include <optional>
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
+#include "data/dates.h"
 #include "data/game.h"
 
 // What the new-player window holds when OK is pressed. Texts are as typed
@@ -76,6 +78,16 @@ bool EntriesAreGood(const NewPlayerEntries& entries);
 // said for the person typing ("Bat skill must lie from 0 to 60, not 75.",
 // "Date of birth 31/2/1990 does not exist."); nothing when all are.
 std::optional<std::string> FirstBadEntry(const NewPlayerEntries& entries);
+
+// A date of birth typed in one box as day/month/year ("14/3/1990"), as the
+// tables take it, held to the rules of the window's three date boxes: each
+// part a number, together a day that exists. Either the day, or what is
+// wrong said as the window says it ("Date of birth 31/2/1990 does not exist.").
+struct BirthDateEntry {
+    CalendarDay date;
+    std::optional<std::string> fault;  // UTF-8
+};
+BirthDateEntry ReadBirthDate(std::string_view typed);
 
 // Whether the player table has a free number for one more player.
 bool CanAddNewPlayer(const Game& game);

@@ -20,6 +20,12 @@ std::optional<double> RowValues::Number(const TableColumn& column, int number) c
     case ColumnSource::Field:
         return column.playerField ? game_.Players[number].*column.playerField->number
                                   : game_.Teams[number].*column.teamField->number;
+    case ColumnSource::BirthDate: {
+        const PlayerRecord& player = game_.Players[number];
+        if (!DateExists(player.birthDay, player.birthMonth, player.birthYear))
+            return std::nullopt;
+        return DayOrder({player.birthYear, player.birthMonth, player.birthDay});
+    }
     case ColumnSource::Age:
         return AgeOn(game_.Players[number], today_.year, today_.month, today_.day);
     case ColumnSource::Club:

@@ -5,16 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "data/dates.h"
 #include "data/game.h"
 #include "table/table_columns.h"
-
-// A day of the calendar: "today" for the ages, handed in so that a result
-// does not depend on the clock.
-struct CalendarDay {
-    int year = 0;
-    int month = 0;
-    int day = 0;
-};
 
 // The values the table rows show, for one pass over them: the clubs are
 // found in one walk over the squads when this is made, so make it afresh
@@ -26,7 +19,8 @@ public:
     const Game& GameShown() const { return game_; }
 
     // The number `column` holds for record `number` (a code as its code, the
-    // club as its team number, 0 for none). Nothing for a name field, an age
+    // club as its team number, 0 for none, the birth date as its DayOrder).
+    // Nothing for a name field, a birth date that does not exist, an age
     // whose birth date cannot be, the average of an empty squad, or a record
     // number outside the table.
     std::optional<double> Number(const TableColumn& column, int number) const;

@@ -23,11 +23,20 @@ std::string AverageName(std::string_view skill)
     return name;
 }
 
+bool IsBirthDatePart(const PlayerField& field)
+{
+    return field.number == &PlayerRecord::birthDay || field.number == &PlayerRecord::birthMonth ||
+           field.number == &PlayerRecord::birthYear;
+}
+
 std::vector<TableColumn> MakePlayerColumns()
 {
     std::vector<TableColumn> columns{{RecordKind::Player, std::string(PlayerLayout.key), ColumnSource::Key}};
-    for (const PlayerField& field : PlayerFields)
+    for (const PlayerField& field : PlayerFields) {
+        if (field.number == &PlayerRecord::birthDay)
+            columns.push_back({RecordKind::Player, "birthDate", ColumnSource::BirthDate});
         columns.push_back({RecordKind::Player, std::string(field.name), ColumnSource::Field, &field});
+    }
     columns.push_back({RecordKind::Player, "age", ColumnSource::Age});
     columns.push_back({RecordKind::Player, "club", ColumnSource::Club});
     return columns;
@@ -52,8 +61,13 @@ std::vector<TableColumn> MakeTeamColumns()
 bool TableColumn::Editable() const
 {
     if (source != ColumnSource::Field)
-        return false;
+        return source == ColumnSource::BirthDate;
     return !(playerField ? playerField->label : teamField->label).empty();
+}
+
+bool TableColumn::ShownAtFirst() const
+{
+    return source != ColumnSource::Field || !playerField || !IsBirthDatePart(*playerField);
 }
 
 bool TableColumn::IsName() const

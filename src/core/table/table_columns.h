@@ -17,6 +17,7 @@ enum class RecordKind { Player, Team };
 enum class ColumnSource {
     Key,           // the record's number: playerNumber, teamNumber
     Field,         // a field of the field table, under its own name
+    BirthDate,     // a player's birthDay, birthMonth and birthYear as one date: "birthDate"
     Age,           // a player's age in whole years, as Find Player counts it: "age"
     Club,          // the team whose squad holds a player, 0 for none: "club"
     SquadSize,     // the players in a team's squad: "squadSize"
@@ -30,17 +31,22 @@ struct TableColumn {
     const PlayerField* playerField = nullptr;  // a player's Field, or the skill of a SquadAverage
     const TeamField* teamField = nullptr;      // a team's Field
 
-    // A field whose box a window shows takes typed values; the record's
-    // number, the fields no window shows (a player's teamNumber, which the
-    // squads decide, and carriedValue) and the worked-out columns do not.
+    // A field whose box a window shows takes typed values, and so does the
+    // birth date; the record's number, the fields no window shows (a player's
+    // teamNumber, which the squads decide, and carriedValue) and the other
+    // worked-out columns do not.
     bool Editable() const;
+    // Whether a table shows the column before its user chooses: not the three
+    // parts of the birth date, which birthDate shows as one.
+    bool ShownAtFirst() const;
     // Name fields hold text; every other column a number.
     bool IsName() const;
     // The code list of a coded field, else nothing.
     const CodeList* Codes() const;
 };
 
-// In the order of the CSV columns, the worked-out ones last.
+// In the order of the CSV columns, the worked-out ones last but birthDate,
+// which stands before the three fields it is made of.
 std::span<const TableColumn> TableColumns(RecordKind kind);
 
 // The column called `name`, letter case ignored; the word column of a coded

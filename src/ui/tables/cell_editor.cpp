@@ -1,5 +1,6 @@
 #include "tables/cell_editor.h"
 
+#include "bulkedit/field_value.h"
 #include "data/number_entry.h"
 #include "document/game_document.h"
 #include "forms/box_marks.h"
@@ -30,6 +31,15 @@ QWidget* CellEditor::createEditor(QWidget* parent, const QStyleOptionViewItem&, 
     if (const CodeList* codes = column.Codes())
         return NewWordList(parent, codes->words);
     auto* box = new TextBox(parent);
+    if (column.source == ColumnSource::BirthDate) {
+        // Tinted as it is typed by what the date makes of it, taken only whole.
+        connect(box, &TextBox::edited, this, [this, box, &column](const QString& text) {
+            const QString why = QString::fromStdString(ReadFieldValue(column, ToGame(text), false).refusal);
+            MarkBox(*box, why.isEmpty() ? BoxMark::Plain : BoxMark::Refused, why);
+            emit said(why);
+        });
+        return box;
+    }
     if (column.IsName()) {
         box->SetTextRule(NameRefusalOf);
         connect(box, &TextBox::refused, this, &CellEditor::said);
@@ -48,6 +58,10 @@ QWidget* CellEditor::createEditor(QWidget* parent, const QStyleOptionViewItem&, 
 void CellEditor::setEditorData(QWidget* editor, const QModelIndex& index) const
 {
     const TableColumn& column = model_.ColumnAt(index.column());
+    if (column.source == ColumnSource::BirthDate) {
+        static_cast<TextBox*>(editor)->ShowText(index.data(Qt::EditRole).toString());
+        return;
+    }
     WithField(column, model_.Document().Records(), model_.RecordAt(index.row()),
               [editor](const auto& field, const auto& record) { ShowField(*editor, field, record); });
 }
@@ -55,6 +69,11 @@ void CellEditor::setEditorData(QWidget* editor, const QModelIndex& index) const
 void CellEditor::setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const
 {
     const TableColumn& column = model_.ColumnAt(index.column());
+    if (column.source == ColumnSource::BirthDate) {
+        if (const QString why = model_.TypeBirthDate(index, static_cast<TextBox*>(editor)->text()); !why.isEmpty())
+            emit said(why);
+        return;
+    }
     const TypedValue value = column.kind == RecordKind::Player ? TypedValueOf(*editor, *column.playerField)
                                                                : TypedValueOf(*editor, *column.teamField);
     model_.Type(index, value);

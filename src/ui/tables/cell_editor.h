@@ -8,7 +8,9 @@ class RecordTableModel;
 // the field's words for a code, a text box for a name or a number. A name
 // box refuses what the files cannot carry, a number box is tinted by what
 // its field makes of the text, and `said` tells why, for the status line.
-// What the box holds goes to the record as one step when the edit ends.
+// The birth date is one box, day/month/year, tinted while it names no day
+// that exists. What the box holds goes to the record as one step when the
+// edit ends; a date that does not exist changes nothing and says why.
 class CellEditor : public QStyledItemDelegate {
     Q_OBJECT
 public:

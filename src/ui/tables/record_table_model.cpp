@@ -2,13 +2,17 @@
 
 #include <QColor>
 #include <algorithm>
+#include <array>
 
+#include "bulkedit/bulk_edit.h"
 #include "bulkedit/field_value.h"
 #include "data/number_entry.h"
 #include "data/record_changes.h"
 #include "document/game_document.h"
+#include "document/step_names.h"
 #include "forms/box_marks.h"
 #include "forms/game_text.h"
+#include "newplayer/new_player_check.h"
 
 namespace {
 
@@ -28,6 +32,18 @@ bool SortsAsText(const TableColumn& column)
 bool Before(const SortKey& a, const SortKey& b, bool text)
 {
     return text ? a.text < b.text : a.number < b.number;
+}
+
+// A birth date that does not exist is kept as the files hold it, tinted with
+// the reason a new player could not have it.
+QVariant BirthDateMark(const PlayerRecord& player, int role)
+{
+    if (DateExists(player.birthDay, player.birthMonth, player.birthYear))
+        return {};
+    if (role == Qt::BackgroundRole)
+        return MarkTint(BoxMark::Unusual);
+    const std::string shown = DateText(player.birthDay, player.birthMonth, player.birthYear);
+    return QString::fromStdString(ReadBirthDate(shown).fault.value_or(shown));
 }
 
 }  // namespace
@@ -163,7 +179,7 @@ void RecordTableModel::sort(int column, Qt::SortOrder order)
 void RecordTableModel::Type(const QModelIndex& index, const TypedValue& value)
 {
     const TableColumn& column = ColumnAt(index.column());
-    if (!index.isValid() || !column.Editable())
+    if (!index.isValid() || !column.Editable() || column.source != ColumnSource::Field)
         return;
     const int number = RecordAt(index.row());
     if (column.kind == RecordKind::Player)
@@ -171,6 +187,19 @@ void RecordTableModel::Type(const QModelIndex& index, const TypedValue& value)
     else
         document_.Type(number, *column.teamField, value, {number, 0});
     document_.EndTyping();
+}
+
+QString RecordTableModel::TypeBirthDate(const QModelIndex& index, const QString& text)
+{
+    const int number = RecordAt(index.row());
+    const BulkEdit plan = PlanSetValue(document_.Records(), RecordKind::Player, ColumnAt(index.column()).name,
+                                       std::array{number}, ToGame(text));
+    if (!plan.ok())
+        return QString::fromStdString(plan.refusal);
+    if (!plan.change.Empty())
+        document_.Change(TypingStepText(plan.change), {ClubOf(number), number},
+                         [&plan](Game& game) { plan.change.Redo(game); });
+    return {};
 }
 
 int RecordTableModel::rowCount(const QModelIndex& parent) const
@@ -187,6 +216,11 @@ QString RecordTableModel::DisplayText(const TableColumn& column, int number) con
 {
     if (column.IsName())
         return FromGame(values_->Text(column, number));
+    if (column.source == ColumnSource::BirthDate) {
+        // Shown as the record holds it, whether the day exists or not.
+        const PlayerRecord& player = document_.Records().Players[std::size_t(number)];
+        return QString::fromStdString(DateText(player.birthDay, player.birthMonth, player.birthYear));
+    }
     const std::optional<double> value = values_->Number(column, number);
     if (!value)
         return {};
@@ -221,6 +255,8 @@ QVariant RecordTableModel::data(const QModelIndex& index, int role) const
         return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
     case Qt::BackgroundRole:
     case Qt::ToolTipRole: {
+        if (column.source == ColumnSource::BirthDate)
+            return BirthDateMark(document_.Records().Players[std::size_t(number)], role);
         // A skill outside the game's range is kept, tinted as its box in the
         // main window would be.
         // Only players' skills have a range.

@@ -44,6 +44,9 @@ public:
 
     // A value typed into a cell: one step of the document's history.
     void Type(const QModelIndex& index, const TypedValue& value);
+    // A birth date typed into its cell, day/month/year: one step that sets
+    // the three fields of the date, or nothing and the reason.
+    QString TypeBirthDate(const QModelIndex& index, const QString& text);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

@@ -186,14 +186,28 @@ void TableWindow::OnRowActivated(int row)
         emit teamChosen(number);
 }
 
+QStringList TableWindow::ColumnNames() const
+{
+    QStringList names;
+    for (int column = 0; column < model->columnCount(); ++column)
+        names.append(QString::fromStdString(model->ColumnAt(column).name));
+    return names;
+}
+
 void TableWindow::Restore()
 {
     const auto settings = LayoutSettings(kind_);
     if (!restoreGeometry(settings->value(QStringLiteral("geometry")).toByteArray()))
         resize(1100, 640);
-    if (!table->horizontalHeader()->restoreState(settings->value(QStringLiteral("columns")).toByteArray())) {
-        for (int column = 0; column < model->columnCount(); ++column)
-            table->setColumnWidth(column, NaturalWidth(column));
+    // A layout kept for other columns, by an editor before a column came or
+    // went, would put each width and hidden mark on the wrong column.
+    QHeaderView* header = table->horizontalHeader();
+    if (settings->value(QStringLiteral("columnNames")).toStringList() == ColumnNames() &&
+        header->restoreState(settings->value(QStringLiteral("columns")).toByteArray()))
+        return;
+    for (int column = 0; column < model->columnCount(); ++column) {
+        table->setColumnWidth(column, NaturalWidth(column));
+        header->setSectionHidden(column, !model->ColumnAt(column).ShownAtFirst());
     }
 }
 
@@ -208,6 +222,8 @@ int TableWindow::NaturalWidth(int logical) const
             widest = std::max(widest, FromGame(word), [](const QString& a, const QString& b) { return a.size() < b.size(); });
     } else if (column.IsName() || column.source == ColumnSource::Club) {
         widest = QString(18, QLatin1Char('n'));
+    } else if (column.source == ColumnSource::BirthDate) {
+        widest = QStringLiteral("00/00/0000");
     }
     const int cell = table->fontMetrics().horizontalAdvance(widest);
     const QHeaderView& header = *table->horizontalHeader();
@@ -220,6 +236,7 @@ void TableWindow::Remember()
     const auto settings = LayoutSettings(kind_);
     settings->setValue(QStringLiteral("geometry"), saveGeometry());
     settings->setValue(QStringLiteral("columns"), table->horizontalHeader()->saveState());
+    settings->setValue(QStringLiteral("columnNames"), ColumnNames());
 }
 
 void TableWindow::closeEvent(QCloseEvent* event)

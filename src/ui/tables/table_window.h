@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QString>
+#include <QStringList>
 #include <vector>
 
 #include "document/game_document.h"
@@ -19,7 +20,8 @@ struct BulkEdit;
 // is a step of the document's history, so the main window and the tables
 // always show the same records. Enter or a double click on a row shows its
 // record in the main window, through playerChosen or teamChosen. The window
-// remembers its size and its columns' order, widths and visibility.
+// remembers its size and its columns' order, widths and visibility; at first
+// the birth date shows as one column and its three fields are hidden.
 class TableWindow : public QMainWindow {
     Q_OBJECT
 public:
@@ -58,6 +60,7 @@ private:
     void OnHeaderMenu(const QPoint& at);
     void OnRowActivated(int row);
     int NaturalWidth(int logical) const;
+    QStringList ColumnNames() const;
     void Restore();
     void Remember();
 

@@ -54,6 +54,11 @@ TEST(SetValue, TakesWhatTheRecordsHoldAndRefusesTheRestWhole)
         {RecordKind::Player, "batskill", {1}, "=-3", "", 0, &P::batSkill, {-3}},
         {RecordKind::Player, "homeCountry", {1, 2}, "namibia", "", 0, &P::homeCountry, {13, 13}},
         {RecordKind::Player, "bats", {1}, "Left Handed", "", 0, &P::bats, {1}},
+        // The birth date sets its three fields, held to a new player's rule.
+        {RecordKind::Player, "birthDate", {3, 1}, " 29/2/2000 ", "", 0, &P::birthDay, {29, 29}},
+        {RecordKind::Player, "birthDate", {2}, "1/12/1999", "", 0, &P::birthMonth, {12}},
+        {RecordKind::Player, "birthDate", {1, 2}, "29/2/1999", "Date of birth 29/2/1999 does not exist.", 1, nullptr, {}},
+        {RecordKind::Player, "birthDate", {1}, "+1", "Date of birth takes day/month/year", 1, nullptr, {}},
         {RecordKind::Player, "homeCountry", {1}, "40", "homeCountry takes a word of its list or a code from 1 to 39", 1, nullptr, {}},
         {RecordKind::Player, "bowlType", {1}, "+1", "only numbers can be raised or lowered", 1, nullptr, {}},
         {RecordKind::Player, "batSkill", {1}, "12.5", "batSkill takes a whole number from -32768 to 32767", 1, nullptr, {}},
@@ -123,6 +128,7 @@ TEST(Paste, FillsTheChosenCellsAllOrNothing)
         {skills, "1\t2\n3\tx", "player 1 (A J Smith): potential takes a whole number from -32768 to 32767, not \"x\"", 1},
         {{"surname", "age"}, "a\t1", "age cannot be changed here", 0},
         {{"surname"}, "\"Quoted", "player 2 (B Smithers): surname", 2},
+        {{"birthDate"}, "30/2/2000", "player 2 (B Smithers): Date of birth 30/2/2000 does not exist.", 2},
     };
     for (const auto& r : refused) {
         const BulkEdit plan = PlanPaste(*game, RecordKind::Player, rows, r.columns, r.block);

@@ -42,6 +42,9 @@ TEST(Filter, NarrowsThePlayersAndTheTeams)
         // Ages on the given day; a birth date that cannot be passes no comparison.
         {RecordKind::Player, "age<24", {2}}, {RecordKind::Player, "age>=34", {1, 4}},
         {RecordKind::Player, "age!=23", {1, 4, 5, 6}},
+        // Birth dates in the calendar's order, day/month/year as typed; player 3's cannot be.
+        {RecordKind::Player, "birthDate<9/9/1999", {1, 4, 5}},
+        {RecordKind::Player, "birthDate>=14/2/1990 birthDate!=1/7/2000", {1, 5, 6}},
         {RecordKind::Player, "surname=van Dyke", {4}}, {RecordKind::Player, "surname=\"SMITH\"", {1}},
         {RecordKind::Player, "surname<jones", {6}},
         // Side by side all hold; "or" takes either side, side by side binding first.
@@ -77,6 +80,8 @@ TEST(Filter, ATermItCannotReadIsNamedWithItsPlace)
         {RecordKind::Player, "homeCountry=West", "homeCountry takes a word of its list or a code, not \"West\"", 0, 16},
         {RecordKind::Player, "club=Perth Pel", "no team is called \"Perth Pel\"", 0, 14},
         {RecordKind::Player, "club>Perth", "club takes a team's number with >", 0, 10},
+        {RecordKind::Player, "birthDate<31/2/1990", "Date of birth 31/2/1990 does not exist.", 0, 19},
+        {RecordKind::Player, "ng or birthDate>1990", "Date of birth takes day/month/year", 6, 14},
         {RecordKind::Team, "age<30", "no column is called \"age\"", 0, 3},
     };
     for (const auto& c : cases) {

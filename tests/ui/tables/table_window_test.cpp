@@ -35,21 +35,25 @@ const PlayerField& Surname = PlayerFields[1];
 
 // Six named players and nineteen fillers. Perth Pelicans hold 1 and 2,
 // Darwin 3 and 6, Ashby the fillers 7 to 25 (room for one more); 4 and 5
-// have no club.
+// have no club. Player 4's birth date does not exist, nor the fillers'.
 std::unique_ptr<Game> TableGame()
 {
     GameBuilder b;
     const struct {
         const char* surname;
-        int batSkill, bowlType, potential;
-    } players[] = {{"Smith", 45, 7, 10}, {"Smithers", 30, 1, 12}, {"Jones", 50, 7, 10},
-                   {"van Dyke", 60, 2, 15}, {"Ng", 12, 1, 10}, {"Ashdown", 42, 2, 12}};
+        int batSkill, bowlType, potential, day, month, year;
+    } players[] = {{"Smith", 45, 7, 10, 14, 2, 1990},   {"Smithers", 30, 1, 12, 1, 7, 2000},
+                   {"Jones", 50, 7, 10, 2, 6, 1994},    {"van Dyke", 60, 2, 15, 31, 2, 1980},
+                   {"Ng", 12, 1, 10, 9, 9, 1999},       {"Ashdown", 42, 2, 12, 1, 1, 1985}};
     int number = 0;
     for (const auto& p : players) {
         PlayerRecord& player = b.Player(++number, p.surname);
         player.batSkill = std::int16_t(p.batSkill);
         player.bowlType = std::int16_t(p.bowlType);
         player.potential = std::int16_t(p.potential);
+        player.birthDay = std::int16_t(p.day);
+        player.birthMonth = std::int16_t(p.month);
+        player.birthYear = std::int16_t(p.year);
         player.homeCountry = 1;
     }
     for (++number; number <= 25; ++number)
@@ -164,13 +168,44 @@ TEST_F(TableWindowTest, ShowsTheDocumentsRecordsAndFollowsItsSteps)
     EXPECT_EQ(game.Players[5].surname, "Nguyen");
     EXPECT_EQ(document.History().undoText().toStdString(), "edit of Player Name for A Ng");
 
+    // The birth date is one column, its three fields hidden at first; a date
+    // typed is one step of the three, and a day that does not exist changes
+    // nothing and says why.
     QHeaderView& header = *players->table->horizontalHeader();
-    header.setSectionHidden(3, true);
+    const int birthDate = 3;
+    EXPECT_FALSE(header.isSectionHidden(birthDate));
+    EXPECT_TRUE(header.isSectionHidden(birthDate + 1) && header.isSectionHidden(birthDate + 3));
+    EXPECT_EQ(Cell(*players, 4, "birthDate"), "31/2/1980");
+    EXPECT_EQ(players->model->index(players->model->RowOf(4), birthDate).data(Qt::ToolTipRole).toString(),
+              "Date of birth 31/2/1980 does not exist.");
+    const int steps = document.History().count();
+    const auto typeDate = [&](const char* typed) {
+        table.setCurrentIndex(players->model->index(players->model->RowOf(5), birthDate));
+        QTest::keyClick(&table, typed[0]);
+        auto* box = qobject_cast<QLineEdit*>(players->focusWidget());  // the cell's, not one closed before
+        ASSERT_TRUE(box);
+        QTest::keyClicks(box, QString::fromLatin1(typed + 1));
+        QTest::keyClick(box, Qt::Key_Return);
+        QApplication::processEvents();
+    };
+    typeDate("29/2/2001");
+    EXPECT_EQ(players->statusBar()->currentMessage(), "Date of birth 29/2/2001 does not exist.");
+    typeDate("29/2/2004");
+    EXPECT_EQ(Cell(*players, 5, "birthDate"), "29/2/2004");
+    EXPECT_EQ(document.History().count(), steps + 1);
+    EXPECT_EQ(document.History().undoText().toStdString(), "edit of Date of birth for A Nguyen");
+
+    header.setSectionHidden(birthDate, true);
     header.moveSection(2, 5);
     players->close();
     ShowWindow(players, RecordKind::Player);
-    EXPECT_TRUE(players->table->horizontalHeader()->isSectionHidden(3));
+    EXPECT_TRUE(players->table->horizontalHeader()->isSectionHidden(birthDate));
     EXPECT_EQ(players->table->horizontalHeader()->visualIndex(2), 5);
+    // A layout kept for other columns is not put on these.
+    players->close();
+    QSettings(QSettings::IniFormat, QSettings::UserScope, "kolta-editor", "windows").remove("playersTable/columnNames");
+    ShowWindow(players, RecordKind::Player);
+    EXPECT_FALSE(players->table->horizontalHeader()->isSectionHidden(birthDate));
 }
 
 // A click on a header sorts by it, keeping the order of the last sort among
@@ -195,6 +230,7 @@ TEST_F(TableWindowTest, SortsStablyByEachHeaderClicked)
         {"club", Qt::DescendingOrder, {2, 1, 6, 3, 5, 4}},  // no club last
         {"surname", Qt::DescendingOrder, {4, 2, 1, 5, 3, 6}},
         {"playerNumber", Qt::AscendingOrder, {1, 2, 3, 4, 5, 6}},
+        {"birthDate", Qt::AscendingOrder, {6, 1, 3, 5, 2, 4}},  // as the calendar runs, no such day last
     };
     for (const auto& click : clicks) {
         SCOPED_TRACE(click.column);
