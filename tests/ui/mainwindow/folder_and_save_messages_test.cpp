@@ -68,7 +68,7 @@ TEST(SaveFailure, TheMessageSaysWhichFilesTheFailedSaveChanged)
         if (c.teamsWritten)
             Write(root.filePath("teams.dat"), "new teams");
         const QString said = before.FailureText(failure);
-        EXPECT_TRUE(said.startsWith("Could not save " + root.filePath("teams.dat") + ":\nthe disk is full\n\n"))
+        EXPECT_TRUE(said.startsWith("Could not save " + QDir::toNativeSeparators(root.filePath("teams.dat")) + ":\nthe disk is full\n\n"))
             << said.toStdString();
         EXPECT_TRUE(said.contains(c.outcome)) << said.toStdString();
         EXPECT_TRUE(said.endsWith("Your changes are still in the editor.")) << said.toStdString();

@@ -1,6 +1,7 @@
 // Saving with the shortcut, leaving with and without saving, and a save that
 // the disk refuses.
 
+#include <QDir>
 #include <QFile>
 
 #include "data/file_io.h"
@@ -104,7 +105,7 @@ TEST_F(Saving, ASaveTheDiskRefusesIsToldAndExitStaysOpen)
     ASSERT_EQ(ShownMessages().size(), 1u);
     EXPECT_EQ(ShownMessages()[0].flags, 16);
     const QString said = ShownMessages()[0].text;
-    EXPECT_TRUE(said.contains(teams) && said.contains("read-only")) << said.toStdString();
+    EXPECT_TRUE(said.contains(QDir::toNativeSeparators(teams)) && said.contains("read-only")) << said.toStdString();
     EXPECT_TRUE(said.contains("Neither players.dat nor teams.dat was changed.")) << said.toStdString();
     EXPECT_TRUE(FilesUnchanged());   // not even players.dat, which could have been written
     EXPECT_EQ(game->Players[1].batSkill, 58);

@@ -150,11 +150,11 @@ TEST_F(UnsavedWork, TheCloseBoxAsksWhenThereAreUnsavedChanges)
         SCOPED_TRACE(testing::Message() << c.edited << " " << c.answer);
         OpenStill();
         const std::string before = Files();
-        EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
+        EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
         if (c.edited) {
             Retype("team.wealth", "700");
             Tick();
-            EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")*");
+            EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")*");
         }
         Answer({c.answer, IdOk});
         main->close();
@@ -174,14 +174,14 @@ TEST_F(UnsavedWork, TheCloseBoxAsksWhenThereAreUnsavedChanges)
     Retype("team.wealth", "700");
     Tick();
     Undo().trigger();
-    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
+    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
     EXPECT_FALSE(main->HasUnsavedChanges());
     Redo().trigger();
     Answer({IdOk});
     Find<QAction>(*main, "saveAction").trigger();
-    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
+    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
     Undo().trigger();
-    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")*");
+    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")*");
     EXPECT_EQ(BoxText("team.wealth"), "-250");
 }
 

@@ -125,7 +125,7 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
         ASSERT_EQ(main.Start(), good);
         if (good) {
             EXPECT_EQ(Setting(), full);
-            EXPECT_EQ(ShownTitle(main), "KOLTA editor (" + full + ")");
+            EXPECT_EQ(ShownTitle(main), "KOLTA editor (" + QDir::toNativeSeparators(full) + ")");
             EXPECT_EQ(Teams(Find<ComboBox>(main, "teamList")), (std::vector<QString>{"Sydney Sixes", "Perth Pies", "Hobart Hurricanes"}));
             const auto& squad = Find<ListBox>(main, "squadList");
             EXPECT_EQ(squad.List(squad.ListIndex()), "A Smith");
@@ -156,7 +156,7 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
     WhileOpen([&](OptionsWindow& options) { Find<DirList>(options, "folderList").SetPath(teamsOnly); });
     optionsAction.trigger();
     EXPECT_EQ(game->Teams[1].teamName, "Renamed but not saved");
-    EXPECT_EQ(ShownTitle(window), "KOLTA editor (" + full + ")*");
+    EXPECT_EQ(ShownTitle(window), "KOLTA editor (" + QDir::toNativeSeparators(full) + ")*");
 
     const QString fewer = Fixture("game_one_team");  // Brisbane Bats (Green)
     std::vector<int> answers{IdCancel, IdNo};
@@ -185,7 +185,7 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
         EXPECT_EQ(asked.title, "Saving..");
     }
     EXPECT_EQ(Setting(), fewer);
-    EXPECT_EQ(ShownTitle(window), "KOLTA Editor (" + fewer + ")");
+    EXPECT_EQ(ShownTitle(window), "KOLTA Editor (" + QDir::toNativeSeparators(fewer) + ")");
     EXPECT_EQ(game->Teams[1].teamName, "Brisbane Bats");
     EXPECT_EQ(game->Players[1].batSkill, 0);
     EXPECT_EQ(Teams(Find<ComboBox>(window, "teamList")), std::vector<QString>{"Brisbane Bats"});
