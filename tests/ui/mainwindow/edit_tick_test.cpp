@@ -10,6 +10,7 @@ using EditTick = EditorTest;
 TEST_F(EditTick, ANumberReachesTheRecordAndAnythingElseLeavesTheLastGoodValue)
 {
     Open();
+    const int beeps = BeepCount();
     // Each text in turn, with the value the field holds after its tick.
     const std::vector<std::pair<QString, int>> cases{
         {"44", 44}, {" -7 ", -7}, {"13.5", 14}, {"1e2", 100}, {"abc", 100}, {"32768", 100},
@@ -22,7 +23,7 @@ TEST_F(EditTick, ANumberReachesTheRecordAndAnythingElseLeavesTheLastGoodValue)
         EXPECT_EQ(game->Players[1].batSkill, value) << text.toStdString();
         EXPECT_EQ(BoxText("batSkill"), text);   // the box keeps what was typed
     }
-    EXPECT_EQ(BeepCount(), 0);   // no sound, no message: the box just waits
+    EXPECT_EQ(BeepCount(), beeps);   // no sound, no message: the box just waits
     EXPECT_TRUE(ShownMessages().empty());
 }
 
