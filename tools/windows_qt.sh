@@ -12,9 +12,9 @@ source "$(dirname "$0")/setup.sh"
 
 qt_cache="${KOLTA_QT_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/kolta-editor}"
 
-# Only Core, Gui, Widgets and Test, with the platform, style and JPEG plugins
-# (the main window's banner is a JPEG); the image, font and text libraries Qt
-# bundles, so no DLL comes from elsewhere.
+# Only Core, Gui, Widgets and Test, with the platform, style and image
+# plugins (the main window's banner is a JPEG); the image, font and text
+# libraries Qt bundles, so no DLL comes from elsewhere.
 # DirectWrite's newest font database is built only with Direct2D in this Qt,
 # yet the Windows platform plugin asks for it whenever it is configured: off
 # with Direct2D, the plugin keeps to the GDI fonts it uses by default anyway.
