@@ -2,7 +2,8 @@
 # Sets up a fresh Debian machine, builds, and runs every test; runs them all
 # again built with AddressSanitizer and UndefinedBehaviorSanitizer; then runs
 # each fuzz target over its seed corpus and a few seconds of new inputs; and
-# last the Windows build under Wine (windows.sh).
+# last the Windows build under Wine (windows.sh: the editor too when Qt for
+# Windows is in the cache, otherwise a line on how to get it).
 source "$(dirname "$0")/tools/setup.sh"
 kolta_install_missing
 kolta_build
