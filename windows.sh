@@ -21,7 +21,8 @@ windows_build="${KOLTA_WINDOWS_BUILD:-$KOLTA_ROOT/build-windows}"
 qt_script="$KOLTA_ROOT/tools/windows_qt.sh"
 if [ "${1:-}" = --editor ]; then
   kolta_install_missing "${windows_packages[@]}" "${editor_packages[@]}"
-  qt="$("$qt_script" | tail -n 1)"
+  "$qt_script"
+  qt="$("$qt_script" --where)"
 elif qt="$("$qt_script" --where)"; then
   kolta_install_missing "${windows_packages[@]}" "${editor_packages[@]}"
 else

@@ -7,7 +7,7 @@
 #   windows_qt.sh          builds it when needed; prints its folder last
 #   windows_qt.sh --where  prints the folder, or fails when it is not built
 # The first build takes about 35 CPU-minutes and 1.5 GB of disk while it runs;
-# what stays is about 80 MB.
+# what stays is about 70 MB.
 source "$(dirname "$0")/setup.sh"
 
 qt_cache="${KOLTA_QT_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/kolta-editor}"
