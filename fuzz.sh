@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Fuzzes every target (the readers, the CSV import, check, diff) for SECONDS each (default 60), two
+# Fuzzes every target (the readers, the CSV import, check, diff, the tables' filter) for SECONDS each (default 60), two
 # targets at a time on a machine with two cores. Inputs that found new paths
 # collect in build-fuzz/corpus/, anything that fails in build-fuzz/findings/.
 #   ./fuzz.sh 3600

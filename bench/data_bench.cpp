@@ -2,6 +2,13 @@
 // the game's full size.
 #include <benchmark/benchmark.h>
 
+#include <cstring>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
 #include "data/players_file.h"
 #include "data/save.h"
 #include "data/squad.h"
@@ -10,13 +17,15 @@
 
 namespace {
 
-// Both files into a fresh game, as the editor's start reads them.
+// Both files into a fresh game, as the editor's start reads them. The game
+// before is made and dropped while the clock stands.
 void BM_LoadBothFiles(benchmark::State& state)
 {
     const auto written = FullSizeGameIn(BenchFolder(true, "kolta-bench-load"));
+    std::unique_ptr<Game> game;
     for (auto _ : state) {
         state.PauseTiming();
-        auto game = std::make_unique<Game>();
+        game = std::make_unique<Game>();
         SetGameDirectory(*game, written->GameDirectory);
         state.ResumeTiming();
         ReadPlayersFile(*game);
@@ -25,6 +34,29 @@ void BM_LoadBothFiles(benchmark::State& state)
     }
 }
 BENCHMARK(BM_LoadBothFiles)->Unit(benchmark::kMicrosecond);
+
+// The floor under the load: the same two files read as the load reads them and
+// split into lines, each line kept as a view, with nothing read from the lines.
+void BM_ReadAndSplitFloor(benchmark::State& state)
+{
+    const auto written = FullSizeGameIn(BenchFolder(true, "kolta-bench-load"));
+    std::vector<std::string_view> lines;
+    for (auto _ : state) {
+        for (const std::string* path : {&written->PlayersPath, &written->TeamsPath}) {
+            const FileBytes file = ReadFileBytes(*path);
+            lines.clear();
+            std::size_t start = 0;
+            for (std::size_t i = 0; i < file.bytes.size(); ++i) {
+                if (file.bytes[i] == '\n') {
+                    lines.emplace_back(file.bytes.data() + start, i - start);
+                    start = i + 1;
+                }
+            }
+            benchmark::DoNotOptimize(lines.data());
+        }
+    }
+}
+BENCHMARK(BM_ReadAndSplitFloor)->Unit(benchmark::kMicrosecond);
 
 // The whole save: name checks, both files written beside the old ones and
 // moved over them. In memory the sync to disk costs nothing; on disk it is
@@ -42,6 +74,24 @@ void BM_SaveBothFiles(benchmark::State& state)
 }
 BENCHMARK(BM_SaveBothFiles)->ArgName("inMemory")->Arg(1)->Arg(0)->Unit(benchmark::kMicrosecond);
 
+// The floor under the save: the bytes of both files, made beforehand, written
+// over the old files in place, as an editor that risked them would, with
+// nothing synced.
+void BM_SaveInPlaceFloor(benchmark::State& state)
+{
+    const bool inMemory = state.range(0) != 0;
+    const auto game = FullSizeGameIn(BenchFolder(inMemory, inMemory ? "kolta-bench-floor-mem" : "kolta-bench-floor-disk"));
+    const std::pair<std::string, std::string> files[] = {{game->PlayersPath, WritePlayers(*game)},
+                                                         {game->TeamsPath, WriteTeams(*game)}};
+    for (auto _ : state) {
+        for (const auto& [path, bytes] : files) {
+            std::ofstream file(path, std::ios::binary | std::ios::trunc);
+            file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        }
+    }
+}
+BENCHMARK(BM_SaveInPlaceFloor)->ArgName("inMemory")->Arg(1)->Arg(0)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
 // Writing both files to bytes, without touching the disk.
 void BM_FormatBothFiles(benchmark::State& state)
 {
@@ -52,6 +102,39 @@ void BM_FormatBothFiles(benchmark::State& state)
     }
 }
 BENCHMARK(BM_FormatBothFiles)->Unit(benchmark::kMicrosecond);
+
+// The floor under the format: the lines of both files, already as text with
+// their line ends, copied one by one into new buffers of the files' size,
+// sixteen bytes a step, as fast as lines of known length can be put down.
+void BM_WriteLinesFloor(benchmark::State& state)
+{
+    constexpr std::size_t step = 16;
+    const auto game = FullSizeGame();
+    std::string files[] = {WritePlayers(*game), WriteTeams(*game)};
+    std::vector<std::string_view> lines[2];
+    for (int file = 0; file < 2; ++file) {
+        const std::size_t size = files[file].size();
+        files[file].resize(size + step);  // every step reads whole sixteen bytes
+        const std::string_view text(files[file]);
+        for (std::size_t start = 0, end; start < size; start = end + 2) {
+            end = text.find("\r\n", start);
+            lines[file].push_back(text.substr(start, end + 2 - start));
+        }
+    }
+    for (auto _ : state) {
+        for (int file = 0; file < 2; ++file) {
+            std::string out(files[file].size(), '\0');
+            char* at = out.data();
+            for (const std::string_view line : lines[file]) {
+                for (std::size_t done = 0; done < line.size(); done += step)
+                    std::memcpy(at + done, line.data() + done, step);
+                at += line.size();
+            }
+            benchmark::DoNotOptimize(out);
+        }
+    }
+}
+BENCHMARK(BM_WriteLinesFloor)->Unit(benchmark::kMicrosecond);
 
 // The player in the first place of the last squad that has one, or the
 // first player no squad holds.

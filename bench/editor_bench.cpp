@@ -1,48 +1,51 @@
-// One tick of the main window's edit timer on a full-size game, the way it
-// runs ten times a second while the editor is open; and one keystroke in the
+// One keystroke in a box of the main window on a full-size game, written
+// through the document as the user types it: the box, the step of the
+// history, the signals and the redrawing they cause; and one keystroke in the
 // Find Player window, the search and the listing of its matches.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
 #include <QDate>
 #include <QFile>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QTreeWidget>
 #include <memory>
 
 #include "data/setting_file.h"
+#include "editor/editor.h"
 #include "findwindow/find_window.h"
 #include "forms/text_box.h"
 #include "full_size_game.h"
-#include "mainwindow/main_window.h"
 
 namespace {
 
 MainWindow* form = nullptr;
 const Game* world = nullptr;
 
-// Nothing changed since the last tick: every field is copied all the same.
-void BM_TickUnchanged(benchmark::State& state)
+void Press(QWidget& box, Qt::Key key, const QString& text = {})
 {
-    for (auto _ : state)
-        form->CarryEditsIntoRecords();
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QApplication::sendEvent(&box, &press);
 }
-BENCHMARK(BM_TickUnchanged)->Unit(benchmark::kMicrosecond);
 
-// The surname changes before every tick, so each one also rebuilds the squad list.
-void BM_TickAfterNameChange(benchmark::State& state)
+// A key typed at the end of a box, then taken back with Backspace: two
+// keystrokes a round, each one a change of the record. A new surname also
+// shows at once in the player's row of the squad list.
+void BM_Keystroke(benchmark::State& state, const char* box, Qt::Key key, const char* text)
 {
-    TextBox& surname = *form->findChild<TextBox*>(QStringLiteral("surname"));
-    const QString names[2] = {surname.Text() + QStringLiteral("a"), surname.Text()};
-    int turn = 0;
+    TextBox& typed = *form->findChild<TextBox*>(QString::fromLatin1(box));
+    typed.setFocus();
+    typed.end(false);
     for (auto _ : state) {
-        state.PauseTiming();
-        surname.SetText(names[turn ^= 1]);
-        state.ResumeTiming();
-        form->CarryEditsIntoRecords();
+        Press(typed, key, QString::fromLatin1(text));
+        Press(typed, Qt::Key_Backspace);
     }
+    state.SetItemsProcessed(2 * state.iterations());
 }
-BENCHMARK(BM_TickAfterNameChange)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(BM_Keystroke, bat_skill, "batSkill", Qt::Key_5, "5")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(BM_Keystroke, wealth, "team.wealth", Qt::Key_5, "5")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(BM_Keystroke, surname, "surname", Qt::Key_A, "a")->Unit(benchmark::kMicrosecond);
 
 // The box goes from empty to the text, as one keystroke does: the window
 // searches and lists every match with his club, nationality and age. "e"
@@ -74,16 +77,16 @@ int main(int argc, char** argv)
     benchmark::Initialize(&argc, argv);
 
     const auto folder = BenchFolder(true, "kolta-bench-editor");
-    auto game = FullSizeGameIn(folder);
+    const auto written = FullSizeGameIn(folder);
     const QString setting = QFile::decodeName((folder / "editor.dat").string().c_str());
-    WriteSettingFile(QFile::encodeName(setting).toStdString(), game->GameDirectory);
-    MainWindow window(*game, SettingPlaces{setting, setting});
-    if (!window.Start())
+    WriteSettingFile(QFile::encodeName(setting).toStdString(), written->GameDirectory);
+    Editor editor(SettingPlaces{setting, setting});
+    if (!editor.Start())
         return 1;
-    window.show();
+    editor.Window().show();
     QApplication::processEvents();
-    form = &window;
-    world = game.get();
+    form = &editor.Window();
+    world = &editor.Document().Records();
 
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -6,12 +6,11 @@
 #include <QApplication>
 #include <QFile>
 #include <filesystem>
-#include <memory>
 
 #include "data/setting_file.h"
 #include "first_paint.h"
 #include "full_size_game.h"
-#include "mainwindow/main_window.h"
+#include "editor/editor.h"
 
 int main(int argc, char** argv)
 {
@@ -25,12 +24,11 @@ int main(int argc, char** argv)
         WriteSettingFile(setting, folder.string());
 
     QApplication app(argc, argv);
-    auto game = std::make_unique<Game>();
     const QString settingPath = QFile::decodeName(setting.c_str());
-    MainWindow form(*game, SettingPlaces{settingPath, settingPath});
-    if (!form.Start())
+    Editor editor(SettingPlaces{settingPath, settingPath});
+    if (!editor.Start())
         return 1;
-    EndAtFirstPaint(form);
-    form.show();
+    EndAtFirstPaint(editor.Window());
+    editor.Window().show();
     return QApplication::exec();
 }

@@ -10,6 +10,7 @@
 #include "data/game.h"
 #include "search/player_sort.h"
 #include "search/search_filters.h"
+#include "search_floor.h"
 #include "world_generator.h"
 
 namespace {
@@ -46,13 +47,28 @@ void BM_SearchAllSorted(benchmark::State& state)
     const auto game = GameInOrder(key, static_cast<Order>(state.range(1)));
     for (auto _ : state) {
         SearchRows rows = RunFilters(*game, {});
-        SortResults(rows, static_cast<int>(key), [](double width) { benchmark::DoNotOptimize(width); });
+        SortResults(rows, static_cast<int>(key), [](double done) { benchmark::DoNotOptimize(done); });
         benchmark::DoNotOptimize(rows.front());
     }
 }
 BENCHMARK(BM_SearchAllSorted)
     ->ArgNames({"key", "order"})
     ->ArgsProduct({benchmark::CreateDenseRange(0, SortKeyCount - 1, 1), {0, 1, 2}})
+    ->Unit(benchmark::kMicrosecond);
+
+// The floor under the searches of a surname and of a skill, in random and in
+// reverse order: the same rows in the same order by a stable sort.
+void BM_StableSortFloor(benchmark::State& state)
+{
+    const auto key = static_cast<SortKey>(state.range(0));
+    const auto game = GameInOrder(key, static_cast<Order>(state.range(1)));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(SearchByStableSort(*game, key).front());
+}
+BENCHMARK(BM_StableSortFloor)
+    ->ArgNames({"key", "order"})
+    ->ArgsProduct({{static_cast<int>(SortKey::Surname), static_cast<int>(SortKey::BatSkill)},
+                   {static_cast<int>(Order::Random), static_cast<int>(Order::Reversed)}})
     ->Unit(benchmark::kMicrosecond);
 
 }  // namespace

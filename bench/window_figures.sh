@@ -1,12 +1,15 @@
 #!/usr/bin/env bash
 # Run by bench.sh on an X display: start to first shown window of the editor
 # and of an empty Qt Widgets window, taken in turns, and the share of a core
-# the real editor uses while it sits idle on a full-size game.
-#   window_figures.sh BUILD_DIR [STARTS] [IDLE_SECONDS]
+# the real editor uses while it sits idle on a full-size game. With FIGURES,
+# the two medians of the starts are added to that file in microseconds, as
+# editor_start and empty_window_start, for bench.sh's ratios.
+#   window_figures.sh BUILD_DIR [STARTS] [IDLE_SECONDS] [FIGURES]
 set -euo pipefail
 build="$1"
 starts="${2:-15}"
 idle_seconds="${3:-20}"
+figures="${4:-/dev/null}"
 game="$build/bench-game"
 
 now_ns() { date +%s%N; }
@@ -31,6 +34,7 @@ for _ in $(seq "$starts"); do
 done
 editor=$(printf '%s\n' "${editor_times[@]}" | median)
 empty=$(printf '%s\n' "${empty_times[@]}" | median)
+printf 'editor_start %s\nempty_window_start %s\n' "$editor" "$empty" >>"$figures"
 echo "Start to first shown window, median of $starts runs each, taken in turns:"
 awk -v e="$editor" -v w="$empty" 'BEGIN {
   printf "  editor on a full-size game  %7.1f ms\n", e / 1000

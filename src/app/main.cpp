@@ -1,9 +1,7 @@
 #include <QApplication>
 #include <QTextStream>
-#include <memory>
 
-#include "data/game.h"
-#include "mainwindow/main_window.h"
+#include "editor/editor.h"
 #include "options/shipped_files.h"
 
 int main(int argc, char** argv)
@@ -17,10 +15,9 @@ int main(int argc, char** argv)
         return ReportShippedFiles(out) ? 0 : 1;
     }
 
-    auto game = std::make_unique<Game>();
-    MainWindow window(*game, SettingPlaces::ForThisProgram());
-    if (!window.Start())
+    Editor editor(SettingPlaces::ForThisProgram());
+    if (!editor.Start())
         return 0;
-    window.show();
+    editor.Window().show();
     return QApplication::exec();
 }

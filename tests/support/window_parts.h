@@ -1,10 +1,17 @@
 #pragma once
 
+#include <QComboBox>
+#include <QListWidget>
 #include <QObject>
 #include <QString>
+#include <QTest>
 #include <QWidget>
 #include <stdexcept>
 #include <string>
+#include <utility>
+#include <vector>
+
+#include "forms/message_box.h"
 
 // Tests reach a window's controls the way the windows name them: each control
 // a test works carries an object name for its job.
@@ -24,4 +31,63 @@ inline QString ShownTitle(const QWidget& window)
 {
     QString title = window.windowTitle();
     return title.replace(QStringLiteral("[*]"), window.isWindowModified() ? QStringLiteral("*") : QString());
+}
+
+// Picks the first entry reading exactly `text`, as a user's pick would:
+// activated comes, also for the entry chosen already. False when none reads so.
+inline bool Pick(QComboBox& box, const QString& text)
+{
+    const int entry = box.findText(text);
+    if (entry < 0)
+        return false;
+    box.setCurrentIndex(entry);
+    emit box.activated(entry);
+    return true;
+}
+
+// Clicks a row of a list as a person would.
+inline void ClickRow(QListWidget& list, int row)
+{
+    QListWidgetItem* item = list.item(row);
+    if (!item)
+        throw std::logic_error("no row " + std::to_string(row));
+    list.scrollToItem(item);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(item).center());
+}
+
+// Clicks the first row reading exactly `text`; false when none reads so.
+inline bool Pick(QListWidget& list, const QString& text)
+{
+    const QList<QListWidgetItem*> rows = list.findItems(text, Qt::MatchExactly);
+    if (rows.isEmpty())
+        return false;
+    ClickRow(list, list.row(rows.front()));
+    return true;
+}
+
+// The rows of a list or the entries of a drop-down, as the user reads them.
+inline std::vector<QString> Rows(const QListWidget& list)
+{
+    std::vector<QString> rows;
+    for (int row = 0; row < list.count(); ++row)
+        rows.push_back(list.item(row)->text());
+    return rows;
+}
+inline std::vector<QString> Rows(const QComboBox& box)
+{
+    std::vector<QString> rows;
+    for (int row = 0; row < box.count(); ++row)
+        rows.push_back(box.itemText(row));
+    return rows;
+}
+
+// How a message box looks: its icon and its buttons.
+using BoxLook = std::pair<QMessageBox::Icon, QMessageBox::StandardButtons::Int>;
+inline BoxLook Look(const ShownMessage& message)
+{
+    return {message.icon, message.buttons.toInt()};
+}
+inline BoxLook Look(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons = QMessageBox::Ok)
+{
+    return {icon, buttons.toInt()};
 }

@@ -5,6 +5,7 @@
 #include <tuple>
 #include <utility>
 
+#include "data/dates.h"
 #include "data/fields.h"
 #include "data/squad.h"
 
@@ -12,20 +13,6 @@ namespace {
 
 constexpr std::string_view PlayersFile = PlayerLayout.file;
 constexpr std::string_view TeamsFile = TeamLayout.file;
-
-bool IsLeapYear(int year)
-{
-    return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
-}
-
-bool PossibleDate(int day, int month, int year)
-{
-    constexpr int daysIn[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    if (year < 1 || month < 1 || month > 12 || day < 1)
-        return false;
-    const int last = daysIn[month - 1] + (month == 2 && IsLeapYear(year) ? 1 : 0);
-    return day <= last;
-}
 
 std::string TeamList(const std::vector<int>& teams)
 {
@@ -138,7 +125,7 @@ private:
         if (player.surname.empty())
             Add(Severity::Warning, PlayersFile, number, "surname",
                 "is empty, and an empty surname ends a search listing in the editor");
-        if (!PossibleDate(player.birthDay, player.birthMonth, player.birthYear))
+        if (!DateExists(player.birthDay, player.birthMonth, player.birthYear))
             Add(Severity::Warning, PlayersFile, number, "birthDay",
                 "the birth date " + std::to_string(player.birthDay) + "/" + std::to_string(player.birthMonth) + "/" +
                     std::to_string(player.birthYear) + " cannot be (day/month/year)");

@@ -1,14 +1,30 @@
 #include "csv/csv_export.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "csv/csv.h"
 #include "csv/csv_layout.h"
 #include "data/squad.h"
 
+namespace {
+
+std::string CsvOf(const Game& game, const CsvRow& header, CsvRow (*row)(const Game&, int), int last,
+                  std::span<const int> numbers)
+{
+    std::string text = CsvLine(header);
+    for (const int number : numbers) {
+        if (number >= 1 && number <= last)
+            text += CsvLine(row(game, number));
+    }
+    return text;
+}
+
+}  // namespace
+
 std::string PlayersCsv(const Game& game, const CsvSelection& selection)
 {
-    std::string text = CsvLine(PlayerColumns());
+    std::vector<int> numbers;
     const auto holders = TeamsHoldingEachPlayer(game);
     for (int number = 1; number <= LoadedPlayerCount(game); ++number) {
         const auto& teams = holders[number];
@@ -16,19 +32,29 @@ std::string PlayersCsv(const Game& game, const CsvSelection& selection)
             continue;
         if (selection.country && game.Players[number].homeCountry != *selection.country)
             continue;
-        text += CsvLine(PlayerRow(game, number));
+        numbers.push_back(number);
     }
-    return text;
+    return PlayersCsvOf(game, numbers);
 }
 
 std::string TeamsCsv(const Game& game, const CsvSelection& selection)
 {
-    std::string text = CsvLine(TeamColumns());
+    std::vector<int> numbers;
     for (int number = 1; number <= LoadedTeamCount(game); ++number) {
         if ((selection.team && number != *selection.team) ||
             (selection.country && game.Teams[number].homeCountry != *selection.country))
             continue;
-        text += CsvLine(TeamRow(game, number));
+        numbers.push_back(number);
     }
-    return text;
+    return TeamsCsvOf(game, numbers);
+}
+
+std::string PlayersCsvOf(const Game& game, std::span<const int> numbers)
+{
+    return CsvOf(game, PlayerColumns(), PlayerRow, LoadedPlayerCount(game), numbers);
+}
+
+std::string TeamsCsvOf(const Game& game, std::span<const int> numbers)
+{
+    return CsvOf(game, TeamColumns(), TeamRow, LoadedTeamCount(game), numbers);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 
 #include "data/game.h"
@@ -16,3 +17,8 @@ struct CsvSelection {
 // of the field names, a row a record, CR LF after each.
 std::string PlayersCsv(const Game& game, const CsvSelection& selection = {});
 std::string TeamsCsv(const Game& game, const CsvSelection& selection = {});
+
+// The same header and rows for the records `numbers`, in that order, as the
+// tables export the rows chosen in them. Numbers outside the table are left out.
+std::string PlayersCsvOf(const Game& game, std::span<const int> numbers);
+std::string TeamsCsvOf(const Game& game, std::span<const int> numbers);

@@ -170,7 +170,7 @@ const Field<Record>* FieldOf(std::span<const Field<Record>> fields, std::int16_t
 enum class LineKind { Key, Constant, Name, Number, Squad };
 
 template <class Record>
-LineKind KindOfLine(const RecordLayout<Record>& layout, int line)
+constexpr LineKind KindOfLine(const RecordLayout<Record>& layout, int line)
 {
     if (line == layout.keyLine)
         return LineKind::Key;

@@ -9,8 +9,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "data/cp1252.h"
-
 #if defined(_WIN32)
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
@@ -69,33 +67,6 @@ std::string NotRegular(bool folder)
 
 }  // namespace
 
-fs::path NativePath(const std::string& path)
-{
-#if defined(_WIN32)
-    // Text that is not UTF-8 is a path the game's own editor wrote into
-    // editor.dat, in the game's code page.
-    try {
-        return fs::path(std::u8string(path.begin(), path.end()));
-    } catch (const std::system_error&) {
-        const std::u16string text = DecodeCp1252(path);
-        return fs::path(std::wstring(text.begin(), text.end()));
-    }
-#else
-    return fs::path(std::u8string(path.begin(), path.end()));
-#endif
-}
-
-std::string PathText(const fs::path& path)
-{
-    const std::u8string text = path.u8string();
-    return std::string(text.begin(), text.end());
-}
-
-std::string JoinPath(const std::string& folder, const std::string& name)
-{
-    return PathText(NativePath(folder) / NativePath(name));
-}
-
 FileResult MakeFolders(const std::string& path)
 {
     std::error_code error;
@@ -151,9 +122,16 @@ FileBytes ReadFileBytes(const std::string& path)
         read.reason = NotRegular(S_ISDIR(info.st_mode));
     else if (static_cast<std::uintmax_t>(info.st_size) > MaxFileSize)
         read.reason = TooLarge();
-    std::array<char, 1 << 16> block;
+    // Read straight into the result, with a byte to spare so that the read
+    // which finds the end needs no more room; a file that grows meanwhile,
+    // or says it is empty as some system files do, gets more as it goes.
+    std::size_t filled = 0;
+    if (read.reason.empty())
+        read.bytes.resize(static_cast<std::size_t>(info.st_size) + 1);
     while (read.reason.empty()) {
-        const ssize_t got = ::read(fd, block.data(), block.size());
+        if (filled == read.bytes.size())
+            read.bytes.resize(filled + (1 << 16));
+        const ssize_t got = ::read(fd, read.bytes.data() + filled, read.bytes.size() - filled);
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)
@@ -161,13 +139,12 @@ FileBytes ReadFileBytes(const std::string& path)
         else if (got == 0)
             break;
         else
-            read.bytes.append(block.data(), static_cast<std::size_t>(got));
-        if (read.bytes.size() > MaxFileSize)
+            filled += static_cast<std::size_t>(got);
+        if (filled > MaxFileSize)
             read.reason = TooLarge();
     }
     ::close(fd);
-    if (!read.reason.empty())
-        read.bytes.clear();
+    read.bytes.resize(read.reason.empty() ? filled : 0);
     return read;
 }
 #endif
@@ -221,4 +198,23 @@ FileResult ReplaceFile(const std::string& path, std::string_view bytes)
         return Failure(path, reason);
     }
     return FileResult::Success(path);
+}
+
+std::string LinkOrCopy(const std::string& from, const std::string& to)
+{
+    if (std::string removed = RemoveFile(to); !removed.empty())
+        return removed;
+    std::error_code error;
+    fs::create_hard_link(NativePath(from), NativePath(to), error);
+    if (!error)
+        return {};
+    // Copied through our own reader and writer, so that a full disk says so
+    // rather than giving a bare input/output error.
+    FileBytes bytes = ReadFileBytes(from);
+    if (!bytes.ok())
+        return bytes.reason;
+    std::string reason = WriteNewFile(to, bytes.bytes);
+    if (!reason.empty())
+        RemoveFile(to);
+    return reason;
 }

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "data/native_path.h"
 
 // What became of a file operation: empty `reason` means it worked.
 struct FileResult {
@@ -14,14 +15,6 @@ struct FileResult {
     bool ok() const { return reason.empty(); }
     static FileResult Success(std::string path) { return {std::move(path), {}}; }
 };
-
-// Paths travel through the program as UTF-8 text on every system; these turn
-// them into the system's own form (wide characters on Windows) and back. On
-// Windows a path that is not UTF-8 is read as Windows-1252.
-std::filesystem::path NativePath(const std::string& path);
-std::string PathText(const std::filesystem::path& path);
-// `name` inside `folder`, with the system's separator.
-std::string JoinPath(const std::string& folder, const std::string& name);
 
 // Larger than any file the game or the editor could make: a file past this is
 // refused rather than read.
@@ -54,3 +47,7 @@ FileResult CheckWritable(const std::string& path);
 // file is either replaced whole or left as it was. What CheckWritable refuses
 // is refused here too. A link is followed: the file it points to is replaced.
 FileResult ReplaceFile(const std::string& path, std::string_view bytes);
+
+// Makes `to` a second name of `from`, or where the disk cannot (another
+// drive, a file system without links) a flushed copy of it.
+std::string LinkOrCopy(const std::string& from, const std::string& to);

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "data/file_io.h"
+#include "data/native_path.h"
 
 #if defined(_WIN32)
 #define WIN32_LEAN_AND_MEAN
@@ -91,25 +91,6 @@ std::string MoveReplacing(const std::string& from, const std::string& to)
     SyncFolder(PathText(NativePath(to).parent_path()));
     return {};
 #endif
-}
-
-std::string LinkOrCopy(const std::string& from, const std::string& to)
-{
-    if (std::string removed = RemoveFile(to); !removed.empty())
-        return removed;
-    std::error_code error;
-    fs::create_hard_link(NativePath(from), NativePath(to), error);
-    if (!error)
-        return {};
-    // Copied through our own reader and writer, so that a full disk says so
-    // rather than giving a bare input/output error.
-    FileBytes bytes = ReadFileBytes(from);
-    if (!bytes.ok())
-        return bytes.reason;
-    std::string reason = WriteNewFile(to, bytes.bytes);
-    if (!reason.empty())
-        RemoveFile(to);
-    return reason;
 }
 
 std::string RemoveFile(const std::string& path)

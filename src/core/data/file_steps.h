@@ -16,10 +16,6 @@ std::string WriteNewFile(const std::string& path, std::string_view bytes);
 // never a mix. The move is on the disk when this returns.
 std::string MoveReplacing(const std::string& from, const std::string& to);
 
-// Makes `to` a second name of `from`, or where the disk cannot (another
-// drive, a file system without links) a flushed copy of it.
-std::string LinkOrCopy(const std::string& from, const std::string& to);
-
 // Removes `path`; a missing file is no failure.
 std::string RemoveFile(const std::string& path);
 

@@ -15,6 +15,7 @@
 #else
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -87,6 +88,21 @@ FolderPresence::~FolderPresence()
     if (handle_)
         CloseHandle(static_cast<HANDLE>(handle_));
 }
+
+bool EditorHasFolderOpen(const std::string& folder)
+{
+    HANDLE handle = CreateFileW(NativePath(JoinPath(folder, PresenceFile)).c_str(), GENERIC_READ,
+                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return false;
+    OVERLAPPED whole{};
+    const bool nobodyHolds = LockFileEx(handle, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &whole);
+    if (nobodyHolds)
+        UnlockFileEx(handle, 0, 1, 0, &whole);
+    CloseHandle(handle);
+    return !nobodyHolds;
+}
 #else
 FolderLock::FolderLock(const std::string& folder, std::chrono::milliseconds patience)
 {
@@ -117,22 +133,82 @@ FolderLock::~FolderLock()
         ::close(fd_);
 }
 
+namespace {
+
+// A lock on the first byte of the presence file that belongs to this open
+// file, not to the process, and changes between shared and exclusive in one
+// step: an editor that comes or goes at the same moment never slips into a
+// gap between the two.
+bool LockPresence(int fd, short type)
+{
+    struct flock lock {};
+    lock.l_type = type;
+    lock.l_whence = SEEK_SET;
+    lock.l_len = 1;
+    return ::fcntl(fd, F_OFD_SETLK, &lock) == 0;
+}
+
+// Whether another editor holds its shared lock on the file.
+bool OthersHoldPresence(int fd)
+{
+    struct flock lock {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    lock.l_len = 1;
+    return ::fcntl(fd, F_OFD_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
+}
+
+// Whether `fd` is still the file at `path`, which the last editor to leave
+// may have removed between our open and our lock.
+bool StillThere(int fd, const std::string& path)
+{
+    struct stat opened {};
+    struct stat named {};
+    return ::fstat(fd, &opened) == 0 && ::stat(path.c_str(), &named) == 0 && opened.st_dev == named.st_dev &&
+           opened.st_ino == named.st_ino;
+}
+
+}  // namespace
+
 FolderPresence::FolderPresence(const std::string& folder)
     : path_(JoinPath(folder, PresenceFile))
 {
-    fd_ = ::open(path_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
-    if (fd_ < 0)
-        return;
-    othersHadItOpen_ = ::flock(fd_, LOCK_EX | LOCK_NB) != 0;
-    ::flock(fd_, LOCK_SH | LOCK_NB);
+    // A leaving editor holds the file exclusively while it removes it; the
+    // file is opened afresh until this one holds the file that stays.
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        fd_ = ::open(path_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+        if (fd_ < 0)
+            return;
+        const bool locked = LockPresence(fd_, F_RDLCK);
+        if (!locked && errno != EAGAIN && errno != EACCES)
+            return;  // a file system without locks: nobody can be told
+        if (locked && StillThere(fd_, path_)) {
+            othersHadItOpen_ = OthersHoldPresence(fd_);
+            return;
+        }
+        ::close(fd_);
+        fd_ = -1;
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
 }
 
 FolderPresence::~FolderPresence()
 {
     if (fd_ < 0)
         return;
-    if (::flock(fd_, LOCK_EX | LOCK_NB) == 0)
+    if (LockPresence(fd_, F_WRLCK))
         ::unlink(path_.c_str());
     ::close(fd_);
+}
+
+bool EditorHasFolderOpen(const std::string& folder)
+{
+    // A file left by an editor that died is held by nobody: no editor.
+    const int fd = ::open(JoinPath(folder, PresenceFile).c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return false;
+    const bool held = OthersHoldPresence(fd);
+    ::close(fd);
+    return held;
 }
 #endif

@@ -54,5 +54,10 @@ private:
 #endif
 };
 
+// Whether an editor holds `folder` open now (a FolderPresence of another
+// open handle), for a program that writes there without being one. Leaves
+// no file behind.
+bool EditorHasFolderOpen(const std::string& folder);
+
 // How long a second writer waits for the first before it gives up.
 inline constexpr std::chrono::milliseconds WriterPatience{3000};

@@ -219,6 +219,7 @@ FileResult CommitPair(const PairSave& save)
         return FileResult{path, reason};
     };
 
+    Step("began the commit");
     for (const Target& target : targets) {
         const std::string from = TemporaryName(target.file, "saving");
         std::error_code error;

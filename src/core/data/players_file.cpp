@@ -12,7 +12,7 @@ namespace {
 void SkipFields(FieldReader& reader, int count)
 {
     for (int i = 0; i < count; ++i)
-        reader.ReadText();
+        reader.ReadView();
 }
 
 // The lines after the number, in file order. A number that fails to read
@@ -20,21 +20,19 @@ void SkipFields(FieldReader& reader, int count)
 // are read and dropped.
 void ReadFields(FieldReader& reader, PlayerRecord& player, bool keepNames)
 {
-    auto field = PlayerFields.begin();
-    for (int line = PlayerLayout.keyLine + 1; line <= PlayerLayout.lines; ++line) {
-        if (field == PlayerFields.end() || field->line != line) {
-            reader.ReadText();  // a constant line means nothing to the editor
-        } else if (field->text) {
-            const auto text = reader.ReadText();
+    ForEachLine<PlayerLayout.keyLine + 1, PlayerLayout.lines>([&](auto lineConstant) {
+        constexpr int line = decltype(lineConstant)::value;
+        constexpr LineKind kind = KindOfLine(PlayerLayout, line);
+        if constexpr (kind == LineKind::Name) {
+            const auto text = reader.ReadView();
             if (keepNames)
-                TakeName(text, *field, player);
-            ++field;
+                TakeName(text, FieldOnLine(PlayerLayout, line), player);
+        } else if constexpr (kind == LineKind::Number) {
+            reader.ReadNumberInto(player.*FieldOnLine(PlayerLayout, line).number);
         } else {
-            if (const auto value = reader.ReadNumber())
-                player.*field->number = *value;
-            ++field;
+            reader.ReadView();  // a constant line means nothing to the editor
         }
-    }
+    });
 }
 
 }  // namespace
@@ -76,10 +74,10 @@ LoadReport ReadPlayers(Game& game, std::string_view bytes)
 
 std::string WritePlayers(const Game& game)
 {
-    TextLines out;
     const int count = std::min<int>(game.PlayerCount, MaxPlayers);
+    TextLines out(ExpectedBytes(PlayerLayout, count));
     for (int i = 1; i <= count; ++i)
-        WriteRecordLines(out, PlayerLayout, game.Players[i], i);
+        WriteRecordLines<PlayerLayout>(out, game.Players[i], i);
     out.EmptyLines(PlayerLayout.closingEmptyLines);
     return out.Take();
 }

@@ -19,7 +19,7 @@ std::string FolderOf(const std::string& path)
 
 }  // namespace
 
-FileResult SaveGame(Game& game, bool dropConfirmed)
+FileResult SaveGame(Game& game, bool dropConfirmed, OtherChanges otherChanges)
 {
     if (!game.LoadDropped.empty() && !dropConfirmed)
         return {game.PlayersPath, "saving would lose what the load could not keep: " + game.LoadDropped};
@@ -37,7 +37,7 @@ FileResult SaveGame(Game& game, bool dropConfirmed)
     if (!lock.Held())
         return {game.PlayersPath, lock.Reason()};
     RecoverPair(folder);
-    if (!game.LoadedStamp.empty() && GameFilesStamp(game) != game.LoadedStamp)
+    if (otherChanges == OtherChanges::Refuse && FilesChangedSinceLoaded(game))
         return {game.PlayersPath, "the files were changed by another program since they were loaded; "
                                   "nothing was changed"};
     const PairSave save{folder, game.PlayersPath, game.TeamsPath, WritePlayers(game), WriteTeams(game),
@@ -49,6 +49,11 @@ FileResult SaveGame(Game& game, bool dropConfirmed)
         game.LoadedStamp = GameFilesStamp(save.playersBytes, save.teamsBytes);
     }
     return result;
+}
+
+bool FilesChangedSinceLoaded(const Game& game)
+{
+    return !game.LoadedStamp.empty() && GameFilesStamp(game) != game.LoadedStamp;
 }
 
 std::string GameFilesStamp(const std::string& playersBytes, const std::string& teamsBytes)

@@ -11,10 +11,16 @@ void PackSquad(Squad& squad)
     std::stable_partition(squad.begin() + 1, squad.end(), IsPlayerNumber);
 }
 
-void LeaveTeam(Game& game, std::int16_t player)
+// After `player` has left a squad: his teamNumber stays while that team
+// still holds him (a squad may name him twice), else it follows another
+// squad that does, and is 0 only when none is left.
+void SettleTeamNumber(Game& game, std::int16_t player)
 {
-    if (IsPlayerNumber(player))
-        game.Players[player].teamNumber = 0;
+    if (!IsPlayerNumber(player))
+        return;
+    std::int16_t& team = game.Players[player].teamNumber;
+    if (!IsInSquad(game, team, player))
+        team = PresentClub(game, player);
 }
 
 }  // namespace
@@ -99,8 +105,8 @@ std::int16_t DeleteFromSquad(Game& game, int team, int slot)
     if (!IsTeamIndex(team) || slot < 1 || slot > SquadSize)
         return 0;
     const std::int16_t player = game.Teams[team].squad[slot];
-    LeaveTeam(game, player);
     RemoveSquadSlot(game, team, slot);
+    SettleTeamNumber(game, player);
     return player;
 }
 
@@ -127,9 +133,9 @@ Replacement ReplaceInSquad(Game& game, int team, int row, std::int16_t candidate
     if (slot == 0)
         return result;
     result.replaced = game.Teams[team].squad[slot];
-    LeaveTeam(game, result.replaced);
     game.Players[candidate].teamNumber = static_cast<std::int16_t>(team);
     game.Teams[team].squad[slot] = candidate;
+    SettleTeamNumber(game, result.replaced);
     return result;
 }
 

@@ -38,8 +38,9 @@ bool IsInSquad(const Game& game, int team, std::int16_t player);
 // highest-numbered one, as the search window names his present club.
 std::int16_t PresentClub(const Game& game, std::int16_t player);
 
-// Deletes the player at `slot` from the squad of `team`: he keeps his record
-// but belongs to no team any more. Gives his number (0 for an empty place).
+// Deletes the player at `slot` from the squad of `team`: he keeps his record,
+// and his teamNumber names a team whose squad still holds him (a game may
+// list him in two), or 0 when none does. Gives his number (0 for an empty place).
 std::int16_t DeleteFromSquad(Game& game, int team, int slot);
 
 // Moves `candidate` to the end of the squad of `team`, out of whatever squad
@@ -48,8 +49,8 @@ std::int16_t DeleteFromSquad(Game& game, int team, int slot);
 std::int16_t AddToSquad(Game& game, int team, std::int16_t candidate);
 
 // Puts `candidate` into the place of row `row` of the squad of `team`. The
-// player he replaces belongs to no team afterwards; the candidate leaves
-// whatever squad held him. The caller has checked that the squad does not
+// player he replaces keeps a team only if another squad still holds him, as
+// after a delete; the candidate leaves whatever squad held him. The caller has checked that the squad does not
 // hold him already and that the row exists.
 struct Replacement {
     std::int16_t oldTeam = 0;    // the team the candidate left, 0 if none

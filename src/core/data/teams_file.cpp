@@ -1,9 +1,8 @@
 #include "data/teams_file.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
-#include <string>
+#include <string_view>
 
 #include "data/field_reader.h"
 #include "data/record_lines.h"
@@ -13,10 +12,9 @@ namespace {
 
 // The lines of a team before its squad; the last of them, empty, ends the file.
 constexpr int HeaderLines = TeamLayout.firstSquadLine - 1;
-using HeaderValues = std::array<std::optional<std::string>, HeaderLines>;
 
 // A number line gives 0 when empty and leaves the field alone when it is no number.
-void TakeNumber(const std::optional<std::string>& line, std::int16_t& field)
+void TakeNumber(const std::optional<std::string_view>& line, std::int16_t& field)
 {
     if (!line || line->empty()) {
         field = 0;
@@ -26,15 +24,24 @@ void TakeNumber(const std::optional<std::string>& line, std::int16_t& field)
         field = *value;
 }
 
-void TakeFields(const HeaderValues& header, TeamRecord& team)
+// Reads the lines before the squad into the team's fields and gives the last,
+// the sign that ends the file when it is empty. The key line plays no part: a
+// team is numbered by its place.
+std::string_view ReadHeader(FieldReader& reader, TeamRecord& team)
 {
-    for (const TeamField& field : TeamFields) {
-        const std::optional<std::string>& line = header[field.line - 1];
-        if (field.text)
-            TakeName(line, field, team);
-        else
-            TakeNumber(line, team.*field.number);
-    }
+    std::string_view last;
+    ForEachLine<1, HeaderLines>([&](auto lineConstant) {
+        constexpr int line = decltype(lineConstant)::value;
+        constexpr LineKind kind = KindOfLine(TeamLayout, line);
+        const auto text = reader.ReadView();
+        if constexpr (kind == LineKind::Name)
+            TakeName(text, FieldOnLine(TeamLayout, line), team);
+        else if constexpr (kind == LineKind::Number)
+            TakeNumber(text, team.*FieldOnLine(TeamLayout, line).number);
+        if constexpr (line == HeaderLines)
+            last = text.value_or(std::string_view{});
+    });
+    return last;
 }
 
 // Teams past the table's end, read only to be counted: records up to the one
@@ -46,7 +53,7 @@ int CountTeamsLeft(FieldReader& reader)
     while (!ended && !reader.AtEnd()) {
         bool anything = false;
         for (int line = 1; line <= TeamLayout.lines; ++line) {
-            const std::string value = reader.ReadText().value_or(std::string{});
+            const std::string_view value = reader.ReadView().value_or(std::string_view{});
             anything = anything || !value.empty();
             if (line == HeaderLines)
                 ended = value.empty();
@@ -62,9 +69,7 @@ LoadReport ReadTeams(Game& game, std::string_view bytes)
 {
     LoadReport report = LoadReport::For(std::string(TeamLayout.file));
     FieldReader reader(bytes);
-    std::string marker = "2";
-    int slot = 1;
-    while (!marker.empty()) {
+    for (int slot = 1;; ++slot) {
         if (slot > MaxTeams) {
             // The table is full: whatever follows is not read.
             game.TeamCount = TeamCountFor(MaxTeams);
@@ -72,22 +77,15 @@ LoadReport ReadTeams(Game& game, std::string_view bytes)
             break;
         }
         // Past the end of the file every line reads as empty, so a file that
-        // stops right after a team still ends with the closing pass. The key
-        // line plays no part: a team is numbered by its place.
-        HeaderValues header;
-        for (auto& line : header)
-            line = reader.ReadText();
-        marker = header.back().value_or(std::string{});
-
+        // stops right after a team still ends with the closing pass.
         TeamRecord& team = game.Teams[slot];
-        TakeFields(header, team);
+        const bool ended = ReadHeader(reader, team).empty();
         team.teamNumber = static_cast<std::int16_t>(slot);
-        for (int place = 1; place <= SquadSize; ++place) {
-            if (const auto player = reader.ReadNumber())
-                team.squad[place] = *player;
-        }
-        ++slot;
-        game.TeamCount = static_cast<std::int16_t>(slot);
+        for (int place = 1; place <= SquadSize; ++place)
+            reader.ReadNumberInto(team.squad[place]);
+        game.TeamCount = static_cast<std::int16_t>(slot + 1);
+        if (ended)
+            break;
     }
     report.valuesAfterEnd = CountValuesLeft(reader);
     return report;
@@ -95,10 +93,10 @@ LoadReport ReadTeams(Game& game, std::string_view bytes)
 
 std::string WriteTeams(const Game& game)
 {
-    TextLines out;
     const int count = LoadedTeamCount(game);
+    TextLines out(ExpectedBytes(TeamLayout, count));
     for (int i = 1; i <= count; ++i)
-        WriteRecordLines(out, TeamLayout, game.Teams[i], i);
+        WriteRecordLines<TeamLayout>(out, game.Teams[i], i);
     out.EmptyLines(TeamLayout.closingEmptyLines);
     return out.Take();
 }

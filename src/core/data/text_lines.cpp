@@ -1,20 +1,30 @@
 #include "data/text_lines.h"
 
-void TextLines::Line(std::string_view text)
-{
-    bytes_.append(text);
-    bytes_.append("\r\n");
-}
-
-void TextLines::Number(int value)
-{
-    Line(std::to_string(value));
-}
+#include <algorithm>
+#include <charconv>
 
 void TextLines::EmptyLines(int count)
 {
     for (int i = 0; i < count; ++i)
-        bytes_.append("\r\n");
+        EndLine(Room(2));
+}
+
+void TextLines::AnyNumber(int value)
+{
+    char* at = Room(LongestNumber + 2);
+    EndLine(std::to_chars(at, at + LongestNumber, value).ptr);
+}
+
+std::string TextLines::Take()
+{
+    bytes_.resize(used_);
+    used_ = 0;
+    return std::move(bytes_);
+}
+
+void TextLines::Grow(std::size_t count)
+{
+    bytes_.resize(std::max(2 * bytes_.size(), used_ + count + 4096));
 }
 
 std::string TrimBlanks(std::string_view text)

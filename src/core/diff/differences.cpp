@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "data/fields.h"
+#include "data/record_titles.h"
 #include "data/squad.h"
 #include "data/utf8.h"
 
@@ -12,26 +13,9 @@ namespace {
 constexpr std::string_view PlayersFile = PlayerLayout.file;
 constexpr std::string_view TeamsFile = TeamLayout.file;
 
-// A player as a person reads him: "A J Example" (UTF-8).
-std::string PlayerLabel(const PlayerRecord& player)
-{
-    const std::string name = player.initials.empty() ? player.surname : player.initials + " " + player.surname;
-    return Utf8FromCp1252(name);
-}
-
 std::string Quoted(const std::string& cp1252)
 {
     return "\"" + Utf8FromCp1252(cp1252) + "\"";
-}
-
-std::string PlayerTitle(const Game& game, int number)
-{
-    return "player " + std::to_string(number) + " (" + PlayerLabel(game.Players[number]) + ")";
-}
-
-std::string TeamTitle(const Game& game, int number)
-{
-    return "team " + std::to_string(number) + " (" + Utf8FromCp1252(game.Teams[number].teamName) + ")";
 }
 
 // A coded value with its word, "2 (England)", so that a person need not look it up.

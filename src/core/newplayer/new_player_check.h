@@ -32,9 +32,9 @@ struct NewPlayerEntries {
 
 using EntryBox = std::string NewPlayerEntries::*;
 
-// The boxes that must hold a number, each with the field it fills: the three
-// parts of the date of birth and the six skills. Their ranges are the field
-// table's. The names may be anything, empty included.
+// The boxes that must hold a number, each with the field it fills, in the
+// window's order: the three parts of the date of birth, then the six skills.
+// Their ranges are the field table's.
 struct NumberBox {
     EntryBox box;
     std::int16_t PlayerRecord::*field;
@@ -50,6 +50,7 @@ inline constexpr std::array<NumberBox, 9> NumberBoxes{{
     {&NewPlayerEntries::fieldAbility, &PlayerRecord::fieldAbility},
     {&NewPlayerEntries::potential, &PlayerRecord::potential},
 }};
+inline constexpr std::size_t DateBoxCount = 3;  // the first three boxes above
 
 // The lists of the window, each with the coded field it fills.
 struct CodeBox {
@@ -65,12 +66,15 @@ inline constexpr std::array<CodeBox, 6> CodeBoxes{{
     {&NewPlayerEntries::fieldsAt, &PlayerRecord::fieldsAt},
 }};
 
-// Whether every number box holds a number and every skill lies in its range;
-// the date of birth has none, so 31 February and month 0 pass.
-// A pasted value is judged as written, before any rounding: 60.4 is too much.
+// Whether the player has initials and a surname (blanks alone are none),
+// every number box holds a number, the date of birth is a day that exists
+// (no 31 February, 29 February in leap years only) and every skill lies in
+// its range. A pasted value is judged as written, before any rounding: 60.4
+// is too much, and a day of 14.5 does not exist.
 bool EntriesAreGood(const NewPlayerEntries& entries);
-// The first box that is not good, said for the person typing ("Bat skill
-// must lie from 0 to 60, not 75."); nothing when all are.
+// The first box that is not good, in the window's order (names, date, skills),
+// said for the person typing ("Bat skill must lie from 0 to 60, not 75.",
+// "Date of birth 31/2/1990 does not exist."); nothing when all are.
 std::optional<std::string> FirstBadEntry(const NewPlayerEntries& entries);
 
 // Whether the player table has a free number for one more player.
@@ -78,7 +82,7 @@ bool CanAddNewPlayer(const Game& game);
 
 enum class NewPlayerOutcome {
     Added,
-    BadEntries,  // a number box is empty, holds no number, or is out of range
+    BadEntries,  // a name is empty, a number box holds no number or is out of range, or the date does not exist
     TableFull,   // the game already holds its 2000 players
     NoTeam,      // `team` is no team of the table
     SquadFull,   // the squad already holds 20 players

@@ -163,6 +163,11 @@ std::vector<std::int16_t> FindPlayers(const Game& game, std::string_view typed)
     return numbers;
 }
 
+void AppendNameKey(std::string& out, std::string_view text)
+{
+    AppendKey(out, text);
+}
+
 std::vector<std::int16_t> PresentClubs(const Game& game)
 {
     // Teams in ascending order, so the highest-numbered holder is the one left.

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -19,6 +20,10 @@
 // holds it, then the rest; each group A to Z by surname, then initials, then
 // number. A blank text finds nobody.
 std::vector<std::int16_t> FindPlayers(const Game& game, std::string_view typed);
+
+// Adds `text` to `out` as Find Player compares names: letters folded to
+// small ones as above, blanks and dots left out ("A. J." adds "aj").
+void AppendNameKey(std::string& out, std::string_view text);
 
 // The club of every player from 0 to 2000 as PresentClub names it (0 for
 // none), found in one walk over the squads rather than one for each player.

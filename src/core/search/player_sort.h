@@ -17,9 +17,9 @@ enum class SortKey {
 };
 inline constexpr int SortKeyCount = 7;
 
-// Told the progress bar's width in twips, 0 to 2500, once for each pair of
-// sweeps over the rows.
-using SortProgress = std::function<void(double widthTwips)>;
+// Told how far the sort has come, from 0 to 1, once for each pair of sweeps
+// over the rows.
+using SortProgress = std::function<void(double done)>;
 
 // Sorts the rows in place, stable: rows whose keys are equal keep their
 // order. Surnames compare by character code, capitals before small letters;

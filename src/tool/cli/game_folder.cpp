@@ -1,5 +1,7 @@
 #include "cli/game_folder.h"
 
+#include "data/file_steps.h"
+#include "data/folder_lock.h"
 #include "data/load_game.h"
 
 namespace {
@@ -30,6 +32,12 @@ LoadedGame LoadGameBeside(const std::string& directory, const std::string& suffi
     return Load(directory, suffix);
 }
 
+bool OnlyMissingFilesUnread(const LoadedGame& loaded)
+{
+    return (loaded.players.Read() || !Exists(loaded.game->PlayersPath)) &&
+           (loaded.teams.Read() || !Exists(loaded.game->TeamsPath));
+}
+
 std::string UnreadFiles(const LoadedGame& loaded)
 {
     const auto unread = [](const std::string& path, const LoadReport& report) {
@@ -50,4 +58,11 @@ void TellRecovery(const LoadedGame& loaded, std::string_view command, std::ostre
 {
     if (!loaded.recovered.empty())
         err << "kolta-data " << command << ": " << loaded.recovered << '\n';
+}
+
+void TellOpenEditor(const std::string& directory, std::string_view command, std::ostream& err)
+{
+    if (EditorHasFolderOpen(directory))
+        err << "kolta-data " << command << ": an editor has " << directory
+            << " open and still holds the game as it was before\n";
 }

@@ -27,7 +27,9 @@ constexpr std::string_view Usage =
     "listed by its line and nothing is changed. Otherwise the changes are listed\n"
     "and both files are saved as the editor saves them, the old ones kept as .bak.\n"
     "A CSV file that is there but cannot be read stops the import. So does a game\n"
-    "whose load could not keep everything its files hold, unless --force.\n"
+    "whose load could not keep everything its files hold, unless --force. After a\n"
+    "save, an editor that has DIR open is told of on the error stream: it still\n"
+    "holds the game as it was before the import.\n"
     "  --dry-run   list the changes and save nothing\n"
     "  --force     save even without what the load could not keep\n"
     "Exit 0 on success, 1 when the import was refused, 2 when a file can't be read\n"
@@ -92,6 +94,7 @@ int RunImport(const CommandLine& line, std::ostream& out, std::ostream& err)
         return ExitFailed;
     }
     out << "Saved " << changes.size() << " changes; the old files are kept as .bak.\n";
+    TellOpenEditor(line.positional[0], "import", err);
     return ExitOk;
 }
 

@@ -15,7 +15,8 @@ constexpr std::string_view Usage =
     "  PlayerCount=N   the number of the last player read from players.dat\n"
     "  TeamCount=N     two above the number of teams read from teams.dat\n"
     "A missing file loads as the editor loads it (no players, or no teams)\n"
-    "and is reported on the error stream. Exit 0, or 2 when neither file can be read.\n";
+    "and is reported on the error stream. Exit 0, or 2 when neither file is\n"
+    "there or one is there but cannot be read (a pipe, a device, a folder).\n";
 
 void PrintSummary(const Game& game, std::ostream& out)
 {
@@ -55,7 +56,7 @@ int RunInfo(const CommandLine& line, std::ostream& out, std::ostream& err)
     const std::string& directory = line.positional[0];
     const LoadedGame loaded = LoadGameFolder(directory);
     TellRecovery(loaded, "info", err);
-    if (!loaded.players.Read() && !loaded.teams.Read()) {
+    if ((!loaded.players.Read() && !loaded.teams.Read()) || !OnlyMissingFilesUnread(loaded)) {
         err << "kolta-data info: cannot read " << UnreadFiles(loaded) << '\n';
         return ExitFailed;
     }

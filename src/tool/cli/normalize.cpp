@@ -15,7 +15,8 @@ constexpr std::string_view Usage =
     "changed when either file is missing or a name cannot be stored, nor when the\n"
     "load could not keep everything the files hold (teams past 500, players past\n"
     "2000, records after the one that ends the file, records without a usable\n"
-    "number): the message says what would be lost.\n"
+    "number): the message says what would be lost. After a save, an editor that\n"
+    "has DIR open is told of on the error stream: it still holds the old game.\n"
     "  --force   save even so, without what the load could not keep\n"
     "Exit 0 on success, 1 when the save was refused, 2 when a file can't be read\n"
     "or written.\n";
@@ -43,6 +44,7 @@ int RunNormalize(const CommandLine& line, std::ostream& out, std::ostream& err)
         return ExitFailed;
     }
     out << "Wrote " << game.PlayersPath << " and " << game.TeamsPath << '\n';
+    TellOpenEditor(line.positional[0], "normalize", err);
     return ExitOk;
 }
 

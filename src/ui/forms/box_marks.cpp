@@ -16,7 +16,9 @@ QColor TintOf(BoxMark mark)
 
 void MarkBox(QLineEdit& box, BoxMark mark, const QString& why)
 {
-    if (MarkOf(box) == mark && box.toolTip() == why)
+    // Each mark has reasons of its own and a plain box none, so the same
+    // reason is the same mark; asking for the mark itself costs far more.
+    if (box.toolTip() == why)
         return;
     box.setProperty(MarkProperty, int(mark));
     if (mark == BoxMark::Plain) {

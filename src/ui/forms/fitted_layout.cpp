@@ -4,18 +4,24 @@
 #include <algorithm>
 #include <cmath>
 
-#include "forms/twips.h"
+#include "forms/design_scale.h"
 
 namespace {
 
-int Stretch(int twips, double factor)
+int Stretch(int designed, double factor)
 {
-    return static_cast<int>(std::lround(twips * factor));
+    return static_cast<int>(std::lround(designed * factor));
+}
+
+QRect Stretch(const QRect& designed, double factor)
+{
+    return QRect(Stretch(designed.left(), factor), Stretch(designed.top(), factor), Stretch(designed.width(), factor),
+                 Stretch(designed.height(), factor));
 }
 
 }  // namespace
 
-FittedLayout::FittedLayout(QWidget* area, QSize areaTwips) : area_(area), areaTwips_(areaTwips) {}
+FittedLayout::FittedLayout(QWidget* area, QSize designed) : area_(area), designed_(designed) {}
 
 void FittedLayout::Apply()
 {
@@ -24,15 +30,12 @@ void FittedLayout::Apply()
     double factor = 1.0;
     for (const Placed& item : placed_) {
         if (item.mustFit)
-            factor = std::max(factor, double(item.control->sizeHint().width() + Slack) /
-                                          Twips(item.twips.width()));
+            factor = std::max(factor,
+                              double(item.control->sizeHint().width() + Slack) / DesignPixels(item.designed.width()));
     }
     std::vector<QRect> pixels;
-    for (const Placed& item : placed_) {
-        const QRect& r = item.twips;
-        pixels.push_back(TwipRect(Stretch(r.left(), factor), Stretch(r.top(), factor), Stretch(r.width(), factor),
-                                  Stretch(r.height(), factor)));
-    }
+    for (const Placed& item : placed_)
+        pixels.push_back(DesignRect(Stretch(item.designed, factor)));
     // A control inside a group placed here stands where it would stand on the
     // area itself.
     for (std::size_t i = 0; i < placed_.size(); ++i) {
@@ -43,5 +46,5 @@ void FittedLayout::Apply()
         }
         placed_[i].control->setGeometry(at);
     }
-    area_->setFixedSize(TwipSize(Stretch(areaTwips_.width(), factor), Stretch(areaTwips_.height(), factor)));
+    area_->setFixedSize(DesignSize(QSize(Stretch(designed_.width(), factor), Stretch(designed_.height(), factor))));
 }

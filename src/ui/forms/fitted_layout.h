@@ -5,21 +5,22 @@
 
 class QWidget;
 
-// Places controls by their rectangles in twips, then stretches the whole
-// arrangement alike until the widest caption or list entry fits its control.
-// The toolkit's fonts are wider than those the layout was drawn for, and
-// stretching everything by one factor keeps the columns and rows in line.
+// Places controls by the rectangles of the window's design, then stretches
+// the whole arrangement alike until the widest caption or list entry fits its
+// control. The toolkit's fonts are wider than those the design was drawn for,
+// and stretching everything by one factor keeps the columns and rows in line.
 class FittedLayout {
 public:
-    explicit FittedLayout(QWidget* area, QSize areaTwips);
+    // `area` is given the design's size, stretched as its controls are.
+    FittedLayout(QWidget* area, QSize designed);
 
     // `mustFit`: the control's own preferred width (caption, widest entry)
     // must fit the width it is given. Rectangles are those of the area, also
     // for a control inside a group of controls that is placed here too.
     template <typename Control>
-    Control* Put(Control* control, QRect twips, bool mustFit = false)
+    Control* Put(Control* control, QRect designed, bool mustFit = false)
     {
-        placed_.push_back({control, twips, mustFit});
+        placed_.push_back({control, designed, mustFit});
         return control;
     }
 
@@ -29,10 +30,10 @@ public:
 private:
     struct Placed {
         QWidget* control;
-        QRect twips;
+        QRect designed;
         bool mustFit;
     };
     QWidget* area_;
-    QSize areaTwips_;
+    QSize designed_;
     std::vector<Placed> placed_;
 };

@@ -22,11 +22,6 @@ std::string ToGame(const QString& text)
     return EncodeCp1252(units, ok);
 }
 
-bool IsStorableName(const QString& text)
-{
-    return !NameRefusalOf(text);
-}
-
 std::optional<QString> NameRefusalOf(const QString& text)
 {
     for (QChar c : text) {
@@ -36,14 +31,4 @@ std::optional<QString> NameRefusalOf(const QString& text)
     if (const auto refusal = NameRefusal(ToGame(text)))
         return QString::fromStdString(*refusal);
     return std::nullopt;
-}
-
-std::function<bool(const QString&)> NameRule(std::function<void(const QString& why)> tell)
-{
-    return [tell = std::move(tell)](const QString& text) {
-        const auto refusal = NameRefusalOf(text);
-        if (refusal)
-            tell(*refusal);
-        return !refusal;
-    };
 }

@@ -1,7 +1,6 @@
 #include "forms/message_box.h"
 
 #include <QApplication>
-#include <QMessageBox>
 
 namespace {
 
@@ -17,73 +16,40 @@ std::vector<ShownMessage>& Shown()
     return shown;
 }
 
-QMessageBox::Icon IconFor(int flags)
+// The first of `candidates` that the box has.
+QMessageBox::StandardButton FirstOf(QMessageBox::StandardButtons buttons,
+                                    std::initializer_list<QMessageBox::StandardButton> candidates)
 {
-    switch (flags & 0x70) {
-    case MbCritical:
-        return QMessageBox::Critical;
-    case 32:
-        return QMessageBox::Question;
-    case MbExclamation:
-        return QMessageBox::Warning;
-    case MbInformation:
-        return QMessageBox::Information;
-    default:
-        return QMessageBox::NoIcon;
+    for (QMessageBox::StandardButton button : candidates) {
+        if (buttons.testFlag(button))
+            return button;
     }
+    return QMessageBox::Ok;
 }
 
-// Buttons in the order they stand on the box; the first is the default.
-QList<QMessageBox::StandardButton> ButtonsFor(int flags)
+QMessageBox::StandardButton EscapeAnswer(QMessageBox::StandardButtons buttons)
 {
-    switch (flags & 7) {
-    case MbYesNoCancel:
-        return {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
-    case MbYesNo:
-        return {QMessageBox::Yes, QMessageBox::No};
-    default:
-        return {QMessageBox::Ok};
-    }
+    return FirstOf(buttons, {QMessageBox::Cancel, QMessageBox::No, QMessageBox::Ok});
 }
 
-int Answer(QMessageBox::StandardButton button)
+QMessageBox::StandardButton ShowBox(const ShownMessage& message)
 {
-    switch (button) {
-    case QMessageBox::Yes:
-        return IdYes;
-    case QMessageBox::No:
-        return IdNo;
-    case QMessageBox::Cancel:
-        return IdCancel;
-    default:
-        return IdOk;
-    }
-}
-
-int ShowBox(const ShownMessage& message)
-{
-    QMessageBox box(IconFor(message.flags), message.title, message.text, QMessageBox::NoButton,
-                    QApplication::activeWindow());
-    const QList<QMessageBox::StandardButton> buttons = ButtonsFor(message.flags);
-    for (QMessageBox::StandardButton button : buttons)
-        box.addButton(button);
-    box.setDefaultButton(buttons.front());
-    // Escape answers Cancel where there is one, otherwise No, otherwise OK.
-    box.setEscapeButton(buttons.back());
+    QMessageBox box(message.icon, message.title, message.text, message.buttons, QApplication::activeWindow());
+    box.setDefaultButton(FirstOf(message.buttons, {QMessageBox::Yes, QMessageBox::Ok}));
+    box.setEscapeButton(EscapeAnswer(message.buttons));
     box.exec();
     QAbstractButton* clicked = box.clickedButton();
-    return Answer(clicked ? box.standardButton(clicked) : buttons.back());
+    return clicked ? box.standardButton(clicked) : EscapeAnswer(message.buttons);
 }
 
 }  // namespace
 
-int MsgBox(const QString& text, int flags, const QString& title)
+QMessageBox::StandardButton ShowMessage(QMessageBox::Icon icon, const QString& title, const QString& text,
+                                        QMessageBox::StandardButtons buttons)
 {
-    Shown().push_back(ShownMessage{text, flags, title});
-    const ShownMessage& message = Shown().back();
-    if (Answerer())
-        return Answerer()(ShownMessage(message));
-    return ShowBox(ShownMessage(message));
+    Shown().push_back(ShownMessage{icon, title, text, buttons});
+    const ShownMessage message = Shown().back();
+    return Answerer() ? Answerer()(message) : ShowBox(message);
 }
 
 void SetMessageAnswerer(MessageAnswerer answerer)

@@ -1,132 +1,88 @@
 #include "forms/player_column.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <stdexcept>
-#include <string_view>
 
-#include "data/fields.h"
-#include "forms/box_marks.h"
-#include "forms/combo_box.h"
+#include "forms/drop_down.h"
 #include "forms/fitted_layout.h"
 #include "forms/game_text.h"
 #include "forms/text_box.h"
-#include "forms/value_boxes.h"
 
 namespace {
-
-// The fields a window shows, in the order of the table: those with a caption.
-constexpr std::array<const PlayerField*, PlayerBoxCount> ShownFields = [] {
-    std::array<const PlayerField*, PlayerBoxCount> shown{};
-    std::size_t count = 0;
-    for (const PlayerField& field : PlayerFields) {
-        if (!field.label.empty())
-            shown.at(count++) = &field;
-    }
-    if (count != shown.size())
-        throw "every captioned field has a box";
-    return shown;
-}();
-
-// PlayerBox names the boxes in the table's order.
-constexpr bool BoxesFollowTheTable()
-{
-    constexpr std::array<std::string_view, PlayerBoxCount> names{
-        "initials", "surname", "birthDay", "birthMonth", "birthYear", "homeCountry", "batPosition", "bats",
-        "batSkill", "batAggression", "bowlType", "bowls", "bowlSkill", "bowlEconomy", "fieldAbility", "fieldsAt",
-        "potential",
-    };
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        if (ShownFields[i]->name != names[i])
-            return false;
-    }
-    return true;
-}
-static_assert(BoxesFollowTheTable());
-
-const PlayerField& FieldOf(PlayerBox box)
-{
-    return *ShownFields[std::size_t(box)];
-}
-
-// Fields that share a caption share a row.
-bool StartsRow(int index)
-{
-    return index == 0 || ShownFields[std::size_t(index - 1)]->label != ShownFields[std::size_t(index)]->label;
-}
-
-// The boxes in the order they are shown: the codes, the date of birth, the
-// skills, then the name.
-constexpr std::array<PlayerBox, PlayerBoxCount> ShowOrder{
-    PlayerBox::HomeCountry, PlayerBox::BatPosition, PlayerBox::Bats, PlayerBox::BowlType, PlayerBox::Bowls,
-    PlayerBox::FieldsAt, PlayerBox::BirthDay, PlayerBox::BirthMonth, PlayerBox::BirthYear, PlayerBox::BatSkill,
-    PlayerBox::BatAggression, PlayerBox::BowlSkill, PlayerBox::BowlEconomy, PlayerBox::FieldAbility,
-    PlayerBox::Potential, PlayerBox::Initials, PlayerBox::Surname,
-};
 
 QRect Bounds(const PlayerColumnPlaces& places)
 {
     QRect bounds;
-    for (const QRect& r : places.captions)
-        bounds = bounds.united(r);
-    for (const QRect& r : places.boxes)
-        bounds = bounds.united(r);
-    for (const QRect& r : places.dateSlashes)
-        bounds = bounds.united(r);
+    for (const auto* rects : {&places.captions, &places.boxes, &places.slashes}) {
+        for (const QRect& r : *rects)
+            bounds = bounds.united(r);
+    }
     return bounds;
 }
 
 }  // namespace
 
-PlayerColumn::PlayerColumn(FittedLayout& at, const PlayerColumnPlaces& places, QWidget* parent)
-    : QWidget(parent)
+PlayerColumn::PlayerColumn(FittedLayout& at, const PlayerColumnDesign& design, QWidget* parent)
+    : QWidget(parent), fields_(ShownPlayerFields())
 {
+    const PlayerColumnPlaces places = PlacePlayerColumn(design);
     at.Put(this, Bounds(places));
     const auto caption = [&](std::string_view words, QRect rect, bool mustFit) {
         return at.Put(new QLabel(FromGame(words), this), rect, mustFit);
     };
     std::size_t row = 0;
     std::size_t slashes = 0;
-    for (int index = 0; index < PlayerBoxCount; ++index) {
-        const PlayerField& field = FieldOf(PlayerBox(index));
-        if (StartsRow(index)) {
+    for (std::size_t index = 0; index < fields_.size(); ++index) {
+        const PlayerField& field = *fields_[index];
+        if (index == 0 || fields_[index - 1]->label != field.label) {
             QLabel* label = caption(field.label, places.captions.at(row++), true);
-            if (places.boldCaptions) {
+            if (design.boldCaptions) {
                 QFont bold = label->font();
                 bold.setBold(true);
                 label->setFont(bold);
             }
         } else if (field.kind == FieldKind::Number) {
             // The parts of a date stand apart, as they are written.
-            caption("/", places.dateSlashes.at(slashes++), places.slashesMustFit)->setAlignment(places.slashAlignment);
+            caption("/", places.slashes.at(slashes++), design.slashesMustFit)->setAlignment(design.slashAlignment);
         }
         QWidget* value = nullptr;
         if (field.kind == FieldKind::Code) {
-            auto* list = at.Put(new ComboBox(this), places.boxes[std::size_t(index)], true);
-            for (std::string_view word : field.codes->words)
-                list->AddItem(FromGame(word));
-            value = list;
+            value = at.Put(NewWordList(this, field.codes->words), places.boxes.at(index), true);
         } else {
-            auto* text = at.Put(new TextBox(this), places.boxes[std::size_t(index)]);
+            auto* text = at.Put(new TextBox(this), places.boxes.at(index));
             // The files cannot carry a comma in a name or a name that opens
             // with a double quote, so the name boxes refuse both as they are
             // typed or pasted.
-            if (field.kind == FieldKind::Name)
-                text->SetTextRule(NameRule([this](const QString& why) { emit nameRefused(why); }));
+            if (field.kind == FieldKind::Name) {
+                text->SetTextRule(NameRefusalOf);
+                connect(text, &TextBox::refused, this, &PlayerColumn::nameRefused);
+            }
             value = text;
         }
         value->setObjectName(FromGame(field.name));
-        boxes_[std::size_t(index)] = value;
+        boxes_.push_back(value);
+        records_.Add(value, field);
     }
+    records_.Connect(this, [this](const PlayerField& field, const TypedValue& value) { emit edited(field, value); });
 }
 
-TextBox* PlayerColumn::Text(PlayerBox box) const
+QWidget* PlayerColumn::Box(std::string PlayerRecord::*field) const
 {
-    return static_cast<TextBox*>(Box(box));
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        if (fields_[i]->text == field)
+            return boxes_[i];
+    }
+    throw std::logic_error("a name the column has no box for");
 }
 
-ComboBox* PlayerColumn::Codes(PlayerBox box) const
+QWidget* PlayerColumn::Box(std::int16_t PlayerRecord::*field) const
 {
-    return static_cast<ComboBox*>(Box(box));
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        if (fields_[i]->number == field)
+            return boxes_[i];
+    }
+    throw std::logic_error("a number the column has no box for");
 }
 
 void PlayerColumn::SetReadOnly(bool readOnly)
@@ -140,89 +96,60 @@ void PlayerColumn::SetReadOnly(bool readOnly)
 
 void PlayerColumn::Show(const PlayerRecord& player)
 {
-    for (PlayerBox box : ShowOrder) {
-        const PlayerField& field = FieldOf(box);
-        const int before = field.kind == FieldKind::Code ? Codes(box)->ListIndex() : -1;
-        ShowField(*Box(box), field, player);
-        if (readOnly_ && field.kind == FieldKind::Code && Codes(box)->ListIndex() < 0)
-            ShowCodeEntry(*Codes(box), before);
-    }
+    records_.Show(player, readOnly_);
+}
+
+void PlayerColumn::Refresh(const PlayerRecord& player)
+{
+    records_.Refresh(player);
 }
 
 void PlayerColumn::ShowNothing()
 {
-    for (PlayerBox box : ShowOrder) {
-        if (FieldOf(box).kind == FieldKind::Code) {
-            ShowCodeEntry(*Codes(box), -1);
-        } else {
-            ShowText(*Text(box), QString());
-            MarkBox(*Text(box), BoxMark::Plain, QString());
-        }
-    }
+    records_.ShowNothing();
 }
 
 QString PlayerColumn::MarkNumberBoxes(const PlayerRecord& player)
 {
-    QString focused;
-    for (PlayerBox box : ShowOrder) {
-        if (FieldOf(box).kind != FieldKind::Number)
-            continue;
-        const QString said = MarkNumberBox(*Text(box), FieldOf(box), player);
-        if (Text(box)->hasFocus())
-            focused = said;
-    }
-    return focused;
-}
-
-bool PlayerColumn::WriteBack(PlayerRecord& player) const
-{
-    bool nameChanged = false;
-    for (PlayerBox box : ShowOrder)
-        nameChanged = StoreField(*Box(box), FieldOf(box), player) || nameChanged;
-    return nameChanged;
+    return records_.MarkNumberBoxes(player);
 }
 
 NewPlayerEntries PlayerColumn::Entries() const
 {
-    const auto boxOf = [this](std::int16_t PlayerRecord::*member) {
-        for (int index = 0; index < PlayerBoxCount; ++index) {
-            if (FieldOf(PlayerBox(index)).number == member)
-                return PlayerBox(index);
-        }
-        throw std::logic_error("a new player's entry without a box");
-    };
+    const auto text = [this](auto field) { return ToGame(static_cast<const TextBox*>(Box(field))->text()); };
     NewPlayerEntries entries;
-    entries.initials = ToGame(Text(PlayerBox::Initials)->Text());
-    entries.surname = ToGame(Text(PlayerBox::Surname)->Text());
+    entries.initials = text(&PlayerRecord::initials);
+    entries.surname = text(&PlayerRecord::surname);
     for (const NumberBox& number : NumberBoxes)
-        entries.*number.box = ToGame(Text(boxOf(number.field))->Text());
+        entries.*number.box = text(number.field);
     for (const CodeBox& code : CodeBoxes)
-        entries.*code.row = Codes(boxOf(code.field))->ListIndex();
+        entries.*code.row = static_cast<const QComboBox*>(Box(code.field))->currentIndex();
     return entries;
 }
 
 QString PlayerColumn::ShownName() const
 {
-    return Text(PlayerBox::Initials)->Text() + QLatin1Char(' ') + Text(PlayerBox::Surname)->Text();
+    const auto text = [this](std::string PlayerRecord::*field) { return static_cast<const TextBox*>(Box(field))->text(); };
+    return text(&PlayerRecord::initials) + QLatin1Char(' ') + text(&PlayerRecord::surname);
 }
 
 void PlayerColumn::ChooseFirstEntries()
 {
-    for (int index = 0; index < PlayerBoxCount; ++index) {
-        if (FieldOf(PlayerBox(index)).kind == FieldKind::Code)
-            Codes(PlayerBox(index))->setCurrentIndex(0);
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        if (fields_[i]->kind == FieldKind::Code)
+            static_cast<QComboBox*>(boxes_[i])->setCurrentIndex(0);
     }
 }
 
-void PlayerColumn::LimitLength(PlayerBox box, int length)
+void PlayerColumn::LimitLength(std::int16_t PlayerRecord::*field, int length)
 {
-    Text(box)->setMaxLength(length);
+    static_cast<TextBox*>(Box(field))->setMaxLength(length);
 }
 
-void PlayerColumn::SetNumberKeyFilter(const std::function<void(int& keyAscii)>& filter)
+void PlayerColumn::SetNumberKeyFilter(const std::function<bool(const QKeyEvent& key)>& passes)
 {
-    for (int index = 0; index < PlayerBoxCount; ++index) {
-        if (FieldOf(PlayerBox(index)).kind == FieldKind::Number)
-            Text(PlayerBox(index))->SetKeyFilter(filter);
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        if (fields_[i]->kind == FieldKind::Number)
+            static_cast<TextBox*>(boxes_[i])->SetKeyFilter(passes);
     }
 }

@@ -7,17 +7,17 @@ bool RefuseFullSquad(int playersInSquad)
 {
     if (playersInSquad < SquadSize)
         return false;
-    MsgBox(QStringLiteral("You already have the maximum of 20 players in the squad."), MbInformation,
-           QStringLiteral("Maximum Players"));
+    ShowMessage(QMessageBox::Information, QStringLiteral("Maximum Players"),
+                QStringLiteral("You already have the maximum of 20 players in the squad."));
     return true;
 }
 
 void RefuseNoTeam(const QString& title)
 {
-    MsgBox(QStringLiteral("A team must be selected first."), MbInformation, title);
+    ShowMessage(QMessageBox::Information, title, QStringLiteral("A team must be selected first."));
 }
 
 void RefuseNoPlayer(const QString& title)
 {
-    MsgBox(QStringLiteral("No Player Selected"), MbInformation, title);
+    ShowMessage(QMessageBox::Information, title, QStringLiteral("No Player Selected"));
 }

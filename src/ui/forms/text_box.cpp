@@ -1,22 +1,11 @@
 #include "forms/text_box.h"
 
-#include "data/cp1252.h"
-#include "forms/beep.h"
-
 #include <QKeyEvent>
 #include <algorithm>
 
-namespace {
+#include "forms/beep.h"
 
-// The code a typed character has in the game's code page, as the key filters
-// expect it; a character outside the code page keeps its Unicode value, which
-// no filter takes for a letter or digit.
-int KeyCode(QChar c)
-{
-    bool ok = false;
-    const std::string byte = EncodeCp1252(std::u16string(1, c.unicode()), ok);
-    return ok ? static_cast<unsigned char>(byte.front()) : c.unicode();
-}
+namespace {
 
 // Keys that type text, as opposed to commands (arrows, Tab, shortcuts).
 // AltGr arrives as Ctrl+Alt on some systems and still types.
@@ -30,6 +19,14 @@ bool TypesText(const QKeyEvent& event)
     return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) { return c.isPrint(); });
 }
 
+// Enter and Backspace, unless they come with a command key.
+bool IsEditKey(const QKeyEvent& event)
+{
+    const bool command = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const int key = event.key();
+    return !command && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Backspace);
+}
+
 }  // namespace
 
 TextBox::TextBox(QWidget* parent)
@@ -38,18 +35,22 @@ TextBox::TextBox(QWidget* parent)
     // Every change a person makes, whether typed, pasted, dropped or undone,
     // comes through textEdited; the program's own setText does not.
     connect(this, &QLineEdit::textEdited, this, [this](const QString& edited) {
-        if (reverting_)
+        if (reverting_ || !textRule_)
             return;
-        if (textRule_ && !textRule_(edited)) {
+        if (const std::optional<QString> why = textRule_(edited)) {
             RevertEdit(edited);
             Beep();
-            return;
+            emit refused(*why);
         }
-        lastAccepted_ = edited;
     });
+    // A refused edit is taken back by the handler above, whichever of the
+    // two signals comes first; here it is only left untold.
     connect(this, &QLineEdit::textChanged, this, [this] {
-        if (!reverting_)
-            lastAccepted_ = text();
+        if (reverting_ || text() == lastAccepted_ || (textRule_ && textRule_(text())))
+            return;
+        lastAccepted_ = text();
+        if (!showing_)
+            emit edited(lastAccepted_);
     });
 }
 
@@ -62,6 +63,15 @@ void TextBox::SetTextRule(TextRule rule)
 {
     textRule_ = std::move(rule);
     lastAccepted_ = text();
+}
+
+void TextBox::ShowText(const QString& text)
+{
+    showing_ = true;
+    setText(text);
+    showing_ = false;
+    lastAccepted_ = text;
+    setCursorPosition(0);
 }
 
 void TextBox::RevertEdit(const QString& edited)
@@ -77,58 +87,10 @@ void TextBox::RevertEdit(const QString& edited)
 
 void TextBox::keyPressEvent(QKeyEvent* event)
 {
-    if (!keyFilter_ || isReadOnly()) {
-        QLineEdit::keyPressEvent(event);
-        return;
-    }
-
-    const int key = event->key();
-    const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    int code = 0;
-    if (!command && (key == Qt::Key_Return || key == Qt::Key_Enter))
-        code = 13;
-    else if (!command && key == Qt::Key_Backspace)
-        code = 8;
-    else if (!TypesText(*event)) {
-        QLineEdit::keyPressEvent(event);
-        return;
-    }
-
-    if (code != 0) {
-        keyFilter_(code);
-        if (code == 0) {
-            event->accept();
-            Beep();
-            return;
-        }
-        QLineEdit::keyPressEvent(event);
-        return;
-    }
-
-    // A key may type more than one character (dead keys, input helpers).
-    QString typed;
-    bool changed = false;
-    for (QChar c : event->text()) {
-        const int original = KeyCode(c);
-        int filtered = original;
-        keyFilter_(filtered);
-        if (filtered == 0) {
-            event->accept();
-            Beep();
-            return;
-        }
-        if (filtered != original) {
-            changed = true;
-            typed += QChar(filtered < 256 ? Cp1252ToUnicode(static_cast<unsigned char>(filtered))
-                                          : static_cast<char16_t>(filtered));
-        } else {
-            typed += c;
-        }
-    }
-    if (changed) {
+    if (keyFilter_ && !isReadOnly() && (IsEditKey(*event) || TypesText(*event)) && !keyFilter_(*event)) {
         event->accept();
-        insert(typed);
-    } else {
-        QLineEdit::keyPressEvent(event);
+        Beep();
+        return;
     }
+    QLineEdit::keyPressEvent(event);
 }

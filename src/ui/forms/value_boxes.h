@@ -1,70 +1,50 @@
 #pragma once
 
-#include <cstdint>
+#include <QComboBox>
 
 #include "data/fields.h"
-#include "forms/combo_box.h"
+#include "data/text_number.h"
+#include "forms/drop_down.h"
 #include "forms/game_text.h"
 #include "forms/text_box.h"
-
-class QString;
-class QWidget;
+#include "forms/typed_value.h"
 
 // How a record's value goes into its box and comes back, for the player's
-// column and the team's boxes alike.
-
-// Chooses entry `index` of a code list without running its Click; an index
-// outside the list leaves nothing chosen.
-void ShowCodeEntry(ComboBox& box, int index);
-
-// Puts a value into a box with its beginning in view, as a long name reads
-// from the left.
-void ShowText(TextBox& box, const QString& text);
-
-// A box that holds no 16-bit number leaves the field as it was, and the
-// user's text stays in the box.
-void StoreNumber(const TextBox& box, std::int16_t& field);
-
-// A list with nothing chosen shows a code with no entry; the field keeps it.
-void StoreCode(const ComboBox& box, std::int16_t& field, int firstCode);
+// column and the team's boxes alike: a text box for a name or a number, a
+// list of its words for a code.
 
 // A box that only shows: it takes no input and no focus, yet its value reads
 // as plainly as that of a box the user edits.
 void MakeReadOnly(QWidget& box);
 
-// A field of the game's table in the box its kind calls for: a text box for a
-// name or a number, a list for a code.
 template <class Record>
 void ShowField(QWidget& box, const Field<Record>& field, const Record& record)
 {
     switch (field.kind) {
     case FieldKind::Name:
-        return ShowText(static_cast<TextBox&>(box), FromGame(record.*field.text));
+        return static_cast<TextBox&>(box).ShowText(FromGame(record.*field.text));
     case FieldKind::Number:
-        return ShowText(static_cast<TextBox&>(box), QString::number(record.*field.number));
+        return static_cast<TextBox&>(box).ShowText(QString::number(record.*field.number));
     case FieldKind::Code:
-        return ShowCodeEntry(static_cast<ComboBox&>(box), record.*field.number - field.codes->firstCode);
+        // A code with no entry leaves the list with nothing chosen.
+        return ShowEntry(static_cast<QComboBox&>(box), record.*field.number - field.codes->firstCode);
     }
 }
 
-// Carries the box back into the record's field; true when that changed a name.
 template <class Record>
-bool StoreField(const QWidget& box, const Field<Record>& field, Record& record)
+TypedValue TypedValueOf(const QWidget& box, const Field<Record>& field)
 {
     switch (field.kind) {
-    case FieldKind::Name: {
-        std::string typed = ToGame(static_cast<const TextBox&>(box).Text());
-        if (typed == record.*field.text)
-            return false;
-        record.*field.text = std::move(typed);
-        return true;
-    }
+    case FieldKind::Name:
+        return ToGame(static_cast<const TextBox&>(box).text());
     case FieldKind::Number:
-        StoreNumber(static_cast<const TextBox&>(box), record.*field.number);
-        return false;
+        if (const auto number = TextAsNumber(static_cast<const TextBox&>(box).text().toStdString()))
+            return *number;
+        return {};
     case FieldKind::Code:
-        StoreCode(static_cast<const ComboBox&>(box), record.*field.number, field.codes->firstCode);
-        return false;
+        if (const int entry = static_cast<const QComboBox&>(box).currentIndex(); entry >= 0)
+            return std::int16_t(entry + field.codes->firstCode);
+        return {};
     }
-    return false;
+    return {};
 }

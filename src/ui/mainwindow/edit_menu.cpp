@@ -6,7 +6,7 @@
 #include <QMainWindow>
 #include <QMenuBar>
 
-#include "history/game_history.h"
+#include "document/game_document.h"
 
 namespace {
 
@@ -42,7 +42,7 @@ void FollowStack(QAction* action, const QString& verb, bool enabled, const QStri
 
 }  // namespace
 
-EditMenu BuildEditMenu(QMainWindow& window, GameHistory& history, std::function<void()> beforeEach)
+EditMenu BuildEditMenu(QMainWindow& window, GameDocument& document)
 {
     EditMenu edit;
     edit.menu = window.menuBar()->addMenu(QStringLiteral("&Edit"));
@@ -51,7 +51,7 @@ EditMenu BuildEditMenu(QMainWindow& window, GameHistory& history, std::function<
     edit.redo = edit.menu->addAction(QStringLiteral("&Redo"));
     edit.redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
 
-    QUndoStack& stack = history.Stack();
+    const QUndoStack& stack = document.History();
     const auto follow = [&stack, edit] {
         FollowStack(edit.undo, QStringLiteral("&Undo"), stack.canUndo(), stack.undoText());
         FollowStack(edit.redo, QStringLiteral("&Redo"), stack.canRedo(), stack.redoText());
@@ -62,15 +62,8 @@ EditMenu BuildEditMenu(QMainWindow& window, GameHistory& history, std::function<
     QObject::connect(&stack, &QUndoStack::undoTextChanged, edit.menu, follow);
     QObject::connect(&stack, &QUndoStack::redoTextChanged, edit.menu, follow);
 
-    // The pending edits may themselves become the step to undo.
-    QObject::connect(edit.undo, &QAction::triggered, edit.menu, [&stack, beforeEach] {
-        beforeEach();
-        stack.undo();
-    });
-    QObject::connect(edit.redo, &QAction::triggered, edit.menu, [&stack, beforeEach] {
-        beforeEach();
-        stack.redo();
-    });
+    QObject::connect(edit.undo, &QAction::triggered, edit.menu, [&document] { document.Undo(); });
+    QObject::connect(edit.redo, &QAction::triggered, edit.menu, [&document] { document.Redo(); });
 
     auto* passage = new BoxUndoPassage(edit.menu);
     for (QLineEdit* box : window.findChildren<QLineEdit*>())

@@ -2,6 +2,8 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
 #include <QFrame>
 #include <QLabel>
 #include <QLayout>
@@ -9,49 +11,32 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStatusBar>
-#include <QTimer>
 
+#include "commands/game_files.h"
+#include "commands/game_tools.h"
 #include "data/code_lists.h"
-#include "forms/combo_box.h"
-#include "forms/game_text.h"
+#include "document/game_document.h"
+#include "forms/choice_list.h"
+#include "forms/clickable_picture.h"
+#include "forms/drop_down.h"
 #include "forms/fitted_layout.h"
-#include "forms/list_box.h"
-#include "forms/picture_box.h"
 #include "forms/player_column.h"
-#include "forms/text_box.h"
-#include "mainwindow/game_tools.h"
-#include "history/game_history.h"
 #include "mainwindow/edit_menu.h"
+#include "mainwindow/team_column.h"
 #include "options/artwork.h"
+#include "problemswindow/problems_bar.h"
 
 namespace {
 
-// Client area of the window, in twips.
+// Client area of the window, as designed.
 constexpr int AreaWidth = 8640;
 constexpr int AreaHeight = 6030;
 
-QFont BoldFont(const QWidget* widget)
+void MakeBold(QWidget& widget)
 {
-    QFont font = widget->font();
+    QFont font = widget.font();
     font.setBold(true);
-    return font;
-}
-
-QLabel* MakeLabel(FittedLayout& at, QWidget* area, const QString& caption, QRect rect, bool bold)
-{
-    auto* label = at.Put(new QLabel(caption, area), rect, true);
-    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    if (bold)
-        label->setFont(BoldFont(label));
-    return label;
-}
-
-ComboBox* MakeCodeList(FittedLayout& at, QWidget* area, std::span<const std::string_view> words, QRect rect)
-{
-    auto* box = at.Put(new ComboBox(area), rect, true);
-    for (std::string_view word : words)
-        box->AddItem(QString::fromLatin1(word.data(), qsizetype(word.size())));
-    return box;
+    widget.setFont(font);
 }
 
 void MakeVerticalLine(FittedLayout& at, QWidget* area, int x, int top, int bottom)
@@ -71,87 +56,62 @@ Control* Named(Control* control, const char* name)
 
 }  // namespace
 
-MainWindow::MainWindow(Game& game, SettingPlaces places, QWidget* parent)
-    : QMainWindow(parent), game_(game), places_(std::move(places))
+MainWindow::MainWindow(GameDocument& document, GameFiles& files, GameTools& tools, QWidget* parent)
+    : QMainWindow(parent), document_(document), files_(files), tools_(tools)
 {
-    setWindowTitle(QStringLiteral("KOLTA editor"));
+    setWindowTitle(caption_);
     setWindowIcon(QIcon(QString::fromLatin1(kolta::artwork::Icon)));
     // A fixed layout: the window can be minimised and closed, not resized.
-    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                   Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
-                   Qt::WindowCloseButtonHint);
-
-    history_ = new GameHistory(game_, this);
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
 
     auto* area = new QWidget(this);
     setCentralWidget(area);
     FittedLayout placement(area, {AreaWidth, AreaHeight});
-    BuildTeamColumn(placement, area);
+    BuildLeftColumn(placement, area);
     BuildSquadColumn(placement, area);
     BuildPlayerColumn(placement, area);
     MakeVerticalLine(placement, area, 3120, 60, 5940);
     MakeVerticalLine(placement, area, 5220, 60, 5880);
     placement.Apply();
 
-    editTimer_ = Named(new QTimer(this), "editTimer");
-    editTimer_->setInterval(100);
-
     BuildMenu();
+    problemsBar_ = new ProblemsBar(this);
+    addToolBar(Qt::TopToolBarArea, problemsBar_);
+    problemsBar_->hide();
     statusBar()->setSizeGripEnabled(false);
     SetTabOrder();
     ConnectHandlers();
+    FollowDocument();
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 MainWindow::~MainWindow()
 {
-    // The focus moves as the window goes; there is nothing left to carry then.
+    // The focus moves as the window goes; no box is left then.
     disconnect(qApp, nullptr, this, nullptr);
 }
 
-void MainWindow::BuildTeamColumn(FittedLayout& at, QWidget* area)
+void MainWindow::BuildLeftColumn(FittedLayout& at, QWidget* area)
 {
-    countryList_ = Named(MakeCodeList(at, area, Combo1CountryList, QRect(120, 120, 2895, 315)), "countryList");
-    countryList_->setFont(BoldFont(countryList_));
-    teamList_ = Named(at.Put(new ComboBox(area), QRect(120, 540, 2895, 315)), "teamList");
-    teamList_->setFont(BoldFont(teamList_));
+    countryList_ = Named(at.Put(NewWordList(area, Combo1CountryList), QRect(120, 120, 2895, 315), true), "countryList");
+    MakeBold(*countryList_);
+    teamList_ = Named(at.Put(NewDropDown(area), QRect(120, 540, 2895, 315)), "teamList");
+    MakeBold(*teamList_);
+    teamColumn_ = new TeamColumn(at, area);
 
-    MakeLabel(at, area, FromGame(TeamLayout.keyLabel), QRect(120, 960, 1215, 255), true);
-    teamNumberLabel_ = Named(MakeLabel(at, area, QStringLiteral("123"), QRect(1440, 960, 1515, 255), true), "teamNumber");
-    teamNumberLabel_->setAlignment(Qt::AlignCenter);
-
-    // One row to each field of the team, in the table's order.
-    constexpr std::array<int, TeamFields.size()> tops{1320, 1680, 2040, 2460, 2820, 3180};
-    for (std::size_t i = 0; i < TeamFields.size(); ++i) {
-        const TeamField& field = TeamFields[i];
-        const bool code = field.kind == FieldKind::Code;
-        MakeLabel(at, area, FromGame(field.label), QRect(120, tops[i], 1215, code ? 315 : 255), true);
-        const QRect value(1440, tops[i], 1515, code ? 315 : 285);
-        if (code) {
-            teamBoxes_[i] = MakeCodeList(at, area, field.codes->words, value);
-        } else {
-            auto* box = at.Put(new TextBox(area), value);
-            // The files cannot carry a comma in a name or a name that opens
-            // with a double quote, so the name boxes refuse both as they are
-            // typed or pasted.
-            if (field.kind == FieldKind::Name)
-                box->SetTextRule(NameRule([this](const QString& why) { SayInStatusBar(why); }));
-            teamBoxes_[i] = box;
-        }
-        teamBoxes_[i]->setObjectName(QStringLiteral("team.") + FromGame(field.name));
-    }
-
-    userGuidePicture_ = Named(at.Put(new PictureBox(QPixmap(kolta::artwork::Banner), area), QRect(240, 3600, 2535, 615)),
-                              "userGuidePicture");
-    fileFormatsPicture_ = Named(
-        at.Put(new PictureBox(QPixmap(kolta::artwork::Scorecard), area), QRect(240, 4320, 2535, 1575)),
-        "fileFormatsPicture");
+    userGuidePicture_ =
+        Named(at.Put(new ClickablePicture(QPixmap(kolta::artwork::Banner), area), QRect(240, 3600, 2535, 615)),
+              "userGuidePicture");
+    fileFormatsPicture_ =
+        Named(at.Put(new ClickablePicture(QPixmap(kolta::artwork::Scorecard), area), QRect(240, 4320, 2535, 1575)),
+              "fileFormatsPicture");
 }
 
 void MainWindow::BuildSquadColumn(FittedLayout& at, QWidget* area)
 {
-    squadList_ = Named(at.Put(new ListBox(area), QRect(3240, 120, 1875, 3765)), "squadList");
-    squadList_->setFont(BoldFont(squadList_));
+    squadList_ = Named(at.Put(new ChoiceList(area), QRect(3240, 120, 1875, 3765)), "squadList");
+    MakeBold(*squadList_);
     const auto button = [&](const char* caption, int top, const char* name) {
         return Named(at.Put(new QPushButton(QString::fromLatin1(caption), area), QRect(3240, top, 1815, 375), true),
                      name);
@@ -164,63 +124,67 @@ void MainWindow::BuildSquadColumn(FittedLayout& at, QWidget* area)
 
 void MainWindow::BuildPlayerColumn(FittedLayout& at, QWidget* area)
 {
-    // Captions at the left of the column, the values beside them.
-    const auto caption = [](int top, int height) { return QRect(5400, top, 1335, height); };
-    PlayerColumnPlaces places;
-    places.boldCaptions = true;
-    places.slashAlignment = Qt::AlignCenter;
-    places.captions = {caption(120, 315), caption(540, 255),  caption(900, 315),  caption(1320, 315),
-                       caption(1740, 315), caption(2160, 255), caption(2520, 255), caption(2880, 315),
-                       caption(3300, 315), caption(3720, 255), caption(4080, 255), caption(4440, 255),
-                       caption(4800, 315), caption(5220, 255)};
-    places.boxes = {
-        QRect(6780, 120, 435, 315),   QRect(7260, 120, 1275, 315),  QRect(6780, 540, 375, 255),
-        QRect(7380, 540, 375, 255),   QRect(7980, 540, 555, 255),   QRect(6780, 900, 1755, 315),
-        QRect(6780, 1320, 1755, 315), QRect(6780, 1740, 1755, 315), QRect(6780, 2160, 1695, 255),
-        QRect(6780, 2520, 1695, 255), QRect(6780, 2880, 1695, 315), QRect(6780, 3300, 1695, 315),
-        QRect(6780, 3720, 1695, 255), QRect(6780, 4080, 1695, 255), QRect(6780, 4440, 1695, 255),
-        QRect(6780, 4800, 1695, 315), QRect(6780, 5220, 1695, 255),
-    };
-    places.dateSlashes = {QRect(7200, 540, 135, 255), QRect(7800, 540, 135, 255)};
-    playerColumn_ = Named(new PlayerColumn(at, places, area), "playerColumn");
-    for (PlayerBox name : {PlayerBox::Initials, PlayerBox::Surname}) {
-        QWidget* box = playerColumn_->Box(name);
-        box->setFont(BoldFont(box));
-    }
+    // One column of captions and values down the right of the window; the
+    // rows above Bat skill stand wide.
+    PlayerColumnDesign design;
+    design.columns = {{5400, 6780, 120, 0}};
+    design.wideRows = PlayerRowOf(&PlayerRecord::batSkill);
+    design.boldCaptions = true;
+    design.slashAlignment = Qt::AlignCenter;
+    playerColumn_ = Named(new PlayerColumn(at, design, area), "playerColumn");
+    for (auto name : {&PlayerRecord::initials, &PlayerRecord::surname})
+        MakeBold(*playerColumn_->Box(name));
 }
 
 void MainWindow::BuildMenu()
 {
+    const auto command = [this](QMenu* menu, const char* text, const char* name, auto handler) {
+        QAction* action = Named(menu->addAction(QString::fromLatin1(text)), name);
+        connect(action, &QAction::triggered, this, handler);
+        return action;
+    };
     QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
-    optionsAction_ = Named(file->addAction(QStringLiteral("&Options")), "optionsAction");
-    saveAction_ = Named(file->addAction(QStringLiteral("&Update Player && Team data file")), "saveAction");
-    saveAction_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
-    exitAction_ = Named(file->addAction(QStringLiteral("E&xit")), "exitAction");
-    const EditMenu edit = BuildEditMenu(*this, *history_, [this] { CarryPendingEdits(); });
+    command(file, "&Options", "optionsAction", [this] { files_.ChooseFolder(this); });
+    command(file, "&Update Player && Team data file", "saveAction", [this] { files_.Save(); })
+        ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+    command(file, "&Export to CSV...", "exportCsvAction", [this] { tools_.ExportCsv(this); });
+    command(file, "&Import from CSV...", "importCsvAction", [this] { tools_.ImportCsv(this); });
+    file->addSeparator();
+    command(file, "E&xit", "exitAction", [this] { OnExit(); });
+
+    const EditMenu edit = BuildEditMenu(*this, document_);
     Named(edit.undo, "undoAction");
     Named(edit.redo, "redoAction");
-    tools_ = new GameTools(*this, game_);
-    tools_->AddCommands(*file, exitAction_, *edit.menu, *menuBar());
+    command(edit.menu, "&Find Player...", "findPlayerAction", [this] { tools_.FindPlayer(this); })
+        ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F));
+
+    QMenu* tools = Named(menuBar()->addMenu(QStringLiteral("&Tools")), "toolsMenu");
+    command(tools, "&Check Game...", "checkGameAction", [this] { tools_.CheckGame(this); });
+    tools->addSeparator();
+    command(tools, "Changes Since Last &Save...", "changesSinceSaveAction", [this] { tools_.ChangesSinceSave(this); });
+    QAction* sinceOriginal = command(tools, "Changes Since &Original...", "changesSinceOriginalAction",
+                                     [this] { tools_.ChangesSinceOriginal(this); });
+    connect(tools, &QMenu::aboutToShow, this, [this, sinceOriginal] { sinceOriginal->setEnabled(tools_.HasOriginals()); });
 
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
-    helpAction_ = Named(help->addAction(QStringLiteral("Help On Editor")), "helpAction");
-    helpAction_->setShortcut(QKeySequence(Qt::Key_F1));
-    aboutAction_ = Named(help->addAction(QStringLiteral("&About")), "aboutAction");
+    command(help, "Help On Editor", "helpAction", [this] { OnHelp(); })->setShortcut(QKeySequence(Qt::Key_F1));
+    command(help, "&About", "aboutAction", [this] { OnAbout(); });
 }
 
 void MainWindow::SetTabOrder()
 {
     // The order the game's players know: up the player column from the
     // bottom, across the team, the buttons, the pickers, then the rest.
-    const auto box = [this](PlayerBox which) { return playerColumn_->Box(which); };
+    const auto box = [this](auto field) { return playerColumn_->Box(field); };
+    const auto team = [this](std::size_t field) { return teamColumn_->Box(field); };
+    using P = PlayerRecord;
     const std::array<QWidget*, 30> order{
         squadList_,
-        box(PlayerBox::FieldsAt), box(PlayerBox::Potential), box(PlayerBox::Bowls), box(PlayerBox::BowlType),
-        box(PlayerBox::Bats), box(PlayerBox::BatPosition), box(PlayerBox::FieldAbility), box(PlayerBox::BowlEconomy),
-        box(PlayerBox::BowlSkill), box(PlayerBox::BatAggression), box(PlayerBox::BatSkill), box(PlayerBox::BirthDay),
-        box(PlayerBox::Surname), teamBoxes_[0], teamBoxes_[1], teamBoxes_[2], teamBoxes_[3], teamBoxes_[4], teamBoxes_[5],
+        box(&P::fieldsAt), box(&P::potential), box(&P::bowls), box(&P::bowlType), box(&P::bats), box(&P::batPosition),
+        box(&P::fieldAbility), box(&P::bowlEconomy), box(&P::bowlSkill), box(&P::batAggression), box(&P::batSkill),
+        box(&P::birthDay), box(&P::surname), team(0), team(1), team(2), team(3), team(4), team(5),
         addExistingPlayerButton_, deletePlayerButton_, addNewPlayerButton_, replacePlayerButton_, teamList_, countryList_,
-        box(PlayerBox::BirthMonth), box(PlayerBox::BirthYear), box(PlayerBox::Initials), box(PlayerBox::HomeCountry),
+        box(&P::birthMonth), box(&P::birthYear), box(&P::initials), box(&P::homeCountry),
     };
     for (std::size_t i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
@@ -229,34 +193,74 @@ void MainWindow::SetTabOrder()
 
 void MainWindow::ConnectHandlers()
 {
-    connect(countryList_, &ComboBox::Click, this, &MainWindow::OnCountryChosen);
-    connect(teamList_, &ComboBox::Click, this, &MainWindow::OnTeamChosen);
-    connect(squadList_, &ListBox::Click, this, &MainWindow::OnPlayerChosen);
-    connect(editTimer_, &QTimer::timeout, this, &MainWindow::CarryEditsIntoRecords);
+    connect(countryList_, &QComboBox::activated, this, &MainWindow::OnCountryChosen);
+    connect(teamList_, &QComboBox::activated, this, &MainWindow::OnTeamChosen);
+    connect(squadList_, &ChoiceList::rowChosen, this, &MainWindow::OnPlayerChosen);
 
     connect(addExistingPlayerButton_, &QPushButton::clicked, this, &MainWindow::OnAddExistingPlayer);
     connect(deletePlayerButton_, &QPushButton::clicked, this, &MainWindow::OnDeletePlayer);
     connect(addNewPlayerButton_, &QPushButton::clicked, this, &MainWindow::OnAddNewPlayer);
     connect(replacePlayerButton_, &QPushButton::clicked, this, &MainWindow::OnReplacePlayer);
-    connect(userGuidePicture_, &PictureBox::Click, this, &MainWindow::OnUserGuidePicture);
-    connect(fileFormatsPicture_, &PictureBox::Click, this, &MainWindow::OnFileFormatsPicture);
+    connect(userGuidePicture_, &ClickablePicture::clicked, this, &MainWindow::OnUserGuidePicture);
+    connect(fileFormatsPicture_, &ClickablePicture::clicked, this, &MainWindow::OnFileFormatsPicture);
 
-    connect(optionsAction_, &QAction::triggered, this, &MainWindow::OnOptions);
-    connect(saveAction_, &QAction::triggered, this, &MainWindow::OnSave);
-    connect(exitAction_, &QAction::triggered, this, &MainWindow::OnExit);
-    connect(helpAction_, &QAction::triggered, this, &MainWindow::OnHelp);
-    connect(aboutAction_, &QAction::triggered, this, &MainWindow::OnAbout);
-
+    // What the user types goes into the shown record at once; the place is
+    // where undo takes him back to. The box says what its field made of the
+    // text even when the record stays as it was ("12." after "12").
+    connect(playerColumn_, &PlayerColumn::edited, this, [this](const PlayerField& field, const TypedValue& value) {
+        if (currentPlayer_)
+            document_.Type(*currentPlayer_, field, value, {shownTeam_.value_or(0), *currentPlayer_});
+        MarkNumberBoxes();
+    });
+    connect(teamColumn_, &TeamColumn::edited, this, [this](const TeamField& field, const TypedValue& value) {
+        if (shownTeam_)
+            document_.Type(*shownTeam_, field, value, {*shownTeam_, currentPlayer_.value_or(0)});
+        MarkNumberBoxes();
+    });
     connect(playerColumn_, &PlayerColumn::nameRefused, this, &MainWindow::SayInStatusBar);
-    connect(history_, &GameHistory::StepShown, this, &MainWindow::BringIntoView);
-    connect(history_, &GameHistory::UnsavedChangesChanged, this, &MainWindow::setWindowModified);
-    connect(tools_, &GameTools::importApplied, this,
-            [this](const QString& stepText) { history_->RecordStep(stepText, StepPlace{}); });
+    connect(teamColumn_, &TeamColumn::nameRefused, this, &MainWindow::SayInStatusBar);
     // A box's typed value is one step until the focus leaves the box.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old) {
-        if (old && isAncestorOf(old))
-            CarryPendingEdits();
+        if (old && isAncestorOf(old)) {
+            document_.EndTyping();
+            MarkNumberBoxes();
+        }
     });
+
+    connect(problemsBar_, &ProblemsBar::showProblemsRequested, this, [this] { tools_.CheckGame(this); });
+    connect(&tools_, &GameTools::errorsCounted, problemsBar_, &ProblemsBar::SetErrorCount);
+    connect(&tools_, &GameTools::playerChosen, this, &MainWindow::GoToPlayer);
+    connect(&tools_, &GameTools::teamChosen, this, &MainWindow::GoToTeam);
+    connect(&tools_, &GameTools::gameImported, this, &MainWindow::ShowRecordsAgain);
+}
+
+void MainWindow::FollowDocument()
+{
+    connect(&document_, &GameDocument::playerChanged, this, &MainWindow::OnPlayerChanged);
+    connect(&document_, &GameDocument::teamChanged, this, &MainWindow::OnTeamChanged);
+    connect(&document_, &GameDocument::squadChanged, this, [this](int team) {
+        if (team == CurrentTeam())
+            RefreshSquad();
+    });
+    connect(&document_, &GameDocument::stepRevisited, this, &MainWindow::BringIntoView);
+    connect(&document_, &GameDocument::modifiedChanged, this, &MainWindow::setWindowModified);
+    connect(&document_, &GameDocument::gameReplaced, this, [this] {
+        // No box may edit the record of the new game that has the old numbers.
+        currentPlayer_.reset();
+        if (shownTeam_) {
+            shownTeam_.reset();
+            teamColumn_->ForgetTeam();
+        }
+        SetTitle();
+        caption_ = QStringLiteral("KOLTA Editor");
+        ShowFirstEntries();
+    });
+}
+
+void MainWindow::SetTitle()
+{
+    // The mark stands for unsaved changes and shows only while there are some.
+    setWindowTitle(QStringLiteral("%1 (%2)[*]").arg(caption_, QString::fromStdString(document_.Folder())));
 }
 
 void MainWindow::showEvent(QShowEvent* event)
@@ -267,4 +271,13 @@ void MainWindow::showEvent(QShowEvent* event)
             move(where->availableGeometry().center() - frameGeometry().center() + pos());
     }
     QMainWindow::showEvent(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!leaveAnswered_ && !files_.MayLeaveGame()) {
+        event->ignore();
+        return;
+    }
+    QMainWindow::closeEvent(event);
 }

@@ -1,7 +1,10 @@
 #include "newplayerwindow/new_player_window.h"
 
+#include <QKeyEvent>
 #include <QPushButton>
+#include <algorithm>
 
+#include "document/squad_steps.h"
 #include "forms/fitted_layout.h"
 #include "forms/message_box.h"
 #include "forms/modal.h"
@@ -11,16 +14,9 @@
 
 namespace {
 
-// Client area, in twips.
+// Client area, as designed.
 constexpr int AreaWidth = 6900;
 constexpr int AreaHeight = 3675;
-
-// The two columns of captions, each left of its column of boxes.
-constexpr int LeftCaptions = 300;
-constexpr int RightCaptions = 3540;
-constexpr int CaptionWidth = 1335;
-
-constexpr int Backspace = 8;
 
 QPushButton* MakeButton(FittedLayout& at, QWidget* form, const QString& caption, QRect rect, const char* name)
 {
@@ -35,48 +31,38 @@ void ShowOutcome(NewPlayerOutcome outcome)
     case NewPlayerOutcome::Added:
         return;
     case NewPlayerOutcome::BadEntries:
-        MsgBox(QStringLiteral("Data not in correct range.Please see help for correct range of data values."),
-               MbInformation, QStringLiteral("Error"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Error"),
+                    QStringLiteral("Data not in correct range.Please see help for correct range of data values."));
         return;
     case NewPlayerOutcome::TableFull:
-        MsgBox(QStringLiteral("The game already holds its maximum of %1 players.").arg(MaxPlayers),
-               MbInformation, QStringLiteral("Maximum Players"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Maximum Players"),
+                    QStringLiteral("The game already holds its maximum of %1 players.").arg(MaxPlayers));
         return;
     case NewPlayerOutcome::NoTeam:
-        MsgBox(QStringLiteral("Choose a team for the new player first."), MbInformation,
-               QStringLiteral("Add New Player"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Add New Player"),
+                    QStringLiteral("Choose a team for the new player first."));
         return;
     case NewPlayerOutcome::SquadFull:
-        MsgBox(QStringLiteral("You already have the maximum of 20 players in the squad."), MbInformation,
-               QStringLiteral("Maximum Players"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Maximum Players"),
+                    QStringLiteral("You already have the maximum of 20 players in the squad."));
         return;
     }
 }
 
-PlayerColumnPlaces EntryPlaces()
+// Two columns of captions and boxes, the batting on the left, the bowling and
+// fielding on the right; the rows above Bat skill stand wide.
+PlayerColumnDesign EntryDesign()
 {
-    const auto left = [](int top, int height) { return QRect(LeftCaptions, top, CaptionWidth, height); };
-    const auto right = [](int top, int height) { return QRect(RightCaptions, top, CaptionWidth, height); };
-    PlayerColumnPlaces places;
-    places.captions = {left(240, 315),  left(660, 255),   left(1020, 315),  left(1440, 315), left(1860, 315),
-                       left(2280, 255), left(2640, 255),  right(300, 315),  right(720, 315), right(1140, 255),
-                       right(1500, 255), right(1860, 255), right(2220, 315), right(2640, 255)};
-    places.boxes = {
-        QRect(1680, 240, 435, 315),   QRect(2160, 240, 1275, 315),  QRect(1680, 660, 375, 255),
-        QRect(2280, 660, 375, 255),   QRect(2880, 660, 555, 255),   QRect(1680, 1020, 1755, 315),
-        QRect(1680, 1440, 1755, 315), QRect(1680, 1860, 1755, 315), QRect(1680, 2280, 1695, 255),
-        QRect(1680, 2640, 1695, 255), QRect(4920, 300, 1695, 315),  QRect(4920, 720, 1695, 315),
-        QRect(4920, 1140, 1695, 255), QRect(4920, 1500, 1695, 255), QRect(4920, 1860, 1695, 255),
-        QRect(4920, 2220, 1695, 315), QRect(4920, 2640, 1695, 255),
-    };
-    places.dateSlashes = {QRect(2100, 660, 135, 255), QRect(2700, 660, 135, 255)};
-    return places;
+    PlayerColumnDesign design;
+    design.columns = {{300, 1680, 240, 0}, {3540, 4920, 300, PlayerRowOf(&PlayerRecord::bowlType)}};
+    design.wideRows = PlayerRowOf(&PlayerRecord::batSkill);
+    return design;
 }
 
 }  // namespace
 
-NewPlayerWindow::NewPlayerWindow(Game& game, int team, QWidget* parent)
-    : QDialog(parent), game_(game), team_(team)
+NewPlayerWindow::NewPlayerWindow(GameDocument& document, int team, QWidget* parent)
+    : QDialog(parent), document_(document), team_(team)
 {
     setObjectName(QStringLiteral("newPlayerWindow"));
     setWindowTitle(QStringLiteral("New Player"));
@@ -86,13 +72,14 @@ NewPlayerWindow::NewPlayerWindow(Game& game, int team, QWidget* parent)
     okButton_ = MakeButton(at, this, QStringLiteral("OK"), QRect(1200, 3180, 1395, 375), "okButton");
     okButton_->setDefault(true);
 
-    entries_ = new PlayerColumn(at, EntryPlaces(), this);
+    entries_ = new PlayerColumn(at, EntryDesign(), this);
     entries_->setObjectName(QStringLiteral("entries"));
-    for (PlayerBox box : {PlayerBox::BirthDay, PlayerBox::BirthMonth, PlayerBox::BatSkill, PlayerBox::BatAggression,
-                          PlayerBox::BowlSkill, PlayerBox::BowlEconomy, PlayerBox::FieldAbility, PlayerBox::Potential})
+    using P = PlayerRecord;
+    for (auto box : {&P::birthDay, &P::birthMonth, &P::batSkill, &P::batAggression, &P::bowlSkill, &P::bowlEconomy,
+                     &P::fieldAbility, &P::potential})
         entries_->LimitLength(box, 2);
-    entries_->LimitLength(PlayerBox::BirthYear, 4);
-    entries_->SetNumberKeyFilter(&NewPlayerWindow::FilterNumberKey);
+    entries_->LimitLength(&P::birthYear, 4);
+    entries_->SetNumberKeyFilter(&NewPlayerWindow::PassesNumberKey);
 
     cancelButton_ = MakeButton(at, this, QStringLiteral("Cancel"), QRect(3000, 3180, 1395, 375), "cancelButton");
     helpButton_ = MakeButton(at, this, QStringLiteral("Help"), QRect(4800, 3180, 1395, 375), "helpButton");
@@ -107,29 +94,29 @@ NewPlayerWindow::NewPlayerWindow(Game& game, int team, QWidget* parent)
     entries_->ChooseFirstEntries();
 }
 
-void NewPlayerWindow::FilterNumberKey(int& keyAscii)
+bool NewPlayerWindow::PassesNumberKey(const QKeyEvent& key)
 {
-    if ((keyAscii >= '0' && keyAscii <= '9') || keyAscii == Backspace)
-        return;
-    keyAscii = 0;  // the text box answers a refused key with the beep
+    if (key.key() == Qt::Key_Backspace)
+        return true;
+    const QString typed = key.text();
+    return !typed.isEmpty() && std::all_of(typed.begin(), typed.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
 void NewPlayerWindow::OnOk()
 {
     const NewPlayerEntries entries = entries_->Entries();
-    const NewPlayerOutcome outcome = CommitNewPlayer(game_, team_, entries);
+    const NewPlayerOutcome outcome = CommitNewPlayer(document_, team_, entries);
     if (outcome == NewPlayerOutcome::BadEntries) {
         // The message names the box, so the user need not hunt for it.
-        MsgBox(QStringLiteral("Data not in correct range.Please see help for correct range of data values.\n\n") +
-                   QString::fromStdString(FirstBadEntry(entries).value_or(std::string())),
-               MbInformation, QStringLiteral("Error"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Error"),
+                    QStringLiteral("Data not in correct range.Please see help for correct range of data values.\n\n") +
+                        QString::fromStdString(FirstBadEntry(entries).value_or(std::string())));
         return;
     }
     if (outcome != NewPlayerOutcome::Added) {
         ShowOutcome(outcome);
         return;
     }
-    emit playerCreated(game_.PlayerCount);
     accept();
 }
 

@@ -45,8 +45,7 @@ QString DriveOf(const QString& directory)
 
 }  // namespace
 
-DriveList::DriveList(QWidget* parent)
-    : QComboBox(parent)
+DriveBox::DriveBox(QWidget* parent) : QComboBox(parent)
 {
     QList<QStorageInfo> volumes = QStorageInfo::mountedVolumes();
     std::sort(volumes.begin(), volumes.end(), [](const QStorageInfo& a, const QStorageInfo& b) {
@@ -59,15 +58,15 @@ DriveList::DriveList(QWidget* parent)
     }
     AddDrive(QDir::rootPath());
     SetDrive(QDir::currentPath());
-    connect(this, &QComboBox::currentIndexChanged, this, &DriveList::Change);
+    connect(this, &QComboBox::currentIndexChanged, this, &DriveBox::driveChosen);
 }
 
-QString DriveList::Drive() const
+QString DriveBox::Drive() const
 {
     return currentData(PathRole).toString();
 }
 
-void DriveList::SetDrive(const QString& path)
+void DriveBox::SetDrive(const QString& path)
 {
     // The drive of a path is the listed root nearest above it: a volume
     // mounted inside another is a drive of its own.
@@ -82,7 +81,7 @@ void DriveList::SetDrive(const QString& path)
         setCurrentIndex(best);
 }
 
-void DriveList::AddDrive(const QString& root, const QString& label)
+void DriveBox::AddDrive(const QString& root, const QString& label)
 {
     const QString clean = QDir::cleanPath(root);
     if (findData(clean, PathRole, Qt::MatchFixedString | Qt::MatchCaseSensitive) >= 0)
@@ -91,8 +90,7 @@ void DriveList::AddDrive(const QString& root, const QString& label)
     addItem(label.isEmpty() ? shown : QStringLiteral("%1  [%2]").arg(shown, label), clean);
 }
 
-DirList::DirList(QWidget* parent)
-    : QTreeWidget(parent)
+FolderTree::FolderTree(QWidget* parent) : QTreeWidget(parent)
 {
     setHeaderHidden(true);
     setRootIsDecorated(false);
@@ -105,7 +103,7 @@ DirList::DirList(QWidget* parent)
     SetPath(QDir::currentPath());
 }
 
-bool DirList::SetPath(const QString& path)
+bool FolderTree::SetPath(const QString& path)
 {
     const QString target = CleanAbsolute(path);
     if (!IsReadableDirectory(target))
@@ -115,17 +113,17 @@ bool DirList::SetPath(const QString& path)
     path_ = target;
     lastOpenOnDrive_.insert(DriveOf(path_), path_);
     Rebuild();
-    emit Change();
+    emit folderOpened();
     return true;
 }
 
-bool DirList::OpenDrive(const QString& root)
+bool FolderTree::OpenDrive(const QString& root)
 {
     const QString last = lastOpenOnDrive_.value(QDir::cleanPath(root));
     return (!last.isEmpty() && SetPath(last)) || SetPath(root);
 }
 
-void DirList::keyPressEvent(QKeyEvent* event)
+void FolderTree::keyPressEvent(QKeyEvent* event)
 {
     // Enter opens the highlighted directory and goes no further: it must not
     // also press the window's OK button.
@@ -137,13 +135,13 @@ void DirList::keyPressEvent(QKeyEvent* event)
     QTreeWidget::keyPressEvent(event);
 }
 
-void DirList::Open(const QTreeWidgetItem* item)
+void FolderTree::Open(const QTreeWidgetItem* item)
 {
     if (item && !SetPath(item->data(0, PathRole).toString()))
         Beep();
 }
 
-void DirList::Rebuild()
+void FolderTree::Rebuild()
 {
     clear();
     QStringList chain;
@@ -179,31 +177,25 @@ void DirList::Rebuild()
     scrollToItem(parent);
 }
 
-FileList::FileList(QWidget* parent)
-    : QListWidget(parent)
+FileNameList::FileNameList(QWidget* parent) : QListWidget(parent)
 {
     setSelectionMode(QAbstractItemView::SingleSelection);
     SetPath(QDir::currentPath());
 }
 
-void FileList::SetPath(const QString& path)
+void FileNameList::SetPath(const QString& path)
 {
     path_ = CleanAbsolute(path);
     Refill();
 }
 
-void FileList::SetPattern(const QString& pattern)
+void FileNameList::SetPattern(const QString& pattern)
 {
     pattern_ = pattern;
     Refill();
 }
 
-QString FileList::List(int index) const
-{
-    return index >= 0 && index < count() ? item(index)->text() : QString();
-}
-
-void FileList::Refill()
+void FileNameList::Refill()
 {
     clear();
     // Patterns match without regard to case, as on the game's own system;

@@ -11,7 +11,7 @@
 
 namespace {
 
-// Client area of the window, in twips.
+// Client area of the window, as designed.
 constexpr int AreaWidth = 4740;
 constexpr int AreaHeight = 4485;
 
@@ -19,17 +19,16 @@ const QString TeamsFileName = QStringLiteral("teams.dat");
 const QString PlayersFileName = QStringLiteral("players.dat");
 
 template <typename Control>
-Control* Place(FittedLayout& at, Control* control, const char* name, QRect twips, bool mustFit = false)
+Control* Place(FittedLayout& at, Control* control, const char* name, QRect designed, bool mustFit = false)
 {
     control->setObjectName(QString::fromLatin1(name));
-    return at.Put(control, twips, mustFit);
+    return at.Put(control, designed, mustFit);
 }
 
 // A caption of one line must fit its width; a longer one wraps inside its box.
-QLabel* MakeLabel(FittedLayout& at, QWidget* form, const char* name, const QString& caption, QRect twips,
-                  bool wraps)
+QLabel* MakeLabel(FittedLayout& at, QWidget* form, const char* name, const QString& caption, QRect designed, bool wraps)
 {
-    auto* label = Place(at, new QLabel(caption, form), name, twips, !wraps);
+    auto* label = Place(at, new QLabel(caption, form), name, designed, !wraps);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setWordWrap(wraps);
     return label;
@@ -47,8 +46,8 @@ QString FromSystemPath(const std::string& path)
     return QDir::fromNativeSeparators(QString::fromStdString(path));
 }
 
-OptionsWindow::OptionsWindow(Game& game, SettingPlaces places, Mode mode, QWidget* parent)
-    : QDialog(parent), game_(game), places_(std::move(places))
+OptionsWindow::OptionsWindow(std::string folder, SettingPlaces places, Mode mode, QWidget* parent)
+    : QDialog(parent), folder_(std::move(folder)), places_(std::move(places))
 {
     setObjectName(QStringLiteral("optionsWindow"));
     setWindowTitle(QStringLiteral("Options"));
@@ -61,9 +60,9 @@ OptionsWindow::OptionsWindow(Game& game, SettingPlaces places, Mode mode, QWidge
         QStringLiteral("Please note that the files Players.dat and teams.dat must be present in the directory."),
         QRect(180, 480, 3735, 435), true);
 
-    driveList_ = Place(at, new DriveList(this), "driveList", QRect(180, 960, 1935, 315));
-    folderList_ = Place(at, new DirList(this), "folderList", QRect(180, 1380, 2295, 2340));
-    fileList_ = Place(at, new FileList(this), "fileList", QRect(2640, 1380, 2055, 2430));
+    driveList_ = Place(at, new DriveBox(this), "driveList", QRect(180, 960, 1935, 315));
+    folderList_ = Place(at, new FolderTree(this), "folderList", QRect(180, 1380, 2295, 2340));
+    fileList_ = Place(at, new FileNameList(this), "fileList", QRect(2640, 1380, 2055, 2430));
     fileList_->SetPattern(QStringLiteral("*.dat"));
 
     // Two OK buttons share one spot; the mode shows one of them.
@@ -74,15 +73,15 @@ OptionsWindow::OptionsWindow(Game& game, SettingPlaces places, Mode mode, QWidge
     changeDirectoryOkButton_->hide();
     at.Apply();
 
-    connect(driveList_, &DriveList::Change, this, &OptionsWindow::OnDriveChosen);
-    connect(folderList_, &DirList::Change, this, &OptionsWindow::OnFolderOpened);
+    connect(driveList_, &DriveBox::driveChosen, this, &OptionsWindow::OnDriveChosen);
+    connect(folderList_, &FolderTree::folderOpened, this, &OptionsWindow::OnFolderOpened);
     connect(firstStartOkButton_, &QPushButton::clicked, this, &OptionsWindow::OnFirstStartOk);
     connect(changeDirectoryOkButton_, &QPushButton::clicked, this, &OptionsWindow::OnChangeDirectoryOk);
 
     if (mode == Mode::ChangeDirectory) {
         firstStartOkButton_->hide();
         changeDirectoryOkButton_->show();
-        folderList_->SetPath(FromSystemPath(game_.GameDirectory));
+        folderList_->SetPath(FromSystemPath(folder_));
         driveList_->SetDrive(folderList_->Path());
         folderList_->SetPath(fileList_->Path());
     }
@@ -92,8 +91,8 @@ bool OptionsWindow::BothDataFilesListed() const
 {
     bool teamsSeen = false;
     bool playersSeen = false;
-    for (int i = 0; i < fileList_->ListCount() && !(teamsSeen && playersSeen); ++i) {
-        const QString name = fileList_->List(i);
+    for (int i = 0; i < fileList_->count() && !(teamsSeen && playersSeen); ++i) {
+        const QString name = fileList_->item(i)->text();
         teamsSeen = teamsSeen || name == TeamsFileName;
         playersSeen = playersSeen || name == PlayersFileName;
     }
@@ -105,7 +104,7 @@ void OptionsWindow::OnDriveChosen()
     // A drive with nothing readable in it leaves the directory list where it
     // was; the drive list goes on naming the drive that failed.
     if (!folderList_->OpenDrive(driveList_->Drive()))
-        MsgBox(QStringLiteral("Error reading Drive"), MbCritical, QStringLiteral("Error"));
+        ShowMessage(QMessageBox::Critical, QStringLiteral("Error"), QStringLiteral("Error reading Drive"));
 }
 
 void OptionsWindow::OnFolderOpened()
@@ -119,11 +118,11 @@ void OptionsWindow::OnFolderOpened()
 void OptionsWindow::OnFirstStartOk()
 {
     if (BothDataFilesListed()) {
-        SetGameDirectory(game_, ToSystemPath(folderList_->Path()));
+        folder_ = ToSystemPath(folderList_->Path());
         StoreSetting();
     } else {
-        MsgBox(QStringLiteral("teams.dat and players.dat not found in current directory.KOLTA ed will exit."),
-               MbCritical, QStringLiteral("Error"));
+        ShowMessage(QMessageBox::Critical, QStringLiteral("Error"),
+                    QStringLiteral("teams.dat and players.dat not found in current directory.KOLTA ed will exit."));
     }
     accept();
 }
@@ -131,26 +130,26 @@ void OptionsWindow::OnFirstStartOk()
 void OptionsWindow::OnChangeDirectoryOk()
 {
     if (!BothDataFilesListed()) {
-        MsgBox(QStringLiteral("teams.dat and players.dat not found in current directory."), MbCritical,
-               QStringLiteral("Error"));
+        ShowMessage(QMessageBox::Critical, QStringLiteral("Error"),
+                    QStringLiteral("teams.dat and players.dat not found in current directory."));
         return;
     }
     if (mayLeaveGame_ && !mayLeaveGame_())
         return;
-    SetGameDirectory(game_, ToSystemPath(folderList_->Path()));
+    folder_ = ToSystemPath(folderList_->Path());
     StoreSetting();
-    emit gameDirectoryChanged();
+    emit folderChosen(folder_);
     accept();
 }
 
 void OptionsWindow::StoreSetting()
 {
     const QString settingFile = places_.PathToWrite();
-    const FileResult stored = WriteSettingFile(ToSystemPath(settingFile), game_.GameDirectory);
+    const FileResult stored = WriteSettingFile(ToSystemPath(settingFile), folder_);
     if (stored.ok())
         return;
-    MsgBox(QStringLiteral("The game directory could not be kept in %1: %2.\n\n"
-                          "The editor uses this directory until it closes; the next start will not know of it.")
-               .arg(QDir::toNativeSeparators(settingFile), QString::fromLocal8Bit(stored.reason)),
-           MbExclamation, QStringLiteral("Options"));
+    ShowMessage(QMessageBox::Warning, QStringLiteral("Options"),
+                QStringLiteral("The game directory could not be kept in %1: %2.\n\n"
+                               "The editor uses this directory until it closes; the next start will not know of it.")
+                    .arg(QDir::toNativeSeparators(settingFile), QString::fromLocal8Bit(stored.reason)));
 }

@@ -3,38 +3,42 @@
 #include <QDialog>
 #include <functional>
 
-#include "data/game.h"
 #include "options/setting_places.h"
 
-class DirList;
-class DriveList;
-class FileList;
+class DriveBox;
+class FileNameList;
+class FolderTree;
 class QLabel;
 class QPushButton;
 
 // Where the user tells the editor which directory holds the game's
-// players.dat and teams.dat. On the first start the window opens at the
-// process's current directory; opened from the menu of a running editor it
-// opens at the game's directory, and a directory chosen there is loaded.
+// players.dat and teams.dat, kept in editor.dat for the next start. On the
+// first start the window opens at the process's current directory; opened
+// from the menu of a running editor it opens at the game's directory, and a
+// directory chosen there is loaded before the window closes.
 class OptionsWindow : public QDialog {
     Q_OBJECT
 public:
     enum class Mode { FirstStart, ChangeDirectory };
 
-    OptionsWindow(Game& game, SettingPlaces places, Mode mode, QWidget* parent = nullptr);
+    // `folder` is the game's directory; empty on the first start.
+    OptionsWindow(std::string folder, SettingPlaces places, Mode mode, QWidget* parent = nullptr);
 
     // Whether the file list shows both "teams.dat" and "players.dat". The
     // names must match in case: the game itself opens them so.
     bool BothDataFilesListed() const;
+
+    // The directory chosen on the first start; empty when none was.
+    const std::string& ChosenFolder() const { return folder_; }
 
     // Asked before another folder replaces the game: false keeps the game
     // and this window as they are (the user cancelled, or a save failed).
     void SetLeaveGameCheck(std::function<bool()> mayLeave) { mayLeaveGame_ = std::move(mayLeave); }
 
 signals:
-    // The game now points at a new directory; the main window loads it
-    // before this window closes.
-    void gameDirectoryChanged();
+    // From the menu: the user chose `folder`, which is to be loaded before
+    // this window closes.
+    void folderChosen(const std::string& folder);
 
 private:
     void OnDriveChosen();
@@ -48,13 +52,13 @@ private:
     // is told to the user and changes nothing else.
     void StoreSetting();
 
-    Game& game_;
+    std::string folder_;
     SettingPlaces places_;
 
     QLabel* filesNote_ = nullptr;
-    DriveList* driveList_ = nullptr;
-    DirList* folderList_ = nullptr;
-    FileList* fileList_ = nullptr;
+    DriveBox* driveList_ = nullptr;
+    FolderTree* folderList_ = nullptr;
+    FileNameList* fileList_ = nullptr;
     QPushButton* firstStartOkButton_ = nullptr;
     QPushButton* changeDirectoryOkButton_ = nullptr;
     std::function<bool()> mayLeaveGame_;

@@ -31,14 +31,14 @@ void OpenWebPage(const QUrl& page)
 {
     const QString path = QDir::toNativeSeparators(page.toLocalFile());
     if (page.isLocalFile() && !QFileInfo::exists(page.toLocalFile())) {
-        MsgBox(QStringLiteral("The page %1 is missing. It belongs in the editor's folder.").arg(path),
-               MbInformation, QStringLiteral("Help"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Help"),
+                    QStringLiteral("The page %1 is missing. It belongs in the editor's folder.").arg(path));
         return;
     }
     const bool opened = Opener() ? Opener()(page) : QDesktopServices::openUrl(page);
     if (!opened) {
-        MsgBox(QStringLiteral("No web browser could be started for %1.").arg(path), MbInformation,
-               QStringLiteral("Help"));
+        ShowMessage(QMessageBox::Information, QStringLiteral("Help"),
+                    QStringLiteral("No web browser could be started for %1.").arg(path));
     }
 }
 

@@ -3,22 +3,22 @@
 #include <QDialog>
 #include <optional>
 
-#include "data/game.h"
 #include "search/search_filters.h"
 
-class ComboBox;
+class ChoiceList;
 class FittedLayout;
-class ListBox;
+class GameDocument;
 class PlayerColumn;
+class QComboBox;
 class QPushButton;
-class Shape;
 class TextBox;
 
 // The search window: finds players of any club by nationality and type,
 // sorts them, shows one in a read-only panel and moves him into the squad of
-// the team it was opened for. It opens in add mode ("Add This Player", which
-// may be pressed again and again) or in replace mode ("Replace with this
-// player", which closes the window once done). Built afresh for each showing.
+// the team it was opened for, each move a step of the document. It opens in
+// add mode ("Add This Player", which may be pressed again and again) or in
+// replace mode ("Replace with this player", which closes the window once
+// done). Built afresh for each showing.
 class SearchWindow : public QDialog {
     Q_OBJECT
 public:
@@ -26,17 +26,10 @@ public:
 
     // `squadRow` is the chosen row of the team's squad list, the player a
     // replacement puts out; -1 when none is chosen.
-    SearchWindow(Game& game, int team, Mode mode, int squadRow, QWidget* parent = nullptr);
+    SearchWindow(GameDocument& document, int team, Mode mode, int squadRow, QWidget* parent = nullptr);
 
     // The candidate shown in the panel, if one has been picked.
     std::optional<std::int16_t> Candidate() const;
-
-    // The squad list's chosen row changed under this window.
-    void SetSquadRow(int row) { squadRow_ = row; }
-
-signals:
-    // A player was moved into the squad of `team`.
-    void squadChanged(int team);
 
 private:
     void BuildFilters(FittedLayout& at);
@@ -63,21 +56,22 @@ private:
     void OnReplaceWithThisPlayer();
 
     void SortWithBar();
-    void SetBarWidth(double widthTwips);
+    // The bar as long as the share `done` of the sort.
+    void ShowSortProgress(double done);
 
-    Game& game_;
+    GameDocument& document_;
     const int team_;
-    int squadRow_;
+    const int squadRow_;
 
-    ComboBox* nationalityFilter_ = nullptr;
-    ComboBox* clubFilter_ = nullptr;
-    ComboBox* battingFilter_ = nullptr;
-    ComboBox* bowlingFilter_ = nullptr;
-    ComboBox* fieldingFilter_ = nullptr;
-    ComboBox* sortKeyList_ = nullptr;
+    QComboBox* nationalityFilter_ = nullptr;
+    QComboBox* clubFilter_ = nullptr;
+    QComboBox* battingFilter_ = nullptr;
+    QComboBox* bowlingFilter_ = nullptr;
+    QComboBox* fieldingFilter_ = nullptr;
+    QComboBox* sortKeyList_ = nullptr;
     QPushButton* searchButton_ = nullptr;
-    Shape* sortBar_ = nullptr;
-    ListBox* resultList_ = nullptr;
+    QWidget* sortBar_ = nullptr;
+    ChoiceList* resultList_ = nullptr;
     PlayerColumn* candidatePanel_ = nullptr;
     TextBox* presentClubBox_ = nullptr;
     QPushButton* addButton_ = nullptr;

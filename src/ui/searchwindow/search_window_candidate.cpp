@@ -1,9 +1,9 @@
 #include "data/squad.h"
+#include "document/game_document.h"
 #include "forms/game_text.h"
-#include "forms/list_box.h"
+#include "forms/choice_list.h"
 #include "forms/player_column.h"
 #include "forms/text_box.h"
-#include "forms/value_boxes.h"
 #include "searchwindow/search_window.h"
 
 std::optional<std::int16_t> SearchWindow::Candidate() const
@@ -15,8 +15,8 @@ std::optional<std::int16_t> SearchWindow::Candidate() const
 
 void SearchWindow::OnCandidateChosen()
 {
-    if (const int row = resultList_->ListIndex(); row >= 0)
-        pickedNumber_ = resultList_->ItemData(row);
+    if (const int row = resultList_->ChosenRow(); row >= 0)
+        pickedNumber_ = resultList_->NumberAt(row);
     ShowCandidate();
 }
 
@@ -24,7 +24,7 @@ void SearchWindow::ShowNoCandidate()
 {
     pickedNumber_.reset();
     candidatePanel_->ShowNothing();
-    ShowText(*presentClubBox_, QString());
+    presentClubBox_->ShowText(QString());
 }
 
 void SearchWindow::ShowCandidate()
@@ -34,8 +34,8 @@ void SearchWindow::ShowCandidate()
         return;
 
     // The panel shows the player as he stands now, not as the search copied him.
-    candidatePanel_->Show(game_.Players[std::size_t(*candidate)]);
-    const std::int16_t club = PresentClub(game_, *candidate);
-    ShowText(*presentClubBox_,
-             club == 0 ? QStringLiteral("None") : FromGame(game_.Teams[std::size_t(club)].teamName));
+    const Game& game = document_.Records();
+    candidatePanel_->Show(game.Players[std::size_t(*candidate)]);
+    const std::int16_t club = PresentClub(game, *candidate);
+    presentClubBox_->ShowText(club == 0 ? QStringLiteral("None") : FromGame(game.Teams[std::size_t(club)].teamName));
 }

@@ -3,43 +3,45 @@
 #include <string_view>
 
 #include "data/code_lists.h"
-#include "forms/combo_box.h"
+#include "forms/choice_list.h"
+#include "forms/drop_down.h"
 #include "forms/fitted_layout.h"
 #include "forms/game_text.h"
-#include "forms/list_box.h"
 #include "forms/player_column.h"
-#include "forms/shape.h"
 #include "forms/text_box.h"
 #include "forms/value_boxes.h"
+#include "document/game_document.h"
 #include "searchwindow/search_window.h"
 
 namespace {
 
-// Client area, in twips.
+// Client area, as designed.
 constexpr int AreaWidth = 9540;
 constexpr int AreaHeight = 5955;
 
-// The panel's two columns: captions, then values.
-constexpr int LeftCaptions = 2700;
-constexpr int LeftValues = 4140;
-constexpr int RightCaptions = 6060;
-constexpr int RightValues = 7500;
-constexpr int CaptionWidth = 1335;
-constexpr int ValueWidth = 1695;
-
 const QColor BarColour(128, 128, 255);
 
+// A selector: its catch-all entry, if it has one, then the words.
 template <std::size_t N>
-ComboBox* MakeList(FittedLayout& at, QWidget* area, QRect twips, std::string_view first,
-                   const std::array<std::string_view, N>& words, const char* name)
+QComboBox* MakeList(FittedLayout& at, QWidget* area, QRect designed, std::string_view first,
+                    const std::array<std::string_view, N>& words, const char* name)
 {
-    auto* box = at.Put(new ComboBox(area), twips, true);
+    auto* box = at.Put(NewWordList(area, words), designed, true);
     box->setObjectName(QString::fromLatin1(name));
     if (!first.empty())
-        box->AddItem(FromGame(first));
-    for (std::string_view word : words)
-        box->AddItem(FromGame(word));
+        box->insertItem(0, FromGame(first));
     return box;
+}
+
+// A filled rectangle whose width the sort sets.
+QWidget* MakeBar(QWidget* area)
+{
+    auto* bar = new QWidget(area);
+    bar->setAutoFillBackground(true);
+    QPalette colours = bar->palette();
+    colours.setColor(QPalette::Window, BarColour);
+    bar->setPalette(colours);
+    return bar;
 }
 
 template <typename Control>
@@ -51,8 +53,8 @@ Control* Named(Control* control, const char* name)
 
 }  // namespace
 
-SearchWindow::SearchWindow(Game& game, int team, Mode mode, int squadRow, QWidget* parent)
-    : QDialog(parent), game_(game), team_(team), squadRow_(squadRow)
+SearchWindow::SearchWindow(GameDocument& document, int team, Mode mode, int squadRow, QWidget* parent)
+    : QDialog(parent), document_(document), team_(team), squadRow_(squadRow)
 {
     setObjectName(QStringLiteral("searchWindow"));
     setWindowTitle(QStringLiteral("Add Player.."));
@@ -78,7 +80,7 @@ void SearchWindow::BuildFilters(FittedLayout& at)
     bowlingFilter_ = MakeList(at, this, {4740, 300, 2055, 315}, "All Bowling Types", BowlTypeList, "bowlingFilter");
     fieldingFilter_ =
         MakeList(at, this, {7020, 300, 2055, 315}, "All Fielding Types", FieldPositionList, "fieldingFilter");
-    clubFilter_ = Named(at.Put(new ComboBox(this), {180, 780, 2055, 315}), "clubFilter");
+    clubFilter_ = Named(at.Put(NewDropDown(this), {180, 780, 2055, 315}), "clubFilter");
 
     at.Put(new QLabel(QStringLiteral(" Sort by :-"), this), {240, 1380, 1155, 195}, true);
     constexpr std::array<std::string_view, 7> sortKeys{
@@ -87,46 +89,36 @@ void SearchWindow::BuildFilters(FittedLayout& at)
     sortKeyList_ = MakeList(at, this, {1560, 1320, 3015, 315}, {}, sortKeys, "sortKeyList");
     searchButton_ =
         Named(at.Put(new QPushButton(QStringLiteral("Search "), this), {4800, 1320, 1635, 315}, true), "searchButton");
-    sortBar_ = Named(at.Put(new Shape(BarColour, this), {6660, 1380, 2505, 195}), "sortBar");
+    sortBar_ = Named(at.Put(MakeBar(this), {6660, 1380, 2505, 195}), "sortBar");
     sortBar_->hide();
 
-    resultList_ = Named(at.Put(new ListBox(this), {120, 1860, 2295, 3765}), "resultList");
+    resultList_ = Named(at.Put(new ChoiceList(this), {120, 1860, 2295, 3765}), "resultList");
 }
 
 void SearchWindow::BuildPanel(FittedLayout& at)
 {
-    const auto left = [](int top, int height) { return QRect(LeftCaptions, top, CaptionWidth, height); };
-    const auto right = [](int top, int height) { return QRect(RightCaptions, top, CaptionWidth, height); };
-    const auto leftValue = [](int top, int height) { return QRect(LeftValues, top, ValueWidth, height); };
-    const auto rightValue = [](int top, int height) { return QRect(RightValues, top, ValueWidth, height); };
-    PlayerColumnPlaces places;
-    places.slashesMustFit = false;
-    places.captions = {left(2100, 315),  left(2520, 255),  left(2880, 315),  left(3660, 315), left(4080, 315),
-                       left(4500, 255),  left(4860, 255),  right(2100, 315), right(2520, 315), right(2940, 255),
-                       right(3300, 255), right(3660, 255), right(4020, 315), right(4440, 255)};
-    places.boxes = {
-        QRect(LeftValues, 2100, 435, 315), QRect(4620, 2100, 1215, 315), QRect(LeftValues, 2520, 375, 255),
-        QRect(4740, 2520, 375, 255),       QRect(5280, 2520, 555, 255),  leftValue(2880, 315),
-        leftValue(3660, 315),              leftValue(4080, 315),         leftValue(4500, 255),
-        leftValue(4860, 255),              rightValue(2100, 315),        rightValue(2520, 315),
-        rightValue(2940, 255),             rightValue(3300, 255),        rightValue(3660, 255),
-        rightValue(4020, 315),             rightValue(4440, 255),
-    };
-    places.dateSlashes = {QRect(4560, 2580, 135, 195), QRect(5160, 2580, 135, 195)};
-    candidatePanel_ = Named(new PlayerColumn(at, places, this), "candidatePanel");
+    // Two columns, the batting on the left with the present club under the
+    // home country, the bowling and fielding on the right.
+    PlayerColumnDesign design;
+    design.columns = {{2700, 4140, 2100, 0}, {6060, 7500, 2100, PlayerRowOf(&PlayerRecord::bowlType)}};
+    design.lowSlashes = true;
+    design.slashesMustFit = false;
+    design.windowRowAfter = PlayerRowOf(&PlayerRecord::homeCountry);
+    candidatePanel_ = Named(new PlayerColumn(at, design, this), "candidatePanel");
     // The panel only shows: nothing in it takes input.
     candidatePanel_->SetReadOnly(true);
 
-    at.Put(new QLabel(QStringLiteral("Present Club"), this), left(3300, 255), true);
-    presentClubBox_ = Named(at.Put(new TextBox(this), leftValue(3300, 255)), "presentClub");
+    const PlayerColumnPlaces places = PlacePlayerColumn(design);
+    at.Put(new QLabel(QStringLiteral("Present Club"), this), places.windowCaption, true);
+    presentClubBox_ = Named(at.Put(new TextBox(this), places.windowValue), "presentClub");
     MakeReadOnly(*presentClubBox_);
 }
 
 void SearchWindow::BuildButtons(FittedLayout& at)
 {
     // The two transfer buttons share one spot; the mode shows one of them.
-    const auto button = [&](const char* caption, QRect twips, const char* name) {
-        return Named(at.Put(new QPushButton(QString::fromLatin1(caption), this), twips, true), name);
+    const auto button = [&](const char* caption, QRect designed, const char* name) {
+        return Named(at.Put(new QPushButton(QString::fromLatin1(caption), this), designed, true), name);
     };
     addButton_ = button("Add This Player", {3000, 5400, 1995, 375}, "addButton");
     replaceButton_ = button("Replace with this player", {3000, 5400, 1995, 375}, "replaceButton");
@@ -137,7 +129,7 @@ void SearchWindow::BuildButtons(FittedLayout& at)
 void SearchWindow::ConnectHandlers()
 {
     connect(searchButton_, &QPushButton::clicked, this, &SearchWindow::OnSearch);
-    connect(resultList_, &ListBox::Click, this, &SearchWindow::OnCandidateChosen);
+    connect(resultList_, &ChoiceList::rowChosen, this, &SearchWindow::OnCandidateChosen);
     connect(addButton_, &QPushButton::clicked, this, &SearchWindow::OnAddThisPlayer);
     connect(replaceButton_, &QPushButton::clicked, this, &SearchWindow::OnReplaceWithThisPlayer);
     connect(finishedButton_, &QPushButton::clicked, this, &QDialog::reject);
@@ -145,18 +137,13 @@ void SearchWindow::ConnectHandlers()
 
 void SearchWindow::FillSelectors()
 {
-    clubFilter_->AddItem(QStringLiteral("All Clubs"));
-    const int teams = LoadedTeamCount(game_);
-    for (int team = 1; team <= teams; ++team) {
-        clubFilter_->AddItem(FromGame(game_.Teams[std::size_t(team)].teamName));
-        clubFilter_->SetItemData(clubFilter_->ListCount() - 1, team);
-    }
-    nationalityFilter_->SetText(QStringLiteral("All Nationalities"));
-    clubFilter_->SetText(QStringLiteral("All Clubs"));
-    battingFilter_->SetText(QStringLiteral("All Batting Types"));
-    bowlingFilter_->SetText(QStringLiteral("All Bowling Types"));
-    fieldingFilter_->SetText(QStringLiteral("All Fielding Types"));
-    sortKeyList_->SetText(QStringLiteral("Player Names (A-Z)"));
+    clubFilter_->addItem(QStringLiteral("All Clubs"));
+    const Game& game = document_.Records();
+    for (int team = 1; team <= LoadedTeamCount(game); ++team)
+        clubFilter_->addItem(FromGame(game.Teams[std::size_t(team)].teamName), team);
+    for (QComboBox* selector :
+         {nationalityFilter_, clubFilter_, battingFilter_, bowlingFilter_, fieldingFilter_, sortKeyList_})
+        selector->setCurrentIndex(0);
 }
 
 void SearchWindow::ShowReplaceMode()

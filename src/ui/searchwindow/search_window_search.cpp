@@ -1,52 +1,43 @@
 #include <cmath>
 
-#include "forms/combo_box.h"
-#include "forms/list_box.h"
+#include <QComboBox>
+
+#include "forms/choice_list.h"
 #include "forms/listed_name.h"
-#include "forms/shape.h"
+#include "document/game_document.h"
 #include "search/player_sort.h"
 #include "search/search_filters.h"
 #include "searchwindow/search_window.h"
 
-namespace {
-
-// The bar as laid out, in twips; the sort counts a full bar as 2500.
-constexpr double BarLaidOutTwips = 2505.0;
-
-}  // namespace
-
 void SearchWindow::OnSearch()
 {
     // "All Clubs" carries no team; every other entry carries its team's number.
-    const int club = clubFilter_->ListIndex();
     SearchFilters filters;
-    filters.team = club > 0 ? clubFilter_->ItemData(club) : 0;
-    filters.nationality = static_cast<std::int16_t>(nationalityFilter_->ListIndex());
-    filters.batPosition = static_cast<std::int16_t>(battingFilter_->ListIndex());
-    filters.bowlType = static_cast<std::int16_t>(bowlingFilter_->ListIndex());
-    filters.fieldsAt = static_cast<std::int16_t>(fieldingFilter_->ListIndex());
+    filters.team = clubFilter_->currentData().toInt();
+    filters.nationality = static_cast<std::int16_t>(nationalityFilter_->currentIndex());
+    filters.batPosition = static_cast<std::int16_t>(battingFilter_->currentIndex());
+    filters.bowlType = static_cast<std::int16_t>(bowlingFilter_->currentIndex());
+    filters.fieldsAt = static_cast<std::int16_t>(fieldingFilter_->currentIndex());
 
     // A new search leaves no candidate: Add and Replace then have no one to move.
-    resultList_->Clear();
+    resultList_->clear();
     ShowNoCandidate();
-    results_ = RunFilters(game_, filters);
+    results_ = RunFilters(document_.Records(), filters);
     SortWithBar();
 
     for (const PlayerRecord& candidate : results_) {
-        resultList_->AddItem(ListedName(candidate));
-        resultList_->SetItemData(resultList_->ListCount() - 1, candidate.playerNumber);
+        resultList_->AddRow(ListedName(candidate), candidate.playerNumber);
     }
 }
 
 void SearchWindow::SortWithBar()
 {
     sortBar_->show();
-    SortResults(results_, sortKeyList_->ListIndex(), [this](double widthTwips) { SetBarWidth(widthTwips); });
+    SortResults(results_, sortKeyList_->currentIndex(), [this](double done) { ShowSortProgress(done); });
     sortBar_->hide();
 }
 
-void SearchWindow::SetBarWidth(double widthTwips)
+void SearchWindow::ShowSortProgress(double done)
 {
-    const int pixels = static_cast<int>(std::lround(widthTwips / BarLaidOutTwips * barFullWidth_));
-    sortBar_->resize(pixels, sortBar_->height());
+    sortBar_->resize(static_cast<int>(std::lround(done * barFullWidth_)), sortBar_->height());
 }

@@ -1,4 +1,6 @@
 #include "data/squad.h"
+#include "document/game_document.h"
+#include "document/squad_steps.h"
 #include "forms/game_text.h"
 #include "forms/message_box.h"
 #include "forms/player_column.h"
@@ -22,53 +24,52 @@ QString FullName(const PlayerRecord& player)
 
 void RefuseMemberOfTeam()
 {
-    MsgBox(QStringLiteral("Player already in team"), MbInformation, QStringLiteral("Error"));
+    ShowMessage(QMessageBox::Information, QStringLiteral("Error"), QStringLiteral("Player already in team"));
 }
 
 }  // namespace
 
 void SearchWindow::OnAddThisPlayer()
 {
-    if (RefuseFullSquad(SquadCount(game_.Teams[std::size_t(team_)])))
+    const Game& game = document_.Records();
+    if (RefuseFullSquad(SquadCount(game.Teams[std::size_t(team_)])))
         return;
     const auto candidate = Candidate();
     if (!candidate)
         return RefuseNoPlayer(AddTitle);
-    if (IsInSquad(game_, team_, *candidate))
+    if (IsInSquad(game, team_, *candidate))
         return RefuseMemberOfTeam();
 
-    const std::int16_t oldTeam = AddToSquad(game_, team_, *candidate);
-    emit squadChanged(team_);
+    const std::int16_t oldTeam = AddToSquad(document_, team_, *candidate);
     // The panel names his new club.
     ShowCandidate();
 
-    QString text = candidatePanel_->ShownName() + QStringLiteral(" has been added to the ") + TeamName(game_, team_) +
+    QString text = candidatePanel_->ShownName() + QStringLiteral(" has been added to the ") + TeamName(game, team_) +
                    QStringLiteral(" squad");
     if (oldTeam != 0)
-        text += QStringLiteral(" and removed from ") + TeamName(game_, oldTeam) + QStringLiteral(" squad");
-    MsgBox(text + QLatin1Char('.'), MbInformation, AddTitle);
+        text += QStringLiteral(" and removed from ") + TeamName(game, oldTeam) + QStringLiteral(" squad");
+    ShowMessage(QMessageBox::Information, AddTitle, text + QLatin1Char('.'));
 }
 
 void SearchWindow::OnReplaceWithThisPlayer()
 {
+    const Game& game = document_.Records();
     const auto candidate = Candidate();
     if (!candidate)
         return RefuseNoPlayer(ReplaceTitle);
-    if (IsInSquad(game_, team_, *candidate))
+    if (IsInSquad(game, team_, *candidate))
         return RefuseMemberOfTeam();
-    // A name edit carried over under this window rebuilds the squad list and
-    // leaves no row chosen: there is then no player to replace.
-    if (SlotOfRow(game_.Teams[std::size_t(team_)], squadRow_) == 0)
+    // The row must still stand for a player of the squad.
+    if (SlotOfRow(game.Teams[std::size_t(team_)], squadRow_) == 0)
         return RefuseNoPlayer(ReplaceTitle);
 
-    const Replacement done = ReplaceInSquad(game_, team_, squadRow_, *candidate);
-    emit squadChanged(team_);
+    const Replacement done = ReplaceInSquad(document_, team_, squadRow_, *candidate);
 
     QString text = candidatePanel_->ShownName();
     if (done.oldTeam != 0)
-        text += QStringLiteral(" from ") + TeamName(game_, done.oldTeam);
-    text += QStringLiteral(" has replaced ") + FullName(game_.Players[std::size_t(done.replaced)]) +
-            QStringLiteral(" in the ") + TeamName(game_, team_) + QStringLiteral(" squad.");
-    MsgBox(text, MbInformation, ReplaceTitle);
+        text += QStringLiteral(" from ") + TeamName(game, done.oldTeam);
+    text += QStringLiteral(" has replaced ") + FullName(game.Players[std::size_t(done.replaced)]) +
+            QStringLiteral(" in the ") + TeamName(game, team_) + QStringLiteral(" squad.");
+    ShowMessage(QMessageBox::Information, ReplaceTitle, text);
     accept();
 }

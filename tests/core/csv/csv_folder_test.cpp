@@ -6,6 +6,7 @@
 
 #include "csv/csv_folder.h"
 #include "diff/game_files.h"
+#include "support/scratch_folder.h"
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -30,18 +31,15 @@ std::vector<std::string> Lines(const std::vector<RowFault>& faults)
 
 class CsvFolderTest : public ::testing::Test {
 protected:
-    std::unique_ptr<Game> game = ReadGameFiles(KOLTA_FIXTURES "/game_with_changes");
-    std::filesystem::path scratch = std::filesystem::temp_directory_path() /
-                                    ::testing::UnitTest::GetInstance()->current_test_info()->name();
-
-    void TearDown() override { std::filesystem::remove_all(scratch); }
+    ScratchFolder scratch;
+    std::unique_ptr<Game> game = ReadGameFiles(scratch.Fixture("game_with_changes").string());
 };
 
 // The rows go into a copy; the game itself is never touched.
 TEST_F(CsvFolderTest, ImportListsTheChangesOrEveryWrongRowAndLeavesTheGameAlone)
 {
     const Game before = *game;
-    const CsvImport changes = ImportCsvFolder(*game, KOLTA_FIXTURES "/csv_changes");
+    const CsvImport changes = ImportCsvFolder(*game, scratch.Fixture("csv_changes").string());
     EXPECT_TRUE(changes.read);
     EXPECT_THAT(changes.faults, IsEmpty());
     EXPECT_THAT(Texts(changes.changes), ElementsAre("player 5 (E Ellerby): surname \"Ellery\" -> \"Ellerby\"",
@@ -51,7 +49,7 @@ TEST_F(CsvFolderTest, ImportListsTheChangesOrEveryWrongRowAndLeavesTheGameAlone)
     EXPECT_EQ(changes.game->Players[5].surname, "Ellerby");
     EXPECT_EQ(changes.game->Players[5].birthYear, before.Players[5].birthYear) << "columns left out keep their values";
 
-    const CsvImport faulty = ImportCsvFolder(*game, KOLTA_FIXTURES "/csv_faulty");
+    const CsvImport faulty = ImportCsvFolder(*game, scratch.Fixture("csv_faulty").string());
     EXPECT_TRUE(faulty.read);
     EXPECT_THAT(Lines(faulty.faults),
                 ElementsAre("players.csv:2: batAggression \"fast\" is not a whole number from -32768 to 32767",
@@ -59,7 +57,7 @@ TEST_F(CsvFolderTest, ImportListsTheChangesOrEveryWrongRowAndLeavesTheGameAlone)
     EXPECT_FALSE(faulty.game);
     EXPECT_THAT(faulty.changes, IsEmpty());
 
-    const CsvImport none = ImportCsvFolder(*game, KOLTA_FIXTURES "/game_with_changes");
+    const CsvImport none = ImportCsvFolder(*game, (scratch / "game_with_changes").string());
     EXPECT_FALSE(none.read);
     EXPECT_FALSE(none.game);
     EXPECT_TRUE(before.Players == game->Players && before.Teams == game->Teams);

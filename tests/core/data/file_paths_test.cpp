@@ -8,7 +8,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -26,6 +25,7 @@
 #include "data/setting_file.h"
 #include "data/teams_file.h"
 #include "support/file_text.h"
+#include "support/scratch_folder.h"
 
 namespace fs = std::filesystem;
 
@@ -67,26 +67,15 @@ const std::string AwkwardBytes = std::string("a\r\nb\nc\rd\x1a" "e") + '\0' + "\
 
 class FilePaths : public testing::TestWithParam<std::string> {
 protected:
-    void TearDown() override
-    {
-        SetCommitStepHook(nullptr);
-        std::error_code ignored;
-        fs::remove_all(root_, ignored);
-    }
+    void TearDown() override { SetCommitStepHook(nullptr); }
 
     // A new folder named `name` under a scratch folder of this test.
-    fs::path Folder(const std::string& name)
-    {
-        const fs::path dir = root_ / NativePath(name);
-        fs::create_directories(dir);
-        return dir;
-    }
+    fs::path Folder(const std::string& name) { return scratch_.Folder(NativePath(name)); }
 
     // The sample game copied into `dir` and loaded.
     std::unique_ptr<Game> LoadSampleIn(const fs::path& dir, const std::string& asText)
     {
-        for (const char* file : {"players.dat", "teams.dat"})
-            fs::copy_file(fs::path(KOLTA_SAMPLE) / file, dir / file, fs::copy_options::overwrite_existing);
+        CopySampleInto(dir);
         auto game = std::make_unique<Game>();
         SetGameDirectory(*game, asText);
         EXPECT_TRUE(ReadPlayersFile(*game).Read());
@@ -112,7 +101,7 @@ protected:
         EXPECT_EQ(Temporaries(dir), std::vector<std::string>{});
     }
 
-    const fs::path root_ = fs::temp_directory_path() / ("kolta-paths-" + std::to_string(std::random_device{}()));
+    ScratchFolder scratch_;
 };
 
 TEST_P(FilePaths, ReplacingAFileKeepsEveryByte)

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -16,6 +15,7 @@
 #include "data/players_file.h"
 #include "data/teams_file.h"
 #include "support/file_text.h"
+#include "support/scratch_folder.h"
 
 namespace fs = std::filesystem;
 
@@ -35,7 +35,7 @@ Lines Teams(int count)
 {
     Lines lines;
     for (int i = 0; i < count; ++i)
-        lines = Cat(lines, Team());
+        lines = Cat(std::move(lines), Team());
     return lines;
 }
 
@@ -80,7 +80,7 @@ TEST(LoadReport, LongListsAreCut)
 {
     Lines lines;
     for (int i = 0; i < 12; ++i)
-        lines = Cat(lines, Player("?"));
+        lines = Cat(std::move(lines), Player("?"));
     auto game = NewGame();
     EXPECT_EQ(ReadPlayers(*game, Join(lines, PlayersEnd)).DroppedText(),
               "players.dat: 12 records without a usable player number (record 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, ...)");
@@ -90,18 +90,8 @@ TEST(LoadReport, LongListsAreCut)
 // Pipes, devices and permission bits are Unix things.
 class ReadFile : public testing::Test {
 protected:
-    void SetUp() override
-    {
-        dir_ = fs::temp_directory_path() / ("kolta-read-" + std::to_string(std::random_device{}()));
-        fs::create_directories(dir_);
-    }
-    void TearDown() override
-    {
-        std::error_code ignored;
-        fs::permissions(dir_ / "locked", fs::perms::owner_all, ignored);
-        fs::remove_all(dir_, ignored);
-    }
-    fs::path dir_;
+    ScratchFolder scratch_;
+    const fs::path dir_ = scratch_.Path();
 };
 
 // Nothing here may block or read without end: a pipe nobody writes to, a

@@ -7,7 +7,6 @@
 #include <chrono>
 #include <csignal>
 #include <filesystem>
-#include <random>
 #include <string>
 #include <thread>
 #include <vector>
@@ -23,18 +22,20 @@
 #include "data/save.h"
 #include "data/teams_file.h"
 #include "support/file_text.h"
+#include "support/scratch_folder.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-const std::string OldPlayers = Bytes(KOLTA_SAMPLE "/players.dat");
-const std::string OldTeams = Bytes(KOLTA_SAMPLE "/teams.dat");
+const std::string OldPlayers = SampleBytes("players.dat");
+const std::string OldTeams = SampleBytes("teams.dat");
 
 std::vector<std::string> stepsSeen;
 std::string stopAt;
 void (*atStop)(const fs::path&) = nullptr;
 fs::path stopFolder;
+int holdingFolder = -1;  // where a child process says it holds the folder
 
 void RecordStep(std::string_view step)
 {
@@ -49,21 +50,12 @@ void StopAtStep(std::string_view step)
 
 class PairCommit : public testing::Test {
 protected:
-    void TearDown() override
-    {
-        SetCommitStepHook(nullptr);
-        std::error_code ignored;
-        for (const fs::path& dir : made_)
-            fs::remove_all(dir, ignored);
-    }
+    void TearDown() override { SetCommitStepHook(nullptr); }
 
     // A copy of the sample game, loaded and changed in both files.
     fs::path ChangedCopy(Game& game)
     {
-        const fs::path dir = fs::temp_directory_path() / ("kolta-pair-" + std::to_string(std::random_device{}()));
-        fs::create_directories(dir);
-        fs::copy(KOLTA_SAMPLE, dir);
-        made_.push_back(dir);
+        const fs::path dir = scratch_.Sample("game" + std::to_string(++copies_));
         SetGameDirectory(game, dir.string());
         LoadGame(game);
         game.Players[1].surname = "Changed";
@@ -90,7 +82,8 @@ protected:
         return strays;
     }
 
-    std::vector<fs::path> made_;
+    ScratchFolder scratch_;
+    int copies_ = 0;
 };
 
 #if !defined(_WIN32)
@@ -192,15 +185,28 @@ TEST_F(PairCommit, ASecondWriterWaitsThenChangesNothing)
 #if !defined(_WIN32)
     // Two processes at once: the one that comes second finds the files
     // changed since it loaded them and leaves the first one's pair alone.
+    // The second starts only once the first holds the folder, however slowly
+    // the first got there.
+    int holding[2];
+    ASSERT_EQ(::pipe(holding), 0);
     const pid_t child = ::fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
+        ::close(holding[0]);
+        holdingFolder = holding[1];
         stopAt = "wrote the commit record";
-        atStop = [](const fs::path&) { std::this_thread::sleep_for(std::chrono::milliseconds(500)); };
+        atStop = [](const fs::path&) {
+            const char held = 1;
+            (void)!::write(holdingFolder, &held, 1);
+            std::this_thread::sleep_for(std::chrono::milliseconds(500));
+        };
         SetCommitStepHook(StopAtStep);
         ::_exit(SaveGame(*first).ok() ? 0 : 1);
     }
-    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    ::close(holding[1]);
+    char held = 0;
+    ASSERT_EQ(::read(holding[0], &held, 1), 1);
+    ::close(holding[0]);
     const FileResult late = SaveGame(*second);
     int status = 0;
     ::waitpid(child, &status, 0);
@@ -210,6 +216,24 @@ TEST_F(PairCommit, ASecondWriterWaitsThenChangesNothing)
     EXPECT_EQ(Bytes(dir / "players.dat"), WritePlayers(*first));
     EXPECT_EQ(Bytes(dir / "teams.dat"), WriteTeams(*first));
 #endif
+
+    // Asked to, the second writes over another program's save; the pair it
+    // replaced stays beside it as the .prev pair.
+    auto other = NewGame();
+    SetGameDirectory(*other, dir.string());
+    LoadGame(*other);
+    other->Players[2].surname = "Theirs";
+    ASSERT_TRUE(SaveGame(*other).ok());
+    const std::string theirPlayers = Bytes(dir / "players.dat");
+    const std::string theirTeams = Bytes(dir / "teams.dat");
+    EXPECT_TRUE(FilesChangedSinceLoaded(*second));
+    EXPECT_FALSE(SaveGame(*second).ok());
+    EXPECT_EQ(Bytes(dir / "players.dat"), theirPlayers);
+    ASSERT_TRUE(SaveGame(*second, false, OtherChanges::Overwrite).ok());
+    EXPECT_EQ(Bytes(dir / "teams.dat"), WriteTeams(*second));
+    EXPECT_EQ(Bytes(dir / "players.dat.prev"), theirPlayers);
+    EXPECT_EQ(Bytes(dir / "teams.dat.prev"), theirTeams);
+    EXPECT_FALSE(FilesChangedSinceLoaded(*second));
 }
 
 TEST_F(PairCommit, ASecondEditorOnTheFolderIsToldAndTheLastOneTidiesUp)
@@ -217,13 +241,16 @@ TEST_F(PairCommit, ASecondEditorOnTheFolderIsToldAndTheLastOneTidiesUp)
     auto game = NewGame();
     const fs::path dir = ChangedCopy(*game);
     {
+        EXPECT_FALSE(EditorHasFolderOpen(dir.string()));
         const FolderPresence first(dir.string());
         EXPECT_FALSE(first.OthersHadItOpen());
         const FolderPresence second(dir.string());
         EXPECT_TRUE(second.OthersHadItOpen());
+        EXPECT_TRUE(EditorHasFolderOpen(dir.string()));
         EXPECT_TRUE(SaveGame(*game).ok());  // an open editor is no writer
     }
     EXPECT_FALSE(fs::exists(dir / "kolta-editor.open"));
+    EXPECT_FALSE(EditorHasFolderOpen(dir.string()));
     const FolderPresence alone(dir.string());
     EXPECT_FALSE(alone.OthersHadItOpen());
 }

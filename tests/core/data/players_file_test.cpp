@@ -24,7 +24,7 @@ Lines Blanks(int from, int to)
 {
     Lines lines;
     for (int n = from; n <= to; ++n)
-        lines = Cat(lines, Lines{std::to_string(n), "#", "#", "#"}, Lines(17, "0"));
+        lines = Cat(std::move(lines), Lines{std::to_string(n), "#", "#", "#"}, Lines(17, "0"));
     return lines;
 }
 

@@ -3,6 +3,7 @@
 #include "data/players_file.h"
 #include "data/teams_file.h"
 #include "support/file_text.h"
+#include "support/scratch_folder.h"
 #include "world_generator.h"
 
 namespace {
@@ -25,8 +26,8 @@ TEST(SampleGame, TheSampleAndAFullSizeWorldComeBackByteForByte)
 {
     auto sample = NewGame();
     GenerateSampleWorld(*sample);
-    const std::string players = ReadWholeFile(KOLTA_SAMPLE "/players.dat").value_or("");
-    const std::string teams = ReadWholeFile(KOLTA_SAMPLE "/teams.dat").value_or("");
+    const std::string players = SampleBytes("players.dat");
+    const std::string teams = SampleBytes("teams.dat");
     EXPECT_TRUE(players == WritePlayers(*sample));
     EXPECT_TRUE(teams == WriteTeams(*sample));
     ExpectRoundTrip(*sample, players, teams);

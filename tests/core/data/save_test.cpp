@@ -8,9 +8,7 @@
 #include <csignal>
 #include <filesystem>
 #include <map>
-#include <random>
 #include <string>
-#include <system_error>
 #include <vector>
 
 #include <sys/resource.h>
@@ -19,13 +17,14 @@
 #include "data/players_file.h"
 #include "data/teams_file.h"
 #include "support/file_text.h"
+#include "support/scratch_folder.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-const std::string OldPlayers = Bytes(KOLTA_SAMPLE "/players.dat");
-const std::string OldTeams = Bytes(KOLTA_SAMPLE "/teams.dat");
+const std::string OldPlayers = SampleBytes("players.dat");
+const std::string OldTeams = SampleBytes("teams.dat");
 
 void MakeReadOnly(const fs::path& path)
 {
@@ -63,29 +62,18 @@ std::map<fs::path, std::string> Files(const fs::path& dir, bool links)
 
 class Save : public testing::Test {
 protected:
-    void TearDown() override
-    {
-        for (const fs::path& dir : made_) {
-            std::error_code ignored;
-            fs::permissions(dir, fs::perms::owner_all, ignored);
-            fs::remove_all(dir, ignored);
-        }
-    }
-
     // A copy of the sample game in a folder of its own, loaded into `game`.
     fs::path LoadCopy(Game& game)
     {
-        const fs::path dir = fs::temp_directory_path() / ("kolta-save-" + std::to_string(std::random_device{}()));
-        fs::create_directories(dir);
-        fs::copy(KOLTA_SAMPLE, dir);
-        made_.push_back(dir);
+        const fs::path dir = scratch_.Sample("game" + std::to_string(++copies_));
         SetGameDirectory(game, dir.string());
         EXPECT_TRUE(ReadPlayersFile(game).Read());
         EXPECT_TRUE(ReadTeamsFile(game).Read());
         return dir;
     }
 
-    std::vector<fs::path> made_;
+    ScratchFolder scratch_;
+    int copies_ = 0;
 };
 
 TEST_F(Save, WritesByteForByteAndKeepsTheOldFilesAtTheFirstSaveOnly)

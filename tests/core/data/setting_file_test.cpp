@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
+#include "support/scratch_folder.h"
 
 namespace {
 
@@ -13,15 +13,15 @@ TEST(SettingFile, KeepsTheDirectoryUpToTheFirstCommaOrLineEnd)
     EXPECT_EQ(ReadSetting("C:\\Games, old\\KOLTA\r\n"), "C:\\Games");
     EXPECT_EQ(ReadSetting("\"C:\\Games, old\"\r\n"), "C:\\Games, old");
     EXPECT_EQ(ReadSetting("  D:\\\r\nE:\\other\r\n"), "D:\\");
-    EXPECT_EQ(ReadSettingFile(KOLTA_FIXTURES "/setting_two_lines/editor.dat"), "/games/kolta");
-    EXPECT_EQ(ReadSettingFile(KOLTA_FIXTURES "/no_such_case/editor.dat"), "");
+    const ScratchFolder scratch;
+    EXPECT_EQ(ReadSettingFile(PathText(scratch.Fixture("setting_two_lines") / "editor.dat")), "/games/kolta");
+    EXPECT_EQ(ReadSettingFile(PathText(scratch / "no_such_case" / "editor.dat")), "");
 
     const std::string directory = "C:\\Spiele\\K\xF6lta Cricket";
     EXPECT_EQ(WriteSetting(directory), directory + "\r\n");
-    const std::filesystem::path file = std::filesystem::temp_directory_path() / "kolta-setting-test-editor.dat";
-    ASSERT_TRUE(WriteSettingFile(PathText(file), directory).ok());
-    EXPECT_EQ(ReadSettingFile(PathText(file)), directory);
-    std::filesystem::remove(file);
+    const std::string file = PathText(scratch / "editor.dat");
+    ASSERT_TRUE(WriteSettingFile(file, directory).ok());
+    EXPECT_EQ(ReadSettingFile(file), directory);
 }
 
 }  // namespace

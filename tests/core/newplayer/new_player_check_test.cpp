@@ -26,14 +26,15 @@ std::unique_ptr<Game> SmallGame()
 // Names, date of birth, then the six skills in the order of the Help window.
 NewPlayerEntries GoodEntries()
 {
-    return {"R J", "Ashdown", "14", "7", "1979", "45", "12", "20", "8", "25", "10"};
+    return {"R J", "Ashdown", "14", "2", "1979", "45", "12", "20", "8", "25", "10"};
 }
 
 }  // namespace
 
 // Pasted text skips the window's key filter, so signs, fractions and
-// exponents reach the check; a value is judged before rounding. The date
-// takes any number, the names anything, but every number box needs a number.
+// exponents reach the check; a value is judged before rounding. The date must
+// be a day of the calendar, the names must not be empty, and every number box
+// needs a number.
 TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
 {
     using E = NewPlayerEntries;
@@ -53,9 +54,11 @@ TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
         {&E::batSkill, "59.5", true},     {&E::fieldAbility, "9.6", false},  {&E::fieldAbility, "40.1", false},
         {&E::fieldAbility, "1e1", true},  {&E::batSkill, "6e1", true},       {&E::batSkill, "7e1", false},
         {&E::potential, ".5", true},      {&E::potential, "1e", false},      {&E::potential, " 7 ", true},
-        {&E::birthDay, "99", true},       {&E::birthMonth, "0", true},       {&E::birthYear, "9999", true},
-        {&E::birthYear, "1e9", true},     {&E::birthDay, "-5", true},        {&E::initials, "", true},
-        {&E::surname, "", true},
+        {&E::birthDay, "99", false},      {&E::birthMonth, "0", false},      {&E::birthYear, "9999", true},
+        {&E::birthYear, "1e9", false},    {&E::birthDay, "-5", false},       {&E::birthDay, "14.5", false},
+        {&E::birthDay, "28", true},       {&E::birthDay, "29", false},       {&E::birthMonth, "13", false},
+        {&E::initials, "", false},        {&E::initials, "  ", false},       {&E::surname, "", false},
+        {&E::surname, " ", false},        {&E::initials, "J", true},
     };
     for (const auto& c : cases) {
         NewPlayerEntries e = GoodEntries();
@@ -63,6 +66,22 @@ TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
         EXPECT_EQ(EntriesAreGood(e), c.good) << "text \"" << c.text << "\"";
     }
     EXPECT_FALSE(EntriesAreGood(NewPlayerEntries{})) << "OK pressed on an untouched window";
+    const struct {
+        const char* day;
+        const char* month;
+        const char* year;
+        bool exists;
+    } dates[] = {
+        {"29", "2", "1992", true}, {"29", "2", "1900", false}, {"29", "2", "2000", true}, {"31", "4", "1990", false},
+        {"31", "12", "1990", true}, {"1", "1", "0", false},     {"0", "1", "1990", false},
+    };
+    for (const auto& d : dates) {
+        NewPlayerEntries e = GoodEntries();
+        e.birthDay = d.day;
+        e.birthMonth = d.month;
+        e.birthYear = d.year;
+        EXPECT_EQ(EntriesAreGood(e), d.exists) << d.day << "/" << d.month << "/" << d.year;
+    }
     EXPECT_EQ(FirstBadEntry(GoodEntries()), std::nullopt);
     const struct {
         EntryBox box;
@@ -71,8 +90,11 @@ TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
     } faults[] = {
         {&NewPlayerEntries::potential, "20.5", "Potential must lie from 0 to 20, not 20.5."},
         {&NewPlayerEntries::fieldAbility, "9", "Field ability must lie from 10 to 40, not 9."},
+        {&NewPlayerEntries::birthDay, "30", "Date of birth 30/2/1979 does not exist."},
         {&NewPlayerEntries::birthMonth, "1x", "Date of birth holds no number: \"1x\"."},
         {&NewPlayerEntries::birthDay, "", "Date of birth is empty."},
+        {&NewPlayerEntries::surname, " ", "Player Name has no surname."},
+        {&NewPlayerEntries::initials, "", "Player Name has no initials."},
     };
     // Each box spoilt in turn is ahead of the ones before it in the window's order.
     NewPlayerEntries e = GoodEntries();

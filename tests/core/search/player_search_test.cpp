@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <numeric>
 #include <random>
 #include <string>
 #include <tuple>
@@ -11,6 +12,7 @@
 #include "support/game_builder.h"
 #include "search/player_sort.h"
 #include "search/search_filters.h"
+#include "search/sort_sweeps.h"
 
 using ::testing::DoubleNear;
 using ::testing::ElementsAre;
@@ -103,14 +105,14 @@ TEST_F(PlayerSearchTest, SurnamesSortByCharacterCode)
 {
     SearchRows rows;
     for (const char* name : {"smith", "Smith", "Smithers", "\x80uro", "\xE9tienne", "\x8Aimek", "Zulu", "Adams",
-                             "Smit", "adams"})
+                             "Smit", "adams", "Featherst\x80", "Featherstone", "Featherst\xE9"})
         Row(rows, name);
     SortResults(rows, static_cast<int>(SortKey::Surname), nullptr);
     std::vector<std::string> sorted;
     for (const PlayerRecord& row : rows)
         sorted.push_back(row.surname);
-    EXPECT_THAT(sorted, ElementsAre("Adams", "Smit", "Smith", "Smithers", "Zulu", "adams", "smith", "\xE9tienne",
-                                        "\x8Aimek", "\x80uro"));
+    EXPECT_THAT(sorted, ElementsAre("Adams", "Featherstone", "Featherst\xE9", "Featherst\x80", "Smit", "Smith",
+                                    "Smithers", "Zulu", "adams", "smith", "\xE9tienne", "\x8Aimek", "\x80uro"));
 }
 
 // The stable standard sort by the same key is the reference: each key reads
@@ -150,24 +152,58 @@ TEST_F(PlayerSearchTest, EveryKeyKeepsEqualRowsInTheirOrder)
     }
 }
 
-// The bar widens once per pair of sweeps: four rows in reverse order take a
-// pair over rows 1 to 4 and one over rows 2 to 3; rows in order take one.
-TEST_F(PlayerSearchTest, TheBarWidensOncePerPairOfSweeps)
+// Progress is told once per pair of sweeps: four rows in reverse order take a
+// pair over rows 1 to 4 and one over rows 2 to 3; rows in order take one;
+// forty in reverse order, one pair for each two rows, each sweep placing one.
+TEST_F(PlayerSearchTest, ProgressIsToldOncePerPairOfSweeps)
 {
     const auto widths = [&](const std::vector<int>& skills) {
         std::vector<double> seen;
         SearchRows rows;
         for (int skill : skills)
             Row(rows, "R").batSkill = static_cast<std::int16_t>(skill);
-        SortResults(rows, static_cast<int>(SortKey::BatSkill), [&](double width) { seen.push_back(width); });
+        SortResults(rows, static_cast<int>(SortKey::BatSkill), [&](double done) { seen.push_back(done); });
         EXPECT_TRUE(std::is_sorted(rows.begin(), rows.end(),
                                    [](const auto& a, const auto& b) { return a.batSkill > b.batSkill; }));
         return seen;
     };
-    EXPECT_THAT(widths({1, 2, 3, 4}), Pointwise(DoubleNear(1e-9), std::vector{2500.0 / 4, 2500.0 * 2 / 3}));
-    EXPECT_THAT(widths({5, 4, 3, 2, 1}), Pointwise(DoubleNear(1e-9), std::vector{500.0}));
+    EXPECT_THAT(widths({1, 2, 3, 4}), Pointwise(DoubleNear(1e-9), std::vector{1.0 / 4, 2.0 / 3}));
+    EXPECT_THAT(widths({5, 4, 3, 2, 1}), Pointwise(DoubleNear(1e-9), std::vector{1.0 / 5}));
+    std::vector<int> rising(40);
+    std::iota(rising.begin(), rising.end(), 1);
+    std::vector<double> expected;
+    for (int pair = 1; pair <= 20; ++pair)
+        expected.push_back(static_cast<double>(pair) / (41 - pair));
+    EXPECT_THAT(widths(rising), Pointwise(DoubleNear(1e-9), expected));
     EXPECT_THAT(widths({}), IsEmpty());
     EXPECT_THAT(widths({7}), IsEmpty());
+}
+
+// Sixteen-bit keys go through the sweeps eight at a time; any other key one at
+// a time. Both must give the game's spans, whatever the keys: long runs and
+// short ones, many equal keys, and blocks whose last key to move is followed
+// by keys already in place.
+TEST(SortSweeps, EightKeysAtATimeGiveTheSpansOfOneAtATime)
+{
+    std::mt19937 random(1999);
+    for (int round = 0; round < 600; ++round) {
+        const int count = round % 50 == 0 ? 2000 : static_cast<int>(random() % 70);
+        const int spread = round % 3 == 0 ? 3 : 30000;
+        std::vector<std::int16_t> narrow(count + 1);
+        for (int i = 1; i <= count; ++i) {
+            const int run = round % 4 == 0 ? (count - i) * 7 : round % 4 == 1 ? i * 5 : 0;
+            narrow[i] = static_cast<std::int16_t>((run + static_cast<int>(random() % spread)) % 65536 - 32768);
+        }
+        if (round % 5 == 0 && count > 10)
+            std::sort(narrow.end() - 1 - static_cast<int>(random() % 10), narrow.end());
+        std::vector<int> wide(narrow.begin(), narrow.end());
+        std::vector<std::pair<int, int>> narrowSpans;
+        std::vector<std::pair<int, int>> wideSpans;
+        FollowSortSweeps(narrow, [&](int first, int last) { narrowSpans.emplace_back(first, last); });
+        FollowSortSweeps(wide, [&](int first, int last) { wideSpans.emplace_back(first, last); });
+        ASSERT_EQ(narrowSpans, wideSpans) << "round " << round;
+        ASSERT_TRUE(std::equal(narrow.begin() + 1, narrow.end(), wide.begin() + 1)) << "round " << round;
+    }
 }
 
 }  // namespace

@@ -63,6 +63,39 @@ TEST_F(SquadTest, APlayerInTwoSquadsBelongsToTheHighestTeam)
     EXPECT_EQ(game.Players[5].teamNumber, 4);
 }
 
+// A player whom a game lists in two squads (or twice in one) and who leaves
+// one of them keeps the number of a team that still holds him; only the
+// last squad to let him go leaves him without a team.
+TEST_F(SquadTest, LeavingOneOfTwoSquadsKeepsTheOther)
+{
+    // Player 1 stands in teams 1 and 2, and in the case of team 3 twice there.
+    const struct {
+        const char* what;
+        std::vector<int> three;
+        std::int16_t teamNumberBefore;
+        void (*leave)(Game&);
+        std::int16_t teamNumberAfter;
+    } cases[] = {
+        {"deleted from team 2, which his record names", {}, 2, [](Game& g) { DeleteFromSquad(g, 2, 1); }, 1},
+        {"deleted from team 2, his record naming team 1", {}, 1, [](Game& g) { DeleteFromSquad(g, 2, 1); }, 1},
+        {"deleted from team 1", {}, 2, [](Game& g) { DeleteFromSquad(g, 1, 1); }, 2},
+        {"replaced in team 2", {}, 2, [](Game& g) { ReplaceInSquad(g, 2, 0, 9); }, 1},
+        {"deleted from both", {}, 2, [](Game& g) { DeleteFromSquad(g, 2, 1); DeleteFromSquad(g, 1, 1); }, 0},
+        {"deleted from one of two places in his team", {1, 4, 1}, 3, [](Game& g) { DeleteFromSquad(g, 3, 1); }, 3},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        GameBuilder fresh;
+        fresh.Players(9);
+        fresh.Team(1, "One", {1, 2});
+        fresh.Team(2, "Two", {1, 3});
+        fresh.Team(3, "Three", c.three);
+        fresh.game->Players[1].teamNumber = c.teamNumberBefore;
+        c.leave(*fresh.game);
+        EXPECT_EQ(fresh.game->Players[1].teamNumber, c.teamNumberAfter);
+    }
+}
+
 TEST_F(SquadTest, FullSquadsAndTheirFirstAndLastPlaces)
 {
     b.Team(1, "Full", PlayerRun(1, SquadSize));

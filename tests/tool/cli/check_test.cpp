@@ -31,9 +31,9 @@ TEST_F(Check, FindsEachKindOfProblemWhereItIs)
     Lines allPlayers;
     Lines allTeams;
     for (int number = 1; number <= 2001; ++number)
-        allPlayers = Cat(allPlayers, PlayerRecordLines(number));
+        allPlayers = Cat(std::move(allPlayers), PlayerRecordLines(number));
     for (int number = 1; number <= 501; ++number)
-        allTeams = Cat(allTeams, TeamRecordLines("Team", number));
+        allTeams = Cat(std::move(allTeams), TeamRecordLines("Team", number));
     // Oddities the editor copes with; player 6 (29 February of a leap year) has none.
     const Lines odd = Cat(PlayerRecordLines(1, "Arlow", 2), With(PlayerRecordLines(2, "Brenick"), BatsLine, "2"),
                           With(With(PlayerRecordLines(3, "Corvane"), NationLine, "40"), BatSkillLine, "61"),
@@ -91,7 +91,7 @@ TEST_F(Check, FindsEachKindOfProblemWhereItIs)
         EXPECT_EQ(run.code, c.findings.front().ends_with(": error") ? 1 : 0);  // errors come first
         EXPECT_THAT(Findings(run), ElementsAreArray(c.findings)) << run.out;
     }
-    EXPECT_EQ(RunTool({"check", KOLTA_SAMPLE}).out, "0 errors, 0 warnings\n");
+    EXPECT_EQ(RunTool({"check", SampleCopy()}).out, "0 errors, 0 warnings\n");
 }
 
 }  // namespace

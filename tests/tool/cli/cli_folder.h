@@ -1,7 +1,6 @@
 #pragma once
 
 #include <filesystem>
-#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -11,6 +10,7 @@
 #include "cli/commands.h"
 #include "data/file_io.h"
 #include "support/file_text.h"
+#include "support/scratch_folder.h"
 
 namespace fs = std::filesystem;
 
@@ -36,7 +36,7 @@ inline Lines Players(const std::vector<int>& teams)
     static const char* const surnames[] = {"Arlow", "Brenick", "Corvane", "Dunmore", "Elkin", "Farrow", "Garnet"};
     Lines lines;
     for (std::size_t i = 0; i < teams.size(); ++i)
-        lines = Cat(lines, PlayerRecordLines(static_cast<int>(i) + 1, surnames[i], teams[i]));
+        lines = Cat(std::move(lines), PlayerRecordLines(static_cast<int>(i) + 1, surnames[i], teams[i]));
     return lines;
 }
 
@@ -127,18 +127,7 @@ inline void WriteBytes(const fs::path& path, const std::string& bytes)
 // Temporary folders of one test, removed when it ends.
 class CliTest : public testing::Test {
 protected:
-    void TearDown() override
-    {
-        std::error_code ignored;
-        fs::remove_all(root_, ignored);
-    }
-
-    fs::path NewFolder(const std::string& name)
-    {
-        const fs::path dir = root_ / (name + std::to_string(++folders_));
-        fs::create_directories(dir);
-        return dir;
-    }
+    fs::path NewFolder(const std::string& name) { return scratch_.Folder(name + std::to_string(++folders_)); }
 
     // A game folder holding exactly these bytes.
     fs::path GameFolder(const std::string& players, const std::string& teams)
@@ -155,12 +144,7 @@ protected:
         return GameFolder(PlayersBytes(players), TeamsBytes(teams));
     }
 
-    fs::path SampleCopy()
-    {
-        const fs::path dir = NewFolder("sample");
-        fs::copy(KOLTA_SAMPLE, dir, fs::copy_options::recursive);
-        return dir;
-    }
+    fs::path SampleCopy() { return scratch_.Sample("sample" + std::to_string(++folders_)); }
 
     // Exports `game` into a new folder and returns that folder.
     fs::path Export(const fs::path& game)
@@ -172,6 +156,6 @@ protected:
     }
 
 private:
-    const fs::path root_ = fs::temp_directory_path() / ("kolta-cli-" + std::to_string(std::random_device{}()));
+    ScratchFolder scratch_;
     int folders_ = 0;
 };

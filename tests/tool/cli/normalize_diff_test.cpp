@@ -1,7 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "cli_folder.h"
+#include "data/folder_lock.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -39,6 +42,27 @@ TEST_F(Normalize, WritesWhatTheEditorsSaveWritesAndNeverHalfAGame)
     EXPECT_EQ(RunTool({"normalize", half}).code, 2);
     EXPECT_EQ(FileBytes(half / "players.dat"), players);
     EXPECT_EQ(std::distance(fs::directory_iterator(half), {}), 1);  // no teams.dat, no backup
+}
+
+// The editor keeps the game it loaded, so a save beside it is worth a word.
+TEST_F(Normalize, ImportAndNormalizeSayWhenAnEditorHasTheFolderOpen)
+{
+    for (const bool editorOpen : {false, true}) {
+        SCOPED_TRACE(editorOpen ? "an editor has the folder open" : "no editor");
+        const fs::path game = SampleCopy();
+        const fs::path csv = Export(game);
+        std::string players = FileBytes(csv / "players.csv");
+        players.replace(players.find("Neskerly"), 8, "Neskerley");
+        WriteBytes(csv / "players.csv", players);
+        std::optional<FolderPresence> editor;
+        if (editorOpen)
+            editor.emplace(PathText(game));
+        for (const ToolRun& run : {RunTool({"normalize", game}), RunTool({"import", game, csv})}) {
+            EXPECT_EQ(run.code, 0) << run.err;
+            EXPECT_EQ(run.err.find("an editor has " + PathText(game) + " open") != std::string::npos, editorOpen)
+                << run.err;
+        }
+    }
 }
 
 class Diff : public CliTest {};

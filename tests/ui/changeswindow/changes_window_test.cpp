@@ -8,6 +8,7 @@
 
 #include "changeswindow/changes_window.h"
 #include "diff/game_files.h"
+#include "support/scratch_folder.h"
 
 using ::testing::ElementsAre;
 
@@ -22,7 +23,8 @@ namespace {
 // surname, a team's wealth, one player moved and one who left his club.
 std::vector<Difference> FixtureChanges()
 {
-    const std::string folder = KOLTA_FIXTURES "/game_with_changes";
+    const ScratchFolder scratch;
+    const std::string folder = scratch.Fixture("game_with_changes").string();
     return CompareGames(*ReadGameFiles(folder, ".orig"), *ReadGameFiles(folder));
 }
 

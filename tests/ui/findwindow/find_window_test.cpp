@@ -9,6 +9,7 @@
 #include "data/players_file.h"
 #include "data/teams_file.h"
 #include "findwindow/find_window.h"
+#include "support/scratch_folder.h"
 
 using ::testing::ElementsAre;
 
@@ -22,8 +23,9 @@ namespace {
 // The sample game, as the editor loads it.
 std::unique_ptr<Game> SampleGame()
 {
+    const ScratchFolder scratch;
     auto game = std::make_unique<Game>();
-    SetGameDirectory(*game, KOLTA_SAMPLE);
+    SetGameDirectory(*game, scratch.Sample().string());
     ReadPlayersFile(*game);
     ReadTeamsFile(*game);
     return game;

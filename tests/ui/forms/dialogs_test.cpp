@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/window_parts.h"
+
 namespace {
 
 class Dialogs : public ::testing::Test {
@@ -50,27 +52,32 @@ struct OuterForm : QDialog {
 
 TEST_F(Dialogs, MessagesAreRecordedAndAnsweredByTheTestOrTheKeys)
 {
-    SetMessageAnswerer([](const ShownMessage& message) { return message.flags & MbYesNoCancel ? IdNo : IdOk; });
-    EXPECT_EQ(MsgBox("Save changes?", MbYesNoCancel | MbExclamation, "Exit"), IdNo);
-    EXPECT_EQ(MsgBox("Squad full", MbInformation, "Add"), IdOk);
+    const QMessageBox::StandardButtons yesNoCancel = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    SetMessageAnswerer([](const ShownMessage& message) {
+        return message.buttons.testFlag(QMessageBox::Cancel) ? QMessageBox::No : QMessageBox::Ok;
+    });
+    EXPECT_EQ(ShowMessage(QMessageBox::Warning, "Exit", "Save changes?", yesNoCancel), QMessageBox::No);
+    EXPECT_EQ(ShowMessage(QMessageBox::Information, "Add", "Squad full"), QMessageBox::Ok);
     SetMessageAnswerer({});
     PressOnNextBox(Qt::Key_Return);
-    EXPECT_EQ(MsgBox("Really?", MbYesNoCancel | MbExclamation, "Exit"), IdYes);   // Yes is the default
+    EXPECT_EQ(ShowMessage(QMessageBox::Warning, "Exit", "Really?", yesNoCancel),
+              QMessageBox::Yes);  // Yes is the default
     PressOnNextBox(Qt::Key_Escape);
-    EXPECT_EQ(MsgBox("Remove him?", MbYesNo | MbCritical, "Remove"), IdNo);
+    EXPECT_EQ(ShowMessage(QMessageBox::Critical, "Remove", "Remove him?", QMessageBox::Yes | QMessageBox::No),
+              QMessageBox::No);
 
     ASSERT_EQ(ShownMessages().size(), 4u);   // shown boxes are recorded too
     EXPECT_EQ(ShownMessages()[0].text, "Save changes?");
-    EXPECT_EQ(ShownMessages()[0].flags, 51);
+    EXPECT_EQ(Look(ShownMessages()[0]), Look(QMessageBox::Warning, yesNoCancel));
     EXPECT_EQ(ShownMessages()[0].title, "Exit");
-    EXPECT_EQ(ShownMessages()[3].flags, 20);
+    EXPECT_EQ(Look(ShownMessages()[3]), Look(QMessageBox::Critical, QMessageBox::Yes | QMessageBox::No));
 }
 
 TEST_F(Dialogs, DriverWorksNestedFormsAndClosesWhatItLeavesOpen)
 {
     QWidget owner;
     owner.show();
-    SetMessageAnswerer([](const ShownMessage&) { return IdYes; });
+    SetMessageAnswerer([](const ShownMessage&) { return QMessageBox::Yes; });
     std::vector<QString> driven;
     SetModalDriver([&](QDialog& form) {
         driven.push_back(form.objectName());
@@ -80,12 +87,13 @@ TEST_F(Dialogs, DriverWorksNestedFormsAndClosesWhatItLeavesOpen)
             static_cast<OuterForm&>(form).open->click();
             form.accept();
         } else {
-            form.done(MsgBox("Replace him?", MbYesNo, "Replace"));   // a question from inside a form
+            form.done(ShowMessage(QMessageBox::Question, "Replace", "Replace him?",
+                                  QMessageBox::Yes | QMessageBox::No));  // a question from inside a form
         }
     });
     OuterForm outer;
     EXPECT_EQ(ShowModal(outer, &owner), QDialog::Accepted);
-    EXPECT_EQ(outer.innerResult, IdYes);
+    EXPECT_EQ(outer.innerResult, QMessageBox::Yes);
     EXPECT_EQ(driven, (std::vector<QString>{"outer", "inner"}));
     EXPECT_EQ(outer.inner.parentWidget(), &outer);
 

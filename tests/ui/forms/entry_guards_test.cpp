@@ -1,9 +1,8 @@
 // The guards around what a person types: the wheel passes over a control
 // that is not being worked, and a box shows what its field made of its text.
 #include "forms/box_marks.h"
-#include "forms/combo_box.h"
+#include "forms/drop_down.h"
 #include "forms/text_box.h"
-#include "forms/wheel_guard.h"
 
 #include <QApplication>
 #include <QTest>
@@ -29,25 +28,23 @@ TEST(WheelGuard, TheWheelChangesAComboOnlyWhileItHasTheFocus)
 {
     QWidget window;
     auto* layout = new QVBoxLayout(&window);
-    auto* guarded = new ComboBox;
+    QComboBox* guarded = NewDropDown(nullptr);
     auto* other = new TextBox;
     layout->addWidget(guarded);
     layout->addWidget(other);
-    for (const char* entry : {"Opener", "Top order", "Middle order"})
-        guarded->AddItem(entry);
+    guarded->addItems({"Opener", "Top order", "Middle order"});
     guarded->setCurrentIndex(0);
-    IgnoreWheelUnlessFocused(*guarded);
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
 
     other->setFocus();
     EXPECT_FALSE(WheelDown(*guarded));
-    EXPECT_EQ(guarded->ListIndex(), 0);
+    EXPECT_EQ(guarded->currentIndex(), 0);
     EXPECT_EQ(QApplication::focusWidget(), other);   // the wheel took no focus either
 
     guarded->setFocus();
     EXPECT_TRUE(WheelDown(*guarded));
-    EXPECT_EQ(guarded->ListIndex(), 1);
+    EXPECT_EQ(guarded->currentIndex(), 1);
 }
 
 TEST(BoxMarks, ANumberBoxIsMarkedByWhatItsFieldMadeOfItsText)

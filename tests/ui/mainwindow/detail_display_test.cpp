@@ -1,5 +1,5 @@
 // How each field of a player and a team reaches its box and comes back, and
-// that showing a record and ticking it back changes nothing the user did not.
+// that showing a record changes nothing the user did not.
 
 #include "editor_fixture.h"
 
@@ -9,9 +9,9 @@ using DetailDisplay = EditorTest;
 using Entry = std::pair<int, QString>;
 
 // The place and text of a code list's chosen entry.
-Entry Chosen(const ComboBox& box)
+Entry Chosen(const QComboBox& box)
 {
-    return {box.ListIndex(), box.currentText()};
+    return {box.currentIndex(), box.currentText()};
 }
 
 TEST_F(DetailDisplay, CodesShowAsTheirEntriesAndTickBackUnchanged)
@@ -27,18 +27,18 @@ TEST_F(DetailDisplay, CodesShowAsTheirEntriesAndTickBackUnchanged)
     EXPECT_EQ(Chosen(Combo("fieldsAt")), Entry(1, "Close"));
     EXPECT_EQ(Chosen(Combo("team.homeCountry")), Entry(0, "Australia"));
     const auto before = std::make_unique<Game>(*game);
-    Tick();
+    Pick(Squad(), " Ormsby");
+    Pick(Squad(), "H R Quillfeather");
     EXPECT_EQ(game->Players[1], before->Players[1]);   // still code 29, not 13
     EXPECT_EQ(game->Teams[1], before->Teams[1]);
-    Squad().SetText("T Vanterpool");
+    Pick(Squad(), "T Vanterpool");
     EXPECT_EQ(Chosen(Combo("homeCountry")), Entry(12, "Namibia"));   // the first one, code 13
 
     // Codes with no entry leave their lists with nothing chosen, and the
-    // tick leaves them as stored.
-    Squad().SetText(" Ormsby");
-    EXPECT_EQ(Combo("homeCountry").ListIndex(), -1);
-    EXPECT_EQ(Combo("batPosition").ListIndex(), -1);
-    Tick();
+    // record as stored.
+    Pick(Squad(), " Ormsby");
+    EXPECT_EQ(Combo("homeCountry").currentIndex(), -1);
+    EXPECT_EQ(Combo("batPosition").currentIndex(), -1);
     EXPECT_EQ(game->Players[2], before->Players[2]);
 }
 
@@ -76,11 +76,10 @@ TEST_F(DetailDisplay, EveryBoxShowsAndWritesItsOwnField)
                               .potential = -16, .carriedValue = 99};
     const TeamRecord team{.teamName = "Perth Pelicans II", .abbreviation = "", .homeCountry = 2, .teamNumber = 1,
                           .squad = SmallWorld().game->Teams[1].squad, .reputation = 90, .wealth = -3000, .support = 5};
-    Tick();
     EXPECT_EQ(game->Players[1], player);
     EXPECT_EQ(game->Teams[1], team);
     // The team now stands under its new country, with its new name.
-    Combo("countryList").SetText("England");
+    Pick(Combo("countryList"), "England");
     EXPECT_EQ(Rows(Combo("teamList")), std::vector<QString>{"Perth Pelicans II"});
 }
 

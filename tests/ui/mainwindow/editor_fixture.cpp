@@ -14,8 +14,8 @@ EditorTest::EditorTest()
     ClearShownMessages();
     SetMessageAnswerer([this](const ShownMessage&) {
         if (answers_.empty())
-            return IdOk;
-        const int answer = answers_.front();
+            return QMessageBox::Ok;
+        const QMessageBox::StandardButton answer = answers_.front();
         answers_.erase(answers_.begin());
         return answer;
     });
@@ -52,20 +52,25 @@ GameBuilder EditorTest::SmallWorld()
 
 void EditorTest::Open(GameBuilder built)
 {
-    ASSERT_TRUE(root_.isValid());
     ASSERT_TRUE(QDir().mkpath(GameFolder()));
     SetGameDirectory(*built.game, ToSystemPath(GameFolder()));
     ASSERT_TRUE(WritePlayersFile(*built.game).ok());
     ASSERT_TRUE(WriteTeamsFile(*built.game).ok());
-    const SettingPlaces places{root_.filePath(QStringLiteral("editor.dat")),
-                               root_.filePath(QStringLiteral("config/editor.dat"))};
+    const SettingPlaces places{QtPath(scratch_ / "editor.dat"), QtPath(scratch_ / "config" / "editor.dat")};
     ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(GameFolder())).ok());
 
-    game = std::make_unique<Game>();
-    main = std::make_unique<MainWindow>(*game, places);
-    ASSERT_TRUE(main->Start());
+    MakeEditor(places);
+    ASSERT_TRUE(editor->Start());
     main->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(main.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(main));
+}
+
+void EditorTest::MakeEditor(const SettingPlaces& places)
+{
+    editor.reset();
+    editor = std::make_unique<Editor>(places);
+    main = &editor->Window();
+    game = &editor->Document().Records();
 }
 
 void EditorTest::Retype(const char* box, const QString& text)

@@ -1,12 +1,11 @@
 #pragma once
 
 // A game written into a folder of its own, an editor.dat that names it, and
-// the main window opened on it as the program opens it.
+// the editor opened on it as the program opens it.
 
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
-#include <QTemporaryDir>
 #include <QTest>
 #include <memory>
 #include <ostream>
@@ -14,27 +13,18 @@
 
 #include <gtest/gtest.h>
 
-#include "forms/combo_box.h"
-#include "forms/list_box.h"
+#include "forms/choice_list.h"
 #include "forms/message_box.h"
+#include "editor/editor.h"
 #include "forms/text_box.h"
-#include "mainwindow/main_window.h"
 #include "support/game_builder.h"
+#include "support/qt_path.h"
+#include "support/scratch_folder.h"
 #include "support/window_parts.h"
 
 inline void PrintTo(const QString& text, std::ostream* out)
 {
     *out << '"' << text.toStdString() << '"';
-}
-
-// The entries of a list or combo box, as the user reads them.
-template <typename Control>
-std::vector<QString> Rows(const Control& control)
-{
-    std::vector<QString> rows;
-    for (int row = 0; row < control.ListCount(); ++row)
-        rows.push_back(control.List(row));
-    return rows;
 }
 
 class EditorTest : public ::testing::Test {
@@ -49,28 +39,29 @@ protected:
     // Writes the game's files and editor.dat, then runs the start-up as the
     // program does and shows the window.
     void Open(GameBuilder built = SmallWorld());
-
-    // The tick as the timer runs it.
-    void Tick() { main->CarryEditsIntoRecords(); }
+    // The editor as the program makes it, before its start.
+    void MakeEditor(const SettingPlaces& places);
+    GameDocument& Document() const { return editor->Document(); }
 
     // Answers for the coming message boxes, in order; OK when none is left.
-    void Answer(std::vector<int> answers) { answers_ = std::move(answers); }
+    void Answer(std::vector<QMessageBox::StandardButton> answers) { answers_ = std::move(answers); }
 
-    QString GameFolder() const { return root_.filePath(QStringLiteral("game")); }
+    QString GameFolder() const { return QtPath(scratch_ / "game"); }
 
     // Types into a box as a person would, after clearing it with the keys.
     void Retype(const char* box, const QString& text);
-    QString BoxText(const char* box) const { return Find<TextBox>(*main, box).Text(); }
+    QString BoxText(const char* box) const { return Find<TextBox>(*main, box).text(); }
 
     // The window's controls by the names of their jobs.
-    ComboBox& Combo(const char* name) const { return Find<ComboBox>(*main, name); }
-    ListBox& Squad() const { return Find<ListBox>(*main, "squadList"); }
+    QComboBox& Combo(const char* name) const { return Find<QComboBox>(*main, name); }
+    ChoiceList& Squad() const { return Find<ChoiceList>(*main, "squadList"); }
     QString TeamNumber() const { return Find<QLabel>(*main, "teamNumber").text(); }
 
-    QTemporaryDir root_;
-    std::unique_ptr<Game> game;
-    std::unique_ptr<MainWindow> main;
+    ScratchFolder scratch_;
+    std::unique_ptr<Editor> editor;
+    MainWindow* main = nullptr;
+    const Game* game = nullptr;
 
 private:
-    std::vector<int> answers_;
+    std::vector<QMessageBox::StandardButton> answers_;
 };

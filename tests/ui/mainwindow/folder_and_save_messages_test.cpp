@@ -2,13 +2,14 @@
 // that failed: which folder or file, why, and what became of the files.
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 #include "data/game.h"
-#include "mainwindow/game_folder_trouble.h"
-#include "mainwindow/save_failure.h"
+#include "commands/game_folder_trouble.h"
+#include "commands/save_failure.h"
+#include "support/qt_path.h"
+#include "support/scratch_folder.h"
 
 namespace {
 
@@ -21,8 +22,8 @@ void Write(const QString& path, const QByteArray& bytes)
 
 TEST(GameFolderTrouble, SaysWhichFolderAndWhy)
 {
-    QTemporaryDir root;
-    const QString game = root.filePath("game");
+    const ScratchFolder root;
+    const QString game = QtPath(root / "game");
     const struct {
         const char* what;
         std::function<void()> make;
@@ -46,9 +47,10 @@ TEST(GameFolderTrouble, SaysWhichFolderAndWhy)
 
 TEST(SaveFailure, TheMessageSaysWhichFilesTheFailedSaveChanged)
 {
-    QTemporaryDir root;
+    const ScratchFolder root;
+    const auto filePath = [&](const char* name) { return QtPath(root / name); };
     auto game = std::make_unique<Game>();
-    SetGameDirectory(*game, QFile::encodeName(root.path()).toStdString());
+    SetGameDirectory(*game, QFile::encodeName(QtPath(root.Path())).toStdString());
     const FileResult failure{game->TeamsPath, "the disk is full"};
     const struct {
         bool playersWritten;
@@ -60,15 +62,15 @@ TEST(SaveFailure, TheMessageSaysWhichFilesTheFailedSaveChanged)
         {false, true, "teams.dat was written but players.dat was not"},
     };
     for (const auto& c : cases) {
-        Write(root.filePath("players.dat"), "old players");
-        Write(root.filePath("teams.dat"), "old teams");
+        Write(filePath("players.dat"), "old players");
+        Write(filePath("teams.dat"), "old teams");
         const FilesBeforeSave before(*game);
         if (c.playersWritten)
-            Write(root.filePath("players.dat"), "new players");
+            Write(filePath("players.dat"), "new players");
         if (c.teamsWritten)
-            Write(root.filePath("teams.dat"), "new teams");
+            Write(filePath("teams.dat"), "new teams");
         const QString said = before.FailureText(failure);
-        EXPECT_TRUE(said.startsWith("Could not save " + QDir::toNativeSeparators(root.filePath("teams.dat")) + ":\nthe disk is full\n\n"))
+        EXPECT_TRUE(said.startsWith("Could not save " + QDir::toNativeSeparators(filePath("teams.dat")) + ":\nthe disk is full\n\n"))
             << said.toStdString();
         EXPECT_TRUE(said.contains(c.outcome)) << said.toStdString();
         EXPECT_TRUE(said.endsWith("Your changes are still in the editor.")) << said.toStdString();

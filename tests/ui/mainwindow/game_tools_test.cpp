@@ -24,18 +24,6 @@ using ::testing::IsEmpty;
 
 namespace {
 
-QString Fixture(const char* name)
-{
-    return QStringLiteral(KOLTA_FIXTURES "/") + QLatin1String(name);
-}
-
-GameBuilder FromFixture(const char* name)
-{
-    GameBuilder built;
-    built.game = ReadGameFiles(Fixture(name).toStdString());
-    return built;
-}
-
 void DoubleClick(QAbstractItemView& view, const QRect& at)
 {
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, at.center());
@@ -48,12 +36,23 @@ protected:
 
     void Trigger(const char* action) { Find<QAction>(*main, action).trigger(); }
 
+    // This test's copy of a case folder among the fixtures.
+    QString Fixture(const char* name) const { return QtPath(scratch_.Fixture(name)); }
+
+    GameBuilder FromFixture(const char* name) const
+    {
+        GameBuilder built;
+        built.game = ReadGameFiles(Fixture(name).toStdString());
+        return built;
+    }
+
     // Where the main window stands: country, team entry, squad row, shown player.
     std::vector<QString> Place() const
     {
-        const ListBox& squad = Squad();
-        return {Combo("countryList").currentText(), Combo("teamList").currentText(), squad.List(squad.ListIndex()),
-                BoxText("surname")};
+        const ChoiceList& squad = Squad();
+        const int row = squad.ChosenRow();
+        return {Combo("countryList").currentText(), Combo("teamList").currentText(),
+                row >= 0 ? squad.item(row)->text() : QString(), BoxText("surname")};
     }
 
     // Answers the CSV folder chooser with `folder` and the import window
@@ -97,21 +96,20 @@ TEST_F(GameToolsTest, FindPlayerGoesToHisCountryTeamAndRow)
     };
 
     answer("brindle");
-    QTest::keyClick(main.get(), Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClick(main, Qt::Key_F, Qt::ControlModifier);
     EXPECT_THAT(Place(), ElementsAre("Australia", "Darwin Dingoes", "P J Brindle", "Brindle"));
     EXPECT_EQ(main->CurrentPlayer(), 5);
     find("6");
     EXPECT_THAT(Place(), ElementsAre("West Indies and Mics.", "Kingston Kites", "W Calloway", "Calloway"));
 
     // A player without a club: no team chosen, an empty squad list, and he is
-    // the one the boxes show and the tick writes to.
+    // the one the boxes show and edit.
     find("brinkw");
     EXPECT_EQ(main->CurrentPlayer(), 7);
     EXPECT_EQ(main->CurrentTeam(), std::nullopt);
-    EXPECT_EQ(Squad().ListCount(), 0);
+    EXPECT_EQ(Squad().count(), 0);
     EXPECT_EQ(BoxText("surname"), "Brinkwell");
     Retype("surname", "Brinkworth");
-    Tick();
     EXPECT_EQ(game->Players[7].surname, "Brinkworth");
     EXPECT_EQ(game->Teams[3].teamName, "Kingston Kites") << "the team shown before keeps its values";
 }
@@ -138,9 +136,10 @@ TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
 
     // Once the game is put right and saved, the bar goes.
     Retype("batSkill", "50");
-    Tick();
-    game->Teams[2].squad[3] = 0;
-    game->Teams[3].squad[2] = 0;
+    Document().Change("fix", {}, [](Game& fixed) {
+        fixed.Teams[2].squad[3] = 0;
+        fixed.Teams[3].squad[2] = 0;
+    });
     Find<QAction>(*main, "saveAction").trigger();
     EXPECT_FALSE(bar.isVisible());
     Trigger("checkGameAction");
@@ -160,7 +159,7 @@ TEST_F(GameToolsTest, ChangesSinceTheOriginalAndSinceTheSaveGoToTheirRecords)
     emit tools.aboutToShow();
     EXPECT_FALSE(Find<QAction>(*main, "changesSinceOriginalAction").isEnabled());
     for (const char* file : {"players.dat.orig", "teams.dat.orig"})
-        ASSERT_TRUE(QFile::copy(Fixture("game_with_changes/") + file, GameFolder() + "/" + file));
+        ASSERT_TRUE(QFile::copy(Fixture("game_with_changes") + "/" + file, GameFolder() + "/" + file));
     emit tools.aboutToShow();
     Trigger("changesSinceOriginalAction");
 
@@ -202,8 +201,7 @@ TEST_F(GameToolsTest, AFaultyImportChangesNothingAndAGoodOneChangesOnlyTheOpenGa
     Trigger("importCsvAction");
     EXPECT_EQ(game->Players[5].surname, "Ellerby");
     EXPECT_EQ(game->Teams[3].wealth, 99);
-    // Shown again at once, so that no tick writes the old values back.
-    Tick();
+    // Nothing in the window writes the old values back.
     EXPECT_EQ(game->Players[5].surname, "Ellerby");
     EXPECT_EQ(ReadGameFiles(ToSystemPath(GameFolder()))->Players[5].surname, "Ellery") << "nothing is saved";
 
@@ -217,10 +215,10 @@ TEST_F(GameToolsTest, AFaultyImportChangesNothingAndAGoodOneChangesOnlyTheOpenGa
     EXPECT_EQ(game->Players[5].surname, "Ellerby");
 
     // Export writes both files where the user points.
-    QTemporaryDir sheets;
-    DriveImport(sheets.path(), QDialogButtonBox::Ok);
+    const QString sheets = QtPath(scratch_.Folder("sheets"));
+    DriveImport(sheets, QDialogButtonBox::Ok);
     Trigger("exportCsvAction");
-    const auto exported = ImportCsvFolder(*game, ToSystemPath(sheets.path()));
+    const auto exported = ImportCsvFolder(*game, ToSystemPath(sheets));
     EXPECT_TRUE(exported.read);
     EXPECT_THAT(exported.changes, IsEmpty());
 }

@@ -32,7 +32,6 @@ protected:
         // One edit in each file.
         Retype("batSkill", "58");
         Retype("team.teamName", "Perth Pelicans XI");
-        Tick();
     }
 
     std::string Files() const
@@ -73,29 +72,32 @@ TEST_F(Saving, CtrlSSavesWhicheverControlHasTheFocus)
     EXPECT_TRUE(EditsSaved());
     ASSERT_EQ(ShownMessages().size(), 1u);
     EXPECT_EQ(ShownMessages()[0].title, "Info");
-    EXPECT_EQ(ShownMessages()[0].flags, 64);
+    EXPECT_EQ(Look(ShownMessages()[0]), Look(QMessageBox::Information));
     EXPECT_EQ(BoxText("batSkill"), "58");   // nothing in the window moved
 }
 
 // The answer to the question on leaving, whether the window closes and whether it saves.
-class ExitAnswer : public Saving, public ::testing::WithParamInterface<std::tuple<int, bool, bool>> {};
+class ExitAnswer : public Saving,
+                   public ::testing::WithParamInterface<std::tuple<QMessageBox::StandardButton, bool, bool>> {};
 
 TEST_P(ExitAnswer, DoesWhatItSays)
 {
     const auto [answer, closes, saves] = GetParam();
-    Answer({answer, IdOk});
+    Answer({answer, QMessageBox::Ok});
     Find<QAction>(*main, "exitAction").trigger();
     ASSERT_EQ(ShownMessages().size(), saves ? 2u : 1u);
     EXPECT_EQ(ShownMessages()[0].text, SaveQuestion);
     EXPECT_EQ(ShownMessages()[0].title, "Saving..");
-    EXPECT_EQ(ShownMessages()[0].flags, 51);
+    EXPECT_EQ(Look(ShownMessages()[0]),
+              Look(QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel));
     EXPECT_EQ(main->isVisible(), !closes);
     EXPECT_TRUE(saves ? EditsSaved() : FilesUnchanged());
 }
 
 INSTANTIATE_TEST_SUITE_P(Saving, ExitAnswer,
-                         ::testing::Values(std::tuple(IdCancel, false, false), std::tuple(IdNo, true, false),
-                                           std::tuple(IdYes, true, true)));
+                         ::testing::Values(std::tuple(QMessageBox::Cancel, false, false),
+                                           std::tuple(QMessageBox::No, true, false),
+                                           std::tuple(QMessageBox::Yes, true, true)));
 
 TEST_F(Saving, ASaveTheDiskRefusesIsToldAndExitStaysOpen)
 {
@@ -103,7 +105,7 @@ TEST_F(Saving, ASaveTheDiskRefusesIsToldAndExitStaysOpen)
     QFile::setPermissions(teams, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
     Find<QAction>(*main, "saveAction").trigger();
     ASSERT_EQ(ShownMessages().size(), 1u);
-    EXPECT_EQ(ShownMessages()[0].flags, 16);
+    EXPECT_EQ(Look(ShownMessages()[0]), Look(QMessageBox::Critical));
     const QString said = ShownMessages()[0].text;
     EXPECT_TRUE(said.contains(QDir::toNativeSeparators(teams)) && said.contains("read-only")) << said.toStdString();
     EXPECT_TRUE(said.contains("Neither players.dat nor teams.dat was changed.")) << said.toStdString();
@@ -113,10 +115,10 @@ TEST_F(Saving, ASaveTheDiskRefusesIsToldAndExitStaysOpen)
 
     // Leaving with Yes stays open, so the edits are not thrown away.
     ClearShownMessages();
-    Answer({IdYes, IdOk});
+    Answer({QMessageBox::Yes, QMessageBox::Ok});
     Find<QAction>(*main, "exitAction").trigger();
     ASSERT_EQ(ShownMessages().size(), 2u);
-    EXPECT_EQ(ShownMessages()[1].flags, 16);
+    EXPECT_EQ(Look(ShownMessages()[1]), Look(QMessageBox::Critical));
     EXPECT_TRUE(main->isVisible());
     QFile::setPermissions(teams, QFile::ReadOwner | QFile::WriteOwner);
 }

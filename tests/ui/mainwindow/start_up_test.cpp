@@ -1,5 +1,5 @@
 // The editor comes up on the first country, team and player of the game
-// that editor.dat names, and only then starts carrying edits into the records.
+// that editor.dat names, and what is typed there goes into the records.
 
 #include <QDir>
 
@@ -13,31 +13,31 @@ TEST_F(StartUp, OpensOnTheFirstTeamAndPlayerOfTheFirstCountry)
 {
     Open();
     EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
-    EXPECT_EQ(Combo("countryList").ListCount(), 10);
+    EXPECT_EQ(Combo("countryList").count(), 10);
     EXPECT_EQ(Combo("countryList").currentText(), "Australia");
     EXPECT_EQ(Rows(Combo("teamList")), (std::vector<QString>{"Perth Pelicans", "Darwin Dingoes"}));
-    EXPECT_EQ(Combo("teamList").ListIndex(), 0);
+    EXPECT_EQ(Combo("teamList").currentIndex(), 0);
     EXPECT_EQ(TeamNumber(), "1");
     // Empty initials leave a leading blank in the row.
     EXPECT_EQ(Rows(Squad()), (std::vector<QString>{"H R Quillfeather", " Ormsby", "T Vanterpool"}));
-    EXPECT_EQ(Squad().ListIndex(), 0);
+    EXPECT_EQ(Squad().ChosenRow(), 0);
     EXPECT_EQ(main->CurrentPlayer(), 1);
     EXPECT_EQ(QApplication::focusWidget(), &Squad());
     EXPECT_TRUE(ShownMessages().empty());
-    // The timer carries an edit without help.
+    // An edit reaches the record without help.
     Retype("potential", "19");
     EXPECT_TRUE(QTest::qWaitFor([&] { return game->Players[1].potential == 19; }, 2000));
 
     // The West Indies entry gathers the teams of code 8; a picked team shows
     // its squad, the empty place in it taking no row.
-    ASSERT_TRUE(Combo("countryList").SetText("West Indies and Mics."));
+    ASSERT_TRUE(Pick(Combo("countryList"), "West Indies and Mics."));
     EXPECT_EQ(Rows(Combo("teamList")), std::vector<QString>{"Kingston Kites"});
     EXPECT_EQ(Rows(Squad()), std::vector<QString>{"W Calloway"});
-    Combo("countryList").SetText("Australia");
+    Pick(Combo("countryList"), "Australia");
     QTest::keyClick(&Combo("teamList"), Qt::Key_Down);
     EXPECT_EQ(TeamNumber(), "2");
     EXPECT_EQ(Rows(Squad()), (std::vector<QString>{"K Ashgrove", "P J Brindle"}));
-    EXPECT_EQ(Squad().ItemData(1), 5);
+    EXPECT_EQ(Squad().NumberAt(1), 5);
 }
 
 TEST_F(StartUp, AFirstCountryWithoutTeamsLeavesNoCurrentTeam)
@@ -53,18 +53,17 @@ TEST_F(StartUp, AFirstCountryWithoutTeamsLeavesNoCurrentTeam)
     }
     b.game->Teams[1].squad[1] = 1;
     Open(std::move(b));
-    EXPECT_EQ(Combo("teamList").ListCount(), 0);
-    EXPECT_EQ(Squad().ListCount(), 0);
+    EXPECT_EQ(Combo("teamList").count(), 0);
+    EXPECT_EQ(Squad().count(), 0);
     EXPECT_EQ(TeamNumber(), "123");
     EXPECT_EQ(main->CurrentPlayer(), std::nullopt);
-    Tick();
+    Retype("team.teamName", "Renamed");
     EXPECT_EQ(game->Teams[123].teamName, "Club 123");
 
     // Once a team is shown, it is the one that edits go to.
-    Combo("countryList").SetText("England");
+    Pick(Combo("countryList"), "England");
     EXPECT_EQ(main->CurrentPlayer(), 1);
     Retype("team.reputation", "61");
-    Tick();
     EXPECT_EQ(game->Teams[1].reputation, 61);
     EXPECT_EQ(game->Teams[123].reputation, 50);
 }

@@ -1,13 +1,12 @@
-// Nothing typed is lost or changed behind the user's back: pending edits are
-// carried before anything reads the records, leaving with unsaved changes
-// asks first, every step can be undone and redone, and what a box does not
-// take as typed is shown.
+// Nothing typed is lost or changed behind the user's back: an edit is in the
+// records before any command reads them, leaving with unsaved changes asks
+// first, every step can be undone and redone, and what a box does not take
+// as typed is shown.
 
 #include <QDir>
 #include <QFile>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QTimer>
 #include <QWheelEvent>
 
 #include "data/file_io.h"
@@ -29,11 +28,10 @@ class UnsavedWork : public EditorTest {
 protected:
     ~UnsavedWork() override { SetModalDriver({}); }
 
-    // Opens the small game with the timer stopped: the tests say when a tick runs.
+    // Opens the small game, no message shown yet.
     void OpenStill()
     {
         Open();
-        Find<QTimer>(*main, "editTimer").stop();
         ClearShownMessages();
     }
 
@@ -71,12 +69,12 @@ protected:
     {
         Through<SearchWindow>(button, [&](SearchWindow& search) {
             Find<QPushButton>(search, "searchButton").click();
-            ListBox& results = Find<ListBox>(search, "resultList");
+            ChoiceList& results = Find<ChoiceList>(search, "resultList");
             QString row;
-            for (int index = 0; index < results.ListCount(); ++index)
-                if (results.List(index).endsWith(QLatin1Char(' ') + QLatin1String(surname)))
-                    row = results.List(index);
-            ASSERT_TRUE(results.SetText(row)) << surname;
+            for (const QString& listed : Rows(results))
+                if (listed.endsWith(QLatin1Char(' ') + QLatin1String(surname)))
+                    row = listed;
+            ASSERT_TRUE(Pick(results, row)) << surname;
             Find<QPushButton>(search, moveButton).click();
         });
     }
@@ -98,13 +96,12 @@ protected:
     // What the window shows: team entry, squad row's player and the name box.
     std::tuple<QString, int, QString> Shown() const
     {
-        const int row = Squad().ListIndex();
-        return {Combo("teamList").currentText(), row >= 0 ? Squad().ItemData(row) : 0, BoxText("surname")};
+        const int row = Squad().ChosenRow();
+        return {Combo("teamList").currentText(), row >= 0 ? Squad().NumberAt(row) : 0, BoxText("surname")};
     }
 };
 
-// An edit typed a moment before a command is in the records when it runs:
-// no tick comes between the typing and any of these.
+// An edit typed a moment before a command is in the records when it runs.
 TEST_F(UnsavedWork, AnEditJustTypedReachesTheRecordsBeforeAnyCommand)
 {
     const struct {
@@ -113,13 +110,25 @@ TEST_F(UnsavedWork, AnEditJustTypedReachesTheRecordsBeforeAnyCommand)
         bool saved;
     } cases[] = {
         {"Ctrl+S", [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::ControlModifier); }, true},
-        {"another row", [this] { Squad().SetText(" Ormsby"); }, false},
-        {"another team", [this] { Combo("teamList").SetText("Darwin Dingoes"); }, false},
-        {"another country", [this] { Combo("countryList").SetText(Combo("countryList").List(7)); }, false},
-        {"delete, answered No", [this] { Answer({IdNo}); Button("deletePlayerButton").click(); }, false},
-        {"the search window", [this] { Through<SearchWindow>("addExistingPlayerButton", [](SearchWindow&) {}); }, false},
-        {"the new-player window", [this] { Through<NewPlayerWindow>("addNewPlayerButton", [](NewPlayerWindow&) {}); }, false},
-        {"the close box, saving", [this] { Answer({IdYes, IdOk}); main->close(); }, true},
+        {"another row", [this] { Pick(Squad(), " Ormsby"); }, false},
+        {"another team", [this] { Pick(Combo("teamList"), "Darwin Dingoes"); }, false},
+        {"another country", [this] { Pick(Combo("countryList"), Combo("countryList").itemText(7)); }, false},
+        {"delete, answered No",
+         [this] {
+             Answer({QMessageBox::No});
+             Button("deletePlayerButton").click();
+         },
+         false},
+        {"the search window", [this] { Through<SearchWindow>("addExistingPlayerButton", [](SearchWindow&) {}); },
+         false},
+        {"the new-player window", [this] { Through<NewPlayerWindow>("addNewPlayerButton", [](NewPlayerWindow&) {}); },
+         false},
+        {"the close box, saving",
+         [this] {
+             Answer({QMessageBox::Yes, QMessageBox::Ok});
+             main->close();
+         },
+         true},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
@@ -137,14 +146,14 @@ TEST_F(UnsavedWork, TheCloseBoxAsksWhenThereAreUnsavedChanges)
 {
     const struct {
         bool edited;
-        int answer;
+        QMessageBox::StandardButton answer;
         bool closes;
         bool saves;
     } cases[] = {
-        {false, IdCancel, true, false},   // not asked at all
-        {true, IdCancel, false, false},
-        {true, IdNo, true, false},
-        {true, IdYes, true, true},
+        {false, QMessageBox::Cancel, true, false},  // not asked at all
+        {true, QMessageBox::Cancel, false, false},
+        {true, QMessageBox::No, true, false},
+        {true, QMessageBox::Yes, true, true},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(testing::Message() << c.edited << " " << c.answer);
@@ -153,17 +162,17 @@ TEST_F(UnsavedWork, TheCloseBoxAsksWhenThereAreUnsavedChanges)
         EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
         if (c.edited) {
             Retype("team.wealth", "700");
-            Tick();
             EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")*");
         }
-        Answer({c.answer, IdOk});
+        Answer({c.answer, QMessageBox::Ok});
         main->close();
         EXPECT_EQ(main->isVisible(), !c.closes);
         ASSERT_EQ(ShownMessages().empty(), !c.edited);
         if (c.edited) {
             EXPECT_EQ(ShownMessages()[0].text, SaveQuestion);
             EXPECT_EQ(ShownMessages()[0].title, "Saving..");
-            EXPECT_EQ(ShownMessages()[0].flags, MbYesNoCancel | MbExclamation);
+            EXPECT_EQ(Look(ShownMessages()[0]),
+                      Look(QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel));
         }
         EXPECT_EQ(Files() == before, !c.saves);
     }
@@ -172,12 +181,11 @@ TEST_F(UnsavedWork, TheCloseBoxAsksWhenThereAreUnsavedChanges)
     // steps, and undoing past it puts the mark back.
     OpenStill();
     Retype("team.wealth", "700");
-    Tick();
     Undo().trigger();
     EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
-    EXPECT_FALSE(main->HasUnsavedChanges());
+    EXPECT_FALSE(Document().IsModified());
     Redo().trigger();
-    Answer({IdOk});
+    Answer({QMessageBox::Ok});
     Find<QAction>(*main, "saveAction").trigger();
     EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
     Undo().trigger();
@@ -192,13 +200,10 @@ TEST_F(UnsavedWork, EveryKindOfStepIsUndoneAndRedoneWhereItHappened)
     OpenStill();
     EXPECT_FALSE(Undo().isEnabled());
 
-    // A box is one step however many ticks carry it, until the focus leaves.
+    // A box is one step however many keys are typed in it, until the focus leaves.
     Retype("batSkill", "2");
-    Tick();
     QTest::keyClicks(&Find<TextBox>(*main, "batSkill"), "5");
-    Tick();
     Retype("potential", "19");
-    Tick();
     EXPECT_EQ(Undo().text(), "&Undo edit of Potential for H R Quillfeather");
     Undo().trigger();
     EXPECT_EQ(Undo().text(), "&Undo edit of Bat skill for H R Quillfeather");
@@ -206,14 +211,14 @@ TEST_F(UnsavedWork, EveryKindOfStepIsUndoneAndRedoneWhereItHappened)
     Redo().trigger();
 
     const auto undoText = [&] { return Undo().text(); };
-    Answer({IdYes});
-    Squad().SetText(" Ormsby");
+    Answer({QMessageBox::Yes});
+    Pick(Squad(), " Ormsby");
     Button("deletePlayerButton").click();
     EXPECT_EQ(undoText(), "&Undo delete of Ormsby");
     // A transfer between two teams, then a replace and a new player.
     Transfer("addExistingPlayerButton", "Ashgrove", "addButton");
     EXPECT_EQ(undoText(), "&Undo add of K Ashgrove to Perth Pelicans");
-    Squad().SetText("T Vanterpool");
+    Pick(Squad(), "T Vanterpool");
     Transfer("replacePlayerButton", "Calloway", "replaceButton");
     EXPECT_EQ(undoText(), "&Undo replace of T Vanterpool by W Calloway");
     NewPlayer("Newcombe");
@@ -247,7 +252,7 @@ TEST_F(UnsavedWork, EveryKindOfStepIsUndoneAndRedoneWhereItHappened)
     Undo().trigger();
     EXPECT_EQ(BoxText("batSkill"), "52");
     EXPECT_FALSE(Undo().isEnabled());
-    EXPECT_FALSE(main->HasUnsavedChanges());
+    EXPECT_FALSE(Document().IsModified());
 
     while (Redo().isEnabled())
         Redo().trigger();
@@ -263,13 +268,13 @@ TEST_F(UnsavedWork, UndoingAWholeSessionGivesBackTheLoadedFilesByteForByte)
 {
     OpenStill();
     const std::string loaded = Files();
-    Combo("teamList").SetText("Darwin Dingoes");
+    Pick(Combo("teamList"), "Darwin Dingoes");
     Transfer("addExistingPlayerButton", "Quillfeather", "addButton");
-    Squad().SetText("P J Brindle");
-    Answer({IdYes});
+    Pick(Squad(), "P J Brindle");
+    Answer({QMessageBox::Yes});
     Button("deletePlayerButton").click();
     NewPlayer("Newcombe");
-    Squad().SetText("K Ashgrove");
+    Pick(Squad(), "K Ashgrove");
     const std::pair<const char*, const char*> edits[] = {
         {"surname", "Ashgrove-Smith"}, {"initials", ""}, {"birthYear", "1999"}, {"batSkill", "61"},
         {"bowlSkill", "7"},            {"potential", "20"}, {"team.teamName", "Darwin Dingoes FC"},
@@ -277,10 +282,9 @@ TEST_F(UnsavedWork, UndoingAWholeSessionGivesBackTheLoadedFilesByteForByte)
     };
     for (const auto& [box, text] : edits) {
         Retype(box, text);
-        Tick();
     }
     Find<TextBox>(*main, "team.support").setFocus();
-    Answer({IdOk});
+    Answer({QMessageBox::Ok});
     Find<QAction>(*main, "saveAction").trigger();
     ASSERT_NE(Files(), loaded);
 
@@ -288,7 +292,7 @@ TEST_F(UnsavedWork, UndoingAWholeSessionGivesBackTheLoadedFilesByteForByte)
     for (; Undo().isEnabled() && steps < 100; ++steps)
         Undo().trigger();
     EXPECT_EQ(steps, 13);
-    Answer({IdOk});
+    Answer({QMessageBox::Ok});
     Find<QAction>(*main, "saveAction").trigger();
     EXPECT_TRUE(Files() == loaded);
 }
@@ -299,28 +303,26 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
 {
     OpenStill();
     const QWidget& column = Find<QWidget>(*main, "playerColumn");
-    Combo("teamList").SetText("Darwin Dingoes");
+    Pick(Combo("teamList"), "Darwin Dingoes");
     EXPECT_EQ(main->CurrentPlayer(), std::nullopt);
     EXPECT_FALSE(column.isEnabled());
     EXPECT_EQ(BoxText("surname"), "");
-    Tick();
     EXPECT_EQ(game->Players[1].surname, "Quillfeather");
-    Squad().SetText("K Ashgrove");
+    Pick(Squad(), "K Ashgrove");
     EXPECT_TRUE(column.isEnabled());
 
     // Renaming keeps his row, so Delete still finds him.
     Retype("surname", "Ashgrove-Smith");
-    Tick();
-    EXPECT_EQ(Squad().List(Squad().ListIndex()), "K Ashgrove-Smith");
+    EXPECT_EQ(Squad().item(Squad().ChosenRow())->text(), "K Ashgrove-Smith");
 
     // The wheel over a list the user is not working passes it by.
     auto& batPosition = Combo("batPosition");
-    const int position = batPosition.ListIndex();
+    const int position = batPosition.currentIndex();
     const QPointF middle = QRectF(batPosition.rect()).center();
     QWheelEvent wheel(middle, batPosition.mapToGlobal(middle), QPoint(), QPoint(0, -120), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&batPosition, &wheel);
-    EXPECT_EQ(batPosition.ListIndex(), position);
+    EXPECT_EQ(batPosition.currentIndex(), position);
 
     const struct {
         const char* box;
@@ -339,7 +341,6 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
     };
     for (const auto& t : typed) {
         Retype(t.box, t.text);
-        Tick();
         EXPECT_EQ(MarkOf(Find<TextBox>(*main, t.box)), t.mark) << t.text;
         EXPECT_EQ(Find<TextBox>(*main, t.box).toolTip(), t.status) << t.text;
         EXPECT_EQ(main->statusBar()->currentMessage(), t.status) << t.text;
@@ -353,20 +354,20 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
 // no file at all, is named with the reason, and File > Options is offered.
 TEST_F(UnsavedWork, AGameFolderThatCannotBeOpenedAtStartIsToldAndOptionsOffered)
 {
-    const QString missing = root_.filePath("gone");
-    const QString refusing = root_.filePath("refusing");
+    const QString missing = QtPath(scratch_ / "gone");
+    const QString refusing = QtPath(scratch_ / "refusing");
     ASSERT_TRUE(QDir().mkpath(refusing + "/players.dat"));
-    ASSERT_TRUE(QFile::copy(KOLTA_SAMPLE "/teams.dat", refusing + "/teams.dat"));
-    const SettingPlaces places{root_.filePath("editor.dat"), root_.filePath("config/editor.dat")};
+    ASSERT_TRUE(QFile::copy(QtPath(scratch_.Sample() / "teams.dat"), refusing + "/teams.dat"));
+    const SettingPlaces places{QtPath(scratch_ / "editor.dat"), QtPath(scratch_ / "config" / "editor.dat")};
     const struct {
         QString folder;
         QString told;
-        int answer;
+        QMessageBox::StandardButton answer;
     } cases[] = {
-        {missing, "The game folder " + QDir::toNativeSeparators(missing) + " does not exist.", IdNo},
-        {missing, "The game folder " + QDir::toNativeSeparators(missing) + " does not exist.", IdYes},
-        {refusing, "players.dat was not read: it is a folder, not a file", IdNo},
-        {refusing, "players.dat was not read: it is a folder, not a file", IdYes},
+        {missing, "The game folder " + QDir::toNativeSeparators(missing) + " does not exist.", QMessageBox::No},
+        {missing, "The game folder " + QDir::toNativeSeparators(missing) + " does not exist.", QMessageBox::Yes},
+        {refusing, "players.dat was not read: it is a folder, not a file", QMessageBox::No},
+        {refusing, "players.dat was not read: it is a folder, not a file", QMessageBox::Yes},
     };
     for (const auto& c : cases) {
         ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(c.folder)).ok());
@@ -374,14 +375,12 @@ TEST_F(UnsavedWork, AGameFolderThatCannotBeOpenedAtStartIsToldAndOptionsOffered)
         Answer({c.answer});
         bool optionsShown = false;
         SetModalDriver([&](QDialog& shown) { optionsShown = dynamic_cast<OptionsWindow*>(&shown) != nullptr; });
-        main.reset();
-        game = std::make_unique<Game>();
-        main = std::make_unique<MainWindow>(*game, places);
-        ASSERT_TRUE(main->Start());
+        MakeEditor(places);
+        ASSERT_TRUE(editor->Start());
         ASSERT_EQ(ShownMessages().size(), 1u) << c.told.toStdString();
         EXPECT_EQ(ShownMessages()[0].text,
                   c.told + "\n\nDo you want to choose the game's folder now (File > Options)?");
-        EXPECT_EQ(optionsShown, c.answer == IdYes);
+        EXPECT_EQ(optionsShown, c.answer == QMessageBox::Yes);
     }
 }
 

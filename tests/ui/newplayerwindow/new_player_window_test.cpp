@@ -4,17 +4,15 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
 #include "forms/beep.h"
-#include "forms/combo_box.h"
-#include "forms/list_box.h"
+#include "forms/choice_list.h"
 #include "forms/message_box.h"
 #include "forms/modal.h"
 #include "forms/text_box.h"
-#include "mainwindow/main_window.h"
+#include "editor/editor.h"
 #include "support/game_builder.h"
 #include "support/window_parts.h"
 
@@ -38,14 +36,14 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
     b.Players(4);
     b.Team(Club, "Harbour CC", {1, 2}).homeCountry = 1;
     Game& game = *b.game;
-    MainWindow main{game, SettingPlaces{}};
+    Editor editor{SettingPlaces{}, std::move(b.game)};
+    MainWindow& main = editor.Window();
     main.ShowFirstEntries();
-    Find<QTimer>(main, "editTimer").stop();
-    auto& squad = Find<ListBox>(main, "squadList");
-    squad.SetText(squad.List(1));
+    auto& squad = Find<ChoiceList>(main, "squadList");
+    ClickRow(squad, 1);
     ASSERT_EQ(main.CurrentPlayer(), 2);
     ClearShownMessages();
-    SetMessageAnswerer([](const ShownMessage&) { return IdOk; });
+    SetMessageAnswerer([](const ShownMessage&) { return QMessageBox::Ok; });
 
     bool closed = false;
     SetModalDriver([&](QDialog& shown) {
@@ -56,23 +54,23 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
         const int beeps = BeepCount();
         QTest::keyClicks(skill, "a-.");
         QTest::keyClick(skill, Qt::Key_Return);
-        EXPECT_EQ(skill->Text(), "");
+        EXPECT_EQ(skill->text(), "");
         EXPECT_EQ(BeepCount() - beeps, 4);
         EXPECT_TRUE(form.isVisible()) << "Enter in a number box presses no button";
         QTest::keyClicks(skill, "456");
-        EXPECT_EQ(skill->Text(), "45") << "two digits at most";
+        EXPECT_EQ(skill->text(), "45") << "two digits at most";
         QTest::keyClick(skill, Qt::Key_Backspace);
-        EXPECT_EQ(skill->Text(), "4");
+        EXPECT_EQ(skill->text(), "4");
         QTest::keyClicks(box("birthYear"), "198234");
-        EXPECT_EQ(box("birthYear")->Text(), "1982");
+        EXPECT_EQ(box("birthYear")->text(), "1982");
         for (const char* name : {"birthDay", "birthMonth"})
             EXPECT_EQ(box(name)->maxLength(), 2);
         // The names take any key the files can store, but no comma, nor a
         // quote to begin with.
         QTest::keyClicks(box("surname"), "O'Neil-Smith 2nd,");
         QTest::keyClicks(box("initials"), "\"a.b");
-        EXPECT_EQ(box("surname")->Text(), "O'Neil-Smith 2nd");
-        EXPECT_EQ(box("initials")->Text(), "a.b");
+        EXPECT_EQ(box("surname")->text(), "O'Neil-Smith 2nd");
+        EXPECT_EQ(box("initials")->text(), "a.b");
         EXPECT_EQ(BeepCount() - beeps, 6);
 
         Find<QPushButton>(form, "okButton").click();  // the date and most skills are still empty
@@ -89,15 +87,15 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
         EXPECT_EQ(BeepCount() - beeps, 6);
         Find<QPushButton>(form, "okButton").click();
         EXPECT_TRUE(form.isVisible());
-        EXPECT_EQ(box("surname")->Text(), "Newcombe");
-        EXPECT_EQ(skill->Text(), "-5");
+        EXPECT_EQ(box("surname")->text(), "Newcombe");
+        EXPECT_EQ(skill->text(), "-5");
         EXPECT_EQ(game.PlayerCount, 4);
         EXPECT_EQ(game.Teams[Club].squad[3], 0);
         Paste(box("birthYear"), "19821");
-        EXPECT_EQ(box("birthYear")->Text(), "1982");
+        EXPECT_EQ(box("birthYear")->text(), "1982");
 
         Paste(skill, "33");
-        Find<ComboBox>(form, "homeCountry").setCurrentIndex(1);
+        Find<QComboBox>(form, "homeCountry").setCurrentIndex(1);
         Find<QPushButton>(form, "okButton").click();
         closed = !form.isVisible();
     });
@@ -111,15 +109,15 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
     EXPECT_EQ(ShownMessages()[1].text, refusal + "Bat skill must lie from 0 to 60, not -5.");
     for (const ShownMessage& message : ShownMessages()) {
         EXPECT_EQ(message.title, "Error");
-        EXPECT_EQ(message.flags, MbInformation);
+        EXPECT_EQ(Look(message), Look(QMessageBox::Information));
     }
     EXPECT_TRUE(closed);
     EXPECT_EQ(game.Players[5].surname, "Newcombe");
     EXPECT_EQ(game.Players[5].homeCountry, 2);
     EXPECT_EQ(Places(game.Teams[Club]), (std::vector<int>{1, 2, 5}));
-    ASSERT_EQ(squad.ListCount(), 3);
-    EXPECT_EQ(squad.ItemData(2), 5);
-    EXPECT_EQ(squad.ListIndex(), 1);
+    ASSERT_EQ(squad.count(), 3);
+    EXPECT_EQ(squad.NumberAt(2), 5);
+    EXPECT_EQ(squad.ChosenRow(), 1);
     EXPECT_EQ(main.CurrentPlayer(), 2) << "the player shown before stays shown and chosen";
 }
 

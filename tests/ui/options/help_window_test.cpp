@@ -33,7 +33,8 @@ std::vector<Row> ShownRows(const HelpWindow& help)
 // Entries OK takes: every skill at 10 lies inside every range.
 NewPlayerEntries GoodEntries()
 {
-    NewPlayerEntries entries{.birthDay = "1", .birthMonth = "1", .birthYear = "1980"};
+    NewPlayerEntries entries{.initials = "A", .surname = "Ashdown", .birthDay = "1", .birthMonth = "1",
+                             .birthYear = "1980"};
     for (std::string NewPlayerEntries::*box :
          {&NewPlayerEntries::batSkill, &NewPlayerEntries::batAggression, &NewPlayerEntries::bowlSkill,
           &NewPlayerEntries::bowlEconomy, &NewPlayerEntries::fieldAbility, &NewPlayerEntries::potential})

@@ -7,9 +7,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QUrl>
 #include <memory>
 #include <vector>
@@ -17,44 +15,29 @@
 #include <gtest/gtest.h>
 
 #include "data/setting_file.h"
-#include "forms/combo_box.h"
-#include "forms/list_box.h"
+#include "forms/choice_list.h"
 #include "forms/message_box.h"
 #include "forms/modal.h"
-#include "forms/picture_box.h"
+#include "forms/clickable_picture.h"
 #include "forms/text_box.h"
-#include "mainwindow/main_window.h"
+#include "editor/editor.h"
 #include "options/about_window.h"
 #include "options/folder_lists.h"
 #include "options/options_window.h"
 #include "options/web_pages.h"
+#include "support/qt_path.h"
+#include "support/scratch_folder.h"
 #include "support/window_parts.h"
 
 namespace {
-
-// A game folder among the fixtures.
-QString Fixture(const char* name)
-{
-    return QDir(QStringLiteral(KOLTA_FIXTURES "/") + name).canonicalPath();
-}
-
-std::vector<QString> Teams(const ComboBox& box)
-{
-    std::vector<QString> items;
-    for (int i = 0; i < box.ListCount(); ++i)
-        items.push_back(box.List(i));
-    return items;
-}
 
 class OptionsTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(root.isValid());
-        QDir().mkpath(root.filePath("exe"));
-        places = {root.filePath("exe/editor.dat"), root.filePath("config/editor.dat")};
+        places = {QtPath(scratch.Folder("exe") / "editor.dat"), QtPath(scratch / "config" / "editor.dat")};
         ClearShownMessages();
-        SetMessageAnswerer([](const ShownMessage&) { return IdOk; });
+        SetMessageAnswerer([](const ShownMessage&) { return QMessageBox::Ok; });
     }
     void TearDown() override
     {
@@ -70,30 +53,32 @@ protected:
 
     QString Setting() const { return FromSystemPath(ReadSettingFile(ToSystemPath(places.besideExecutable))); }
 
-    QTemporaryDir root;
+    // A copy of a game folder among the fixtures.
+    QString Fixture(const char* name) const { return QDir(QtPath(scratch.Fixture(name))).canonicalPath(); }
+
+    ScratchFolder scratch;
     SettingPlaces places;
     // Sydney Sixes (Smith, Jones), Perth Pies, Hobart Hurricanes and Leeds
     // Lions, the last of another country.
     const QString full = Fixture("game_four_teams");
     const QString teamsOnly = Fixture("teams_file_only");
-    std::unique_ptr<Game> game = std::make_unique<Game>();
 };
 
 TEST_F(OptionsTest, ADriveThatCannotBeReadIsReportedAndChangesNothing)
 {
-    OptionsWindow options(*game, places, OptionsWindow::Mode::FirstStart);
-    auto& folders = Find<DirList>(options, "folderList");
-    auto& drives = Find<DriveList>(options, "driveList");
+    OptionsWindow options(std::string(), places, OptionsWindow::Mode::FirstStart);
+    auto& folders = Find<FolderTree>(options, "folderList");
+    auto& drives = Find<DriveBox>(options, "driveList");
     ASSERT_TRUE(folders.SetPath(full));
-    const QString noDisk = root.filePath("drive-without-a-disk");
+    const QString noDisk = QtPath(scratch / "drive-without-a-disk");
     drives.AddDrive(noDisk);
     drives.setCurrentIndex(drives.count() - 1);
     ASSERT_EQ(ShownMessages().size(), 1u);
     EXPECT_EQ(ShownMessages()[0].text, "Error reading Drive");
     EXPECT_EQ(ShownMessages()[0].title, "Error");
-    EXPECT_EQ(ShownMessages()[0].flags, MbCritical);
+    EXPECT_EQ(Look(ShownMessages()[0]), Look(QMessageBox::Critical));
     EXPECT_EQ(folders.Path(), full);
-    EXPECT_EQ(Find<FileList>(options, "fileList").Path(), full);
+    EXPECT_EQ(Find<FileNameList>(options, "fileList").Path(), full);
     EXPECT_EQ(drives.Drive(), noDisk);
 
     // Back on a real drive, the list returns to where it was on that drive.
@@ -111,32 +96,33 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
         SCOPED_TRACE(dir.toStdString());
         const bool good = dir == full;
         ClearShownMessages();
-        auto fresh = std::make_unique<Game>();
-        MainWindow main(*fresh, places);
+        Editor editor(places);
+        MainWindow& main = editor.Window();
         WhileOpen([&](OptionsWindow& options) {
             EXPECT_FALSE(Find<QPushButton>(options, "firstStartOkButton").isHidden());
             EXPECT_TRUE(Find<QPushButton>(options, "changeDirectoryOkButton").isHidden());
-            Find<DirList>(options, "folderList").SetPath(dir);
+            Find<FolderTree>(options, "folderList").SetPath(dir);
             EXPECT_EQ(options.BothDataFilesListed(), good);
             EXPECT_EQ(Find<QLabel>(options, "filesNote").text(), good ? "Files teams.dat and players.dat found in this directory."
                                                    : "Files teams.dat and players.dat NOT found in current directory.");
             QTest::mouseClick(&Find<QPushButton>(options, "firstStartOkButton"), Qt::LeftButton);
         });
-        ASSERT_EQ(main.Start(), good);
+        ASSERT_EQ(editor.Start(), good);
         if (good) {
             EXPECT_EQ(Setting(), full);
             EXPECT_EQ(ShownTitle(main), "KOLTA editor (" + QDir::toNativeSeparators(full) + ")");
-            EXPECT_EQ(Teams(Find<ComboBox>(main, "teamList")), (std::vector<QString>{"Sydney Sixes", "Perth Pies", "Hobart Hurricanes"}));
-            const auto& squad = Find<ListBox>(main, "squadList");
-            EXPECT_EQ(squad.List(squad.ListIndex()), "A Smith");
+            EXPECT_EQ(Rows(Find<QComboBox>(main, "teamList")),
+                      (std::vector<QString>{"Sydney Sixes", "Perth Pies", "Hobart Hurricanes"}));
+            const auto& squad = Find<ChoiceList>(main, "squadList");
+            EXPECT_EQ(squad.item(squad.ChosenRow())->text(), "A Smith");
             EXPECT_TRUE(ShownMessages().empty());
             continue;
         }
-        EXPECT_TRUE(fresh->GameDirectory.empty());
+        EXPECT_TRUE(editor.Document().Folder().empty());
         EXPECT_FALSE(QFile::exists(places.besideExecutable));
         ASSERT_EQ(ShownMessages().size(), 1u);
         EXPECT_EQ(ShownMessages()[0].text, "teams.dat and players.dat not found in current directory.KOLTA ed will exit.");
-        EXPECT_EQ(ShownMessages()[0].flags, MbCritical);
+        EXPECT_EQ(Look(ShownMessages()[0]), Look(QMessageBox::Critical));
     }
 }
 
@@ -146,27 +132,29 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
 TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
 {
     ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(full)).ok());
-    MainWindow window(*game, places);
-    ASSERT_TRUE(window.Start());
+    Editor editor(places);
+    ASSERT_TRUE(editor.Start());
+    MainWindow& window = editor.Window();
+    const Game* game = &editor.Document().Records();
     QAction& optionsAction = Find<QAction>(window, "optionsAction");
     ClearShownMessages();
     Find<TextBox>(window, "team.teamName").setText("Renamed but not saved");
     Find<TextBox>(window, "batSkill").setText("99");
 
-    WhileOpen([&](OptionsWindow& options) { Find<DirList>(options, "folderList").SetPath(teamsOnly); });
+    WhileOpen([&](OptionsWindow& options) { Find<FolderTree>(options, "folderList").SetPath(teamsOnly); });
     optionsAction.trigger();
     EXPECT_EQ(game->Teams[1].teamName, "Renamed but not saved");
     EXPECT_EQ(ShownTitle(window), "KOLTA editor (" + QDir::toNativeSeparators(full) + ")*");
 
     const QString fewer = Fixture("game_one_team");  // Brisbane Bats (Green)
-    std::vector<int> answers{IdCancel, IdNo};
+    std::vector<QMessageBox::StandardButton> answers{QMessageBox::Cancel, QMessageBox::No};
     SetMessageAnswerer([&](const ShownMessage&) {
-        const int answer = answers.front();
+        const QMessageBox::StandardButton answer = answers.front();
         answers.erase(answers.begin());
         return answer;
     });
     WhileOpen([&](OptionsWindow& options) {
-        auto& folders = Find<DirList>(options, "folderList");
+        auto& folders = Find<FolderTree>(options, "folderList");
         EXPECT_EQ(folders.Path(), full);
         EXPECT_TRUE(Find<QPushButton>(options, "firstStartOkButton").isHidden());
         folders.SetPath(fewer);
@@ -188,10 +176,9 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
     EXPECT_EQ(ShownTitle(window), "KOLTA Editor (" + QDir::toNativeSeparators(fewer) + ")");
     EXPECT_EQ(game->Teams[1].teamName, "Brisbane Bats");
     EXPECT_EQ(game->Players[1].batSkill, 0);
-    EXPECT_EQ(Teams(Find<ComboBox>(window, "teamList")), std::vector<QString>{"Brisbane Bats"});
-    const auto& squad = Find<ListBox>(window, "squadList");
-    EXPECT_EQ(squad.List(squad.ListIndex()), "A Green");
-    EXPECT_TRUE(Find<QTimer>(window, "editTimer").isActive());
+    EXPECT_EQ(Rows(Find<QComboBox>(window, "teamList")), std::vector<QString>{"Brisbane Bats"});
+    const auto& squad = Find<ChoiceList>(window, "squadList");
+    EXPECT_EQ(squad.item(squad.ChosenRow())->text(), "A Green");
     EXPECT_FALSE(Find<QAction>(window, "undoAction").isEnabled()) << "the old game's steps are gone";
     // Slot 2 is where the reader's pass over the closing empty lines went:
     // blank but for its number.
@@ -205,8 +192,8 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
 
 TEST(InfoWindows, AboutClosesOnEscapeAndEachPictureOpensItsPage)
 {
-    Game game;
-    MainWindow main{game, SettingPlaces{}};
+    Editor editor{SettingPlaces{}};
+    MainWindow& main = editor.Window();
     bool closed = false;
     SetModalDriver([&](QDialog& shown) {
         auto& about = dynamic_cast<AboutWindow&>(shown);
@@ -226,9 +213,9 @@ TEST(InfoWindows, AboutClosesOnEscapeAndEachPictureOpensItsPage)
         opened.push_back(page);
         return true;
     });
-    auto& guidePicture = Find<PictureBox>(main, "userGuidePicture");
+    auto& guidePicture = Find<ClickablePicture>(main, "userGuidePicture");
     QTest::mouseClick(&guidePicture, Qt::LeftButton);
-    QTest::mouseClick(&Find<PictureBox>(main, "fileFormatsPicture"), Qt::LeftButton);
+    QTest::mouseClick(&Find<ClickablePicture>(main, "fileFormatsPicture"), Qt::LeftButton);
     QTest::mouseClick(&guidePicture, Qt::LeftButton);
     SetPageOpener({});
     const QDir beside(QCoreApplication::applicationDirPath());

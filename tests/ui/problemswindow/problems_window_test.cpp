@@ -11,6 +11,7 @@
 #include "diff/game_files.h"
 #include "problemswindow/problems_bar.h"
 #include "problemswindow/problems_window.h"
+#include "support/scratch_folder.h"
 
 namespace {
 
@@ -18,7 +19,8 @@ namespace {
 // squad naming a player who doesn't exist, a skill out of range.
 std::vector<Problem> FixtureProblems()
 {
-    const std::string folder = KOLTA_FIXTURES "/game_with_problems";
+    const ScratchFolder scratch;
+    const std::string folder = scratch.Fixture("game_with_problems").string();
     const auto game = ReadGameFiles(folder);
     const auto players = ReadWholeFile(game->PlayersPath);
     const auto teams = ReadWholeFile(game->TeamsPath);

@@ -1,7 +1,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,14 +8,12 @@
 #include <algorithm>
 #include <functional>
 
-#include "forms/combo_box.h"
-#include "forms/list_box.h"
+#include "forms/choice_list.h"
 #include "forms/message_box.h"
 #include "forms/modal.h"
-#include "forms/shape.h"
 #include "forms/text_box.h"
 #include "support/game_builder.h"
-#include "mainwindow/main_window.h"
+#include "editor/editor.h"
 #include "searchwindow/search_window.h"
 #include "support/window_parts.h"
 
@@ -30,32 +27,15 @@ enum { Harbour = 1, Bayside, Kiwis, Newlands };
 
 void Click(QPushButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
 
-// Clicks a row of a list as a person would.
-void ClickRow(ListBox& list, int row)
-{
-    ASSERT_GE(row, 0);
-    ASSERT_LT(row, list.ListCount());
-    list.scrollToItem(list.item(row));
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(row)).center());
-}
-
-std::vector<QString> Rows(const ListBox& list)
-{
-    std::vector<QString> rows;
-    for (int row = 0; row < list.ListCount(); ++row)
-        rows.push_back(list.List(row));
-    return rows;
-}
-
 // Searches with the filters as they stand and picks the candidate listed as
 // `name`: his initials and surname.
 void SearchAndPick(SearchWindow& form, const QString& name)
 {
     Click(&Find<QPushButton>(form, "searchButton"));  // Search
-    const auto rows = Rows(Find<ListBox>(form, "resultList"));
+    const auto rows = Rows(Find<ChoiceList>(form, "resultList"));
     const auto at = std::find(rows.begin(), rows.end(), name);
     ASSERT_NE(at, rows.end()) << name.toStdString();
-    ClickRow(Find<ListBox>(form, "resultList"), int(at - rows.begin()));
+    ClickRow(Find<ChoiceList>(form, "resultList"), int(at - rows.begin()));
 }
 
 class SearchWindowTest : public ::testing::Test {
@@ -71,9 +51,9 @@ protected:
         b.Team(Kiwis, "Kiwis XI", {6, 7}).homeCountry = 4;
         b.Team(Newlands, "Newlands", {8}).homeCountry = 4;
 
-        main = std::make_unique<MainWindow>(game, SettingPlaces{});
+        editor = std::make_unique<Editor>(SettingPlaces{}, std::move(b.game));
+        main = &editor->Window();
         main->ShowFirstEntries();
-        Find<QTimer>(*main, "editTimer").stop();
         ClearShownMessages();
         SetMessageAnswerer([this](const ShownMessage&) { return answer; });
     }
@@ -110,11 +90,12 @@ protected:
     static std::vector<QString> Titles() { return Shown(&ShownMessage::title); }
 
     GameBuilder b;
-    Game& game = *b.game;
-    std::unique_ptr<MainWindow> main;
+    Game& game = *b.game;   // the editor's own, changed behind its back where a test sets the scene
+    std::unique_ptr<Editor> editor;
+    MainWindow* main = nullptr;
 
-    ListBox& Squad() const { return Find<ListBox>(*main, "squadList"); }
-    int answer = IdOk;
+    ChoiceList& Squad() const { return Find<ChoiceList>(*main, "squadList"); }
+    QMessageBox::StandardButton answer = QMessageBox::Ok;
 };
 
 // Add mode from the first press to a full squad; a new search leaves no
@@ -137,26 +118,26 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
         Click(&Find<QPushButton>(form, "addButton"));  // him again
         // Filters and order take effect when Search is pressed, and a new
         // search leaves no candidate to add.
-        Find<ComboBox>(form, "clubFilter").SetText("Kiwis XI");
-        Find<ComboBox>(form, "sortKeyList").SetText("Bat Skill");
-        EXPECT_EQ(Find<ListBox>(form, "resultList").ListCount(), 40);
+        Pick(Find<QComboBox>(form, "clubFilter"), "Kiwis XI");
+        Pick(Find<QComboBox>(form, "sortKeyList"), "Bat Skill");
+        EXPECT_EQ(Find<ChoiceList>(form, "resultList").count(), 40);
         Click(&Find<QPushButton>(form, "searchButton"));  // Search
-        EXPECT_THAT(Rows(Find<ListBox>(form, "resultList")), ElementsAre("A P0007", "A P0006"));
-        EXPECT_FALSE(Find<Shape>(form, "sortBar").isVisible()) << "the bar is hidden after the sort";
+        EXPECT_THAT(Rows(Find<ChoiceList>(form, "resultList")), ElementsAre("A P0007", "A P0006"));
+        EXPECT_FALSE(Find<QWidget>(form, "sortBar").isVisible()) << "the bar is hidden after the sort";
         EXPECT_EQ(form.Candidate(), std::nullopt);
-        EXPECT_EQ(Find<TextBox>(form, "presentClub").Text(), "");
+        EXPECT_EQ(Find<TextBox>(form, "presentClub").text(), "");
         Click(&Find<QPushButton>(form, "addButton"));
 
         // From other squads: he leaves them, and the message names his club.
-        ClickRow(Find<ListBox>(form, "resultList"), 0);
+        ClickRow(Find<ChoiceList>(form, "resultList"), 0);
         EXPECT_EQ(form.Candidate(), 7);
-        EXPECT_EQ(Find<TextBox>(form, "presentClub").Text(), "Newlands");
+        EXPECT_EQ(Find<TextBox>(form, "presentClub").text(), "Newlands");
         Click(&Find<QPushButton>(form, "addButton"));
-        EXPECT_EQ(ShownMessages().back().flags, MbInformation);
+        EXPECT_EQ(Look(ShownMessages().back()), Look(QMessageBox::Information));
         EXPECT_THAT(Rows(Squad()), ElementsAre("K Venn", "A P0002", "A P0003", "A P0030", "A P0007"));
-        EXPECT_EQ(Squad().ListIndex(), 0);   // the player shown stays chosen
+        EXPECT_EQ(Squad().ChosenRow(), 0);  // the player shown stays chosen
         EXPECT_THAT(Places(game.Teams[Newlands]), ElementsAre(8));
-        EXPECT_EQ(Find<TextBox>(form, "presentClub").Text(), "Harbour CC");
+        EXPECT_EQ(Find<TextBox>(form, "presentClub").text(), "Harbour CC");
         EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "Player already in team",
                                          "A P0030 has been added to the Harbour CC squad.", "Player already in team",
                                          "No Player Selected",
@@ -166,13 +147,13 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
 
         // Players without a team, up to the twentieth; then the limit comes
         // first, also for a candidate who is in the squad.
-        Find<ComboBox>(form, "clubFilter").SetText(Find<ComboBox>(form, "clubFilter").List(0));
+        Pick(Find<QComboBox>(form, "clubFilter"), Find<QComboBox>(form, "clubFilter").itemText(0));
         for (int number = 9; number <= 23; ++number) {
             SearchAndPick(form, QStringLiteral("A P00%1").arg(number, 2, 10, QLatin1Char('0')));
             Click(&Find<QPushButton>(form, "addButton"));
         }
         EXPECT_EQ(Texts().back(), "A P0023 has been added to the Harbour CC squad.");
-        EXPECT_EQ(Squad().ListCount(), 20);
+        EXPECT_EQ(Squad().count(), 20);
         ClearShownMessages();
         SearchAndPick(form, "A P0025");
         Click(&Find<QPushButton>(form, "addButton"));
@@ -202,28 +183,25 @@ TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
                   Click(&Find<QPushButton>(form, "replaceButton"));
                   EXPECT_EQ(game.Teams, teams);
                   SearchAndPick(form, "S T Quill");
-                  Find<ComboBox>(form, "nationalityFilter").SetText("India");
-                  Find<ComboBox>(form, "sortKeyList").SetText("Bat Skill");
+                  Pick(Find<QComboBox>(form, "nationalityFilter"), "India");
+                  Pick(Find<QComboBox>(form, "sortKeyList"), "Bat Skill");
                   Click(&Find<QPushButton>(form, "replaceButton"));
                   closed = !form.isVisible();
               }),
               "searchWindow");
     EXPECT_TRUE(closed);
     EXPECT_THAT(Rows(Squad()), ElementsAre("K Venn", "A P0002", "S T Quill"));
-    EXPECT_EQ(Squad().ListIndex(), -1);
+    EXPECT_EQ(Squad().ChosenRow(), -1);
     EXPECT_EQ(Press(&Find<QPushButton>(*main, "replacePlayerButton")), "");  // no row chosen
 
     ClickRow(Squad(), 0);
     Press(&Find<QPushButton>(*main, "replacePlayerButton"), [&](SearchWindow& form) {
-        ASSERT_EQ(Find<ComboBox>(form, "clubFilter").ListCount(), 5);  // no double rows from the earlier opening
-        EXPECT_EQ(Find<ComboBox>(form, "nationalityFilter").ListIndex(), 0);
-        EXPECT_EQ(Find<ComboBox>(form, "sortKeyList").ListIndex(), 0);
-        EXPECT_EQ(Find<ListBox>(form, "resultList").ListCount(), 0);
+        ASSERT_EQ(Find<QComboBox>(form, "clubFilter").count(), 5);  // no double rows from the earlier opening
+        EXPECT_EQ(Find<QComboBox>(form, "nationalityFilter").currentIndex(), 0);
+        EXPECT_EQ(Find<QComboBox>(form, "sortKeyList").currentIndex(), 0);
+        EXPECT_EQ(Find<ChoiceList>(form, "resultList").count(), 0);
         EXPECT_EQ(form.Candidate(), std::nullopt);
-        // A name edit carried over under the window rebuilds the squad list;
-        // the row of the player shown stays chosen.
         SearchAndPick(form, "A P0003");
-        main->RefreshSquad();
         Click(&Find<QPushButton>(form, "replaceButton"));
     });
     EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "Player already in team",
@@ -236,26 +214,26 @@ TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
 
 TEST_F(SearchWindowTest, DeleteAsksFirstAndShowsThePlayerWhoFollowed)
 {
-    answer = IdNo;
+    answer = QMessageBox::No;
     Click(&Find<QPushButton>(*main, "deletePlayerButton"));
     EXPECT_THAT(Texts(), ElementsAre("Are you sure you want to delete K Venn from Harbour CC Squad ?"));
     EXPECT_THAT(Titles(), ElementsAre("Delete Player"));
-    EXPECT_EQ(ShownMessages()[0].flags, MbCritical | MbYesNo);
+    EXPECT_EQ(Look(ShownMessages()[0]), Look(QMessageBox::Critical, QMessageBox::Yes | QMessageBox::No));
     EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(1, 2, 3));
-    EXPECT_EQ(Squad().ListIndex(), 0);
+    EXPECT_EQ(Squad().ChosenRow(), 0);
 
-    answer = IdYes;
+    answer = QMessageBox::Yes;
     Click(&Find<QPushButton>(*main, "deletePlayerButton"));
     EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(2, 3));
     EXPECT_EQ(game.Players[1].teamNumber, 0);
-    EXPECT_EQ(Squad().ListIndex(), 0);
+    EXPECT_EQ(Squad().ChosenRow(), 0);
     EXPECT_EQ(main->CurrentPlayer(), 2);
 
     // The last of the squad: nothing is chosen afterwards, so there is
     // nothing more to delete.
     ClickRow(Squad(), 1);
     Click(&Find<QPushButton>(*main, "deletePlayerButton"));
-    EXPECT_EQ(Squad().ListIndex(), -1);
+    EXPECT_EQ(Squad().ChosenRow(), -1);
     ClearShownMessages();
     Click(&Find<QPushButton>(*main, "deletePlayerButton"));
     EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(2));

@@ -1,0 +1,131 @@
+#include "commands/game_files.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "commands/game_folder_trouble.h"
+#include "commands/save_failure.h"
+#include "data/setting_file.h"
+#include "document/game_document.h"
+#include "forms/message_box.h"
+#include "forms/modal.h"
+#include "options/options_window.h"
+
+GameFiles::GameFiles(GameDocument& document, SettingPlaces places)
+    : document_(document), places_(std::move(places))
+{
+}
+
+bool GameFiles::Start(QWidget* owner)
+{
+    std::string folder = ReadSettingFile(places_.PathToRead().toStdString());
+    if (folder.empty()) {
+        // The chooser opens at the process's current directory and gives a
+        // folder only when the user picks one that holds both files.
+        OptionsWindow options(std::string(), places_, OptionsWindow::Mode::FirstStart);
+        ShowModal(options, owner);
+        folder = options.ChosenFolder();
+    }
+    if (folder.empty())
+        return false;
+    // A missing or damaged file is no reason to stop: the window shows what
+    // could be read, says what is wrong and offers to choose another folder.
+    const std::optional<QString> refused = Open(folder);
+    OfferOtherFolder(refused, owner);
+    return true;
+}
+
+std::optional<QString> GameFiles::Open(const std::string& folder)
+{
+    const GameLoad load = document_.Load(folder);
+    if (!load.recovered.empty())
+        ShowMessage(QMessageBox::Information, QStringLiteral("Info"), QString::fromStdString(load.recovered));
+    // A missing file loads as an empty one; OfferOtherFolder tells of it. A
+    // file refused for what it is (a device, a folder, a giant) is named
+    // with the reason.
+    std::optional<QString> refused;
+    for (const LoadReport* report : {&load.players, &load.teams}) {
+        if (!refused && !report->Read() &&
+            QFileInfo::exists(QDir(QString::fromStdString(folder)).filePath(QString::fromStdString(report->file))))
+            refused = QStringLiteral("%1 was not read: %2")
+                          .arg(QString::fromStdString(report->file), QString::fromStdString(report->failure));
+    }
+    if (document_.MarkFolderOpen())
+        ShowMessage(QMessageBox::Information, QStringLiteral("Info"),
+                    QStringLiteral("Another editor has this game directory open. If both of you save, "
+                                   "the second save is refused."));
+    return refused;
+}
+
+void GameFiles::OfferOtherFolder(const std::optional<QString>& refused, QWidget* owner)
+{
+    std::optional<QString> trouble = GameFolderTrouble(QString::fromStdString(document_.Folder()));
+    if (!trouble)
+        trouble = refused;
+    if (!trouble)
+        return;
+    const QMessageBox::StandardButton answer = ShowMessage(
+        QMessageBox::Warning, QStringLiteral("Game folder"),
+        *trouble + QStringLiteral("\n\nDo you want to choose the game's folder now (File > Options)?"),
+        QMessageBox::Yes | QMessageBox::No);
+    if (answer == QMessageBox::Yes)
+        ChooseFolder(owner);
+}
+
+void GameFiles::ChooseFolder(QWidget* owner)
+{
+    OptionsWindow options(document_.Folder(), places_, OptionsWindow::Mode::ChangeDirectory);
+    options.SetLeaveGameCheck([this] { return MayLeaveGame(); });
+    connect(&options, &OptionsWindow::folderChosen, this, [this](const std::string& folder) {
+        // The user has been asked about unsaved edits before the folder changed.
+        if (const std::optional<QString> refused = Open(folder))
+            ShowMessage(QMessageBox::Warning, QStringLiteral("Info"), *refused);
+    });
+    ShowModal(options, owner);
+}
+
+bool GameFiles::Save()
+{
+    // What the load could not keep is lost by saving; the user decides.
+    const std::string& dropped = document_.Records().LoadDropped;
+    const bool dropConfirmed =
+        !dropped.empty() &&
+        ShowMessage(QMessageBox::Warning, QStringLiteral("Saving.."),
+                    QStringLiteral("Saving will leave out what the editor could not load:\n%1\n\nSave anyway?")
+                        .arg(QString::fromStdString(dropped)),
+                    QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    if (!dropped.empty() && !dropConfirmed)
+        return false;
+    const FilesBeforeSave before(document_.Records());
+    const FileResult result = document_.Save(dropConfirmed);
+    if (!result.ok()) {
+        ShowMessage(QMessageBox::Critical, QStringLiteral("Saving.."), before.FailureText(result));
+        return false;
+    }
+    ShowMessage(QMessageBox::Information, QStringLiteral("Info"),
+                QStringLiteral("Updated Player and Team data successfully"));
+    emit saved();
+    return true;
+}
+
+QMessageBox::StandardButton GameFiles::AskToSave()
+{
+    return ShowMessage(QMessageBox::Warning, QStringLiteral("Saving.."),
+                       QStringLiteral("Do you want to update the files teams.dat and players.dat?"),
+                       QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+}
+
+bool GameFiles::MayLeaveGame()
+{
+    if (!document_.IsModified())
+        return true;
+    const QMessageBox::StandardButton answer = AskToSave();
+    // A save that fails keeps the game open, so the edits are not lost.
+    return answer == QMessageBox::No || (answer == QMessageBox::Yes && Save());
+}
+
+bool GameFiles::MayExit()
+{
+    const QMessageBox::StandardButton answer = AskToSave();
+    return answer == QMessageBox::No || (answer == QMessageBox::Yes && Save());
+}
