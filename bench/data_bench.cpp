@@ -1,5 +1,5 @@
-// Loading and saving both files, and taking a player out of every squad, at
-// the game's full size.
+// Loading and saving both files, taking a player out of every squad and the
+// check of the whole game, at the game's full size.
 #include <benchmark/benchmark.h>
 
 #include <cstring>
@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "check/problems.h"
 #include "data/players_file.h"
 #include "data/save.h"
 #include "data/squad.h"
@@ -180,5 +181,23 @@ void BM_DetachFromSquads(benchmark::State& state)
     }
 }
 BENCHMARK(BM_DetachFromSquads)->ArgName("inSquad")->Arg(1)->Arg(0)->Unit(benchmark::kMicrosecond);
+
+// The check of the whole game: its records alone, as the problems bar counts
+// them again after every step, and with the scans of both files' bytes, as
+// Check Game and a load or save count them.
+void BM_CheckGame(benchmark::State& state)
+{
+    const bool withFiles = state.range(0) != 0;
+    const auto game = FullSizeGame();
+    const std::string players = WritePlayers(*game);
+    const std::string teams = WriteTeams(*game);
+    std::size_t found = 0;
+    for (auto _ : state) {
+        found = withFiles ? ProblemsOfGame(*game, players, teams).size() : ProblemsInGame(*game).size();
+        benchmark::DoNotOptimize(found);
+    }
+    state.counters["problems"] = double(found);
+}
+BENCHMARK(BM_CheckGame)->ArgName("withFiles")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

@@ -1,7 +1,9 @@
 // One keystroke in a box of the main window on a full-size game, written
 // through the document as the user types it: the box, the step of the
-// history, the signals and the redrawing they cause; and one keystroke in the
-// Find Player window, the search and the listing of its matches.
+// history, the signals and the redrawing they cause; one keystroke in the
+// Find Player window, the search and the listing of its matches; and the
+// players table: opening it, sorting by each column, a keystroke in its
+// filter box, Set Value on every player and its undo.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -9,6 +11,7 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QTableView>
 #include <QTreeWidget>
 #include <memory>
 
@@ -17,11 +20,15 @@
 #include "findwindow/find_window.h"
 #include "forms/text_box.h"
 #include "full_size_game.h"
+#include "tables/record_table_model.h"
+#include "tables/table_window.h"
 
 namespace {
 
 MainWindow* form = nullptr;
 const Game* world = nullptr;
+GameDocument* document = nullptr;
+constexpr CalendarDay Today{2026, 1, 1};
 
 void Press(QWidget& box, Qt::Key key, const QString& text = {})
 {
@@ -67,6 +74,89 @@ void BM_FindWindowKeystroke(benchmark::State& state, const char* typed)
 BENCHMARK_CAPTURE(BM_FindWindowKeystroke, common_letter, "e")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(BM_FindWindowKeystroke, number, "12")->Unit(benchmark::kMicrosecond);
 
+// The rows in view drawn again, as after each change.
+void DrawRows(TableWindow& table)
+{
+    benchmark::DoNotOptimize(table.table->viewport()->grab());
+}
+
+// From nothing to the players table drawn on the screen with all 2000 rows.
+void BM_OpenPlayersTable(benchmark::State& state)
+{
+    for (auto _ : state) {
+        TableWindow table(*document, RecordKind::Player, Today);
+        table.show();
+        // Drawn whole into a picture: the first paint, whatever the platform.
+        benchmark::DoNotOptimize(table.grab());
+    }
+}
+BENCHMARK(BM_OpenPlayersTable)->Unit(benchmark::kMillisecond);
+
+// A click on a column's header, the order turning each time, and the rows
+// in view drawn again.
+void BM_SortPlayersTable(benchmark::State& state)
+{
+    TableWindow table(*document, RecordKind::Player, Today);
+    table.show();
+    const int column = int(state.range(0));
+    bool descending = false;
+    for (auto _ : state) {
+        table.table->sortByColumn(column, descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+        DrawRows(table);
+        descending = !descending;
+    }
+    state.SetLabel(table.model->ColumnAt(column).name);
+}
+BENCHMARK(BM_SortPlayersTable)->DenseRange(0, 21)->Unit(benchmark::kMillisecond);
+
+// Each keystroke of a filter typed into the box, the rows drawn after each.
+void BM_PlayersTableFilterKeystroke(benchmark::State& state, const char* typed)
+{
+    TableWindow table(*document, RecordKind::Player, Today);
+    table.show();
+    const QString text = QString::fromLatin1(typed);
+    for (auto _ : state) {
+        for (int keys = 1; keys <= text.size(); ++keys) {
+            table.filterBox->setText(text.left(keys));
+            DrawRows(table);
+        }
+    }
+    state.counters["per key"] = benchmark::Counter(double(text.size()), benchmark::Counter::kIsIterationInvariantRate |
+                                                                         benchmark::Counter::kInvert);
+    state.counters["shown"] = table.model->rowCount();
+}
+BENCHMARK_CAPTURE(BM_PlayersTableFilterKeystroke, skill, "batSkill>=42")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(BM_PlayersTableFilterKeystroke, terms, "batSkill>=42 homeCountry=England or age<25")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(BM_PlayersTableFilterKeystroke, name, "a j smi")->Unit(benchmark::kMillisecond);
+
+// Set Value on all 2000 players as one step, the main window and the table
+// following it; then its undo, each timed on its own.
+void BM_SetValueOnEveryPlayer(benchmark::State& state)
+{
+    const bool timeUndo = state.range(0) == 1;
+    TableWindow table(*document, RecordKind::Player, Today);
+    table.show();
+    table.table->selectAll();
+    for (auto _ : state) {
+        if (timeUndo)
+            state.PauseTiming();
+        if (!table.SetValue(QStringLiteral("potential"), QStringLiteral("+1")).isEmpty())
+            state.SkipWithError("Set Value refused");
+        DrawRows(table);
+        if (timeUndo)
+            state.ResumeTiming();
+        else
+            state.PauseTiming();
+        document->Undo();
+        DrawRows(table);
+        if (!timeUndo)
+            state.ResumeTiming();
+    }
+    state.SetLabel((timeUndo ? "undo of " : "") + document->History().redoText().toStdString());
+}
+BENCHMARK(BM_SetValueOnEveryPlayer)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
 }  // namespace
 
 int main(int argc, char** argv)
@@ -87,6 +177,7 @@ int main(int argc, char** argv)
     QApplication::processEvents();
     form = &editor.Window();
     world = &editor.Document().Records();
+    document = &editor.Document();
 
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -44,12 +44,14 @@ inline Lines Edit(Lines lines, std::initializer_list<std::pair<int, std::string>
 }
 
 // One file a reader is given: what it shows, the lines, the count the reader
-// should end with and the records the writer should then write.
+// should end with, the records the writer should then write and what the
+// load report says a save would not write back.
 struct Load {
     std::string what;
     Lines file;
     int count;
     Lines written;  // before the closing lines
+    std::string dropped = {};
 };
 
 // Game is too large for the stack.

@@ -1,6 +1,7 @@
 #include "data/number_entry.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "data/text_number.h"
 
@@ -19,17 +20,32 @@ bool IsPlainWholeNumber(std::string_view text)
     return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
+const std::string WholeNumbers = "a whole number from " +
+                                 std::to_string(std::numeric_limits<std::int16_t>::min()) + " to " +
+                                 std::to_string(std::numeric_limits<std::int16_t>::max());
+
 }  // namespace
+
+std::optional<std::int16_t> ExactNumber(std::string_view text)
+{
+    return IsPlainWholeNumber(text) ? TextAsNumber(text) : std::nullopt;
+}
+
+std::string NotExactReason(std::string_view text)
+{
+    const bool blank = text.find_first_not_of(' ') == std::string_view::npos;
+    return (blank ? std::string("an empty box") : std::string(text)) + " is not " + WholeNumbers;
+}
 
 NumberEntry JudgeNumberEntry(std::string_view text, std::int16_t current, std::string_view label,
                              std::optional<Range> range)
 {
-    const std::optional<std::int16_t> converted = TextAsNumber(text);
-    NumberEntry entry{NumberEntry::Kind::Stored, converted.value_or(current), {}};
-    if (!converted || !IsPlainWholeNumber(text)) {
+    const std::optional<std::int16_t> exact = ExactNumber(text);
+    NumberEntry entry{NumberEntry::Kind::Stored, exact.value_or(current), {}};
+    if (!exact) {
         entry.kind = NumberEntry::Kind::Refused;
-        entry.message = std::string(label) + " takes a whole number from -32768 to 32767: the record holds " +
-                        std::to_string(entry.value) + ".";
+        entry.message =
+            std::string(label) + " takes " + WholeNumbers + ": the record holds " + std::to_string(entry.value) + ".";
     } else if (range && (entry.value < range->low || entry.value > range->high)) {
         entry.kind = NumberEntry::Kind::Unusual;
         entry.message = std::string(label) + " runs from " + std::to_string(range->low) + " to " +

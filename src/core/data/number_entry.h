@@ -7,12 +7,19 @@
 
 #include "data/fields.h"
 
+// The number `text` says exactly, as a field stores it: blanks around it, a
+// sign, digits, and a value from -32768 to 32767. Nothing for any other text,
+// "12.5" and "1e1" included: the record would hold a number nobody typed.
+std::optional<std::int16_t> ExactNumber(std::string_view text);
+
+// Why `text` is no value a field can hold: "1234567 is not a whole number
+// from -32768 to 32767", "an empty box is not ...".
+std::string NotExactReason(std::string_view text);
+
 // What becomes of the text in a number box once it is carried into its field.
 // The field takes a plain whole number from -32768 to 32767 as typed. Any
-// other text is refused: the field keeps what it held, or, for a text the
-// conversion still reads ("12.5", "1e1"), takes a number other than the one
-// the box shows. A skill outside the range the game gives it is stored, with
-// a warning.
+// other text is refused and the field keeps what it held. A skill outside
+// the range the game gives it is stored, with a warning.
 struct NumberEntry {
     enum class Kind { Stored, Unusual, Refused };
     Kind kind = Kind::Stored;

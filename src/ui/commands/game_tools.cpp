@@ -19,6 +19,7 @@
 #include "forms/message_box.h"
 #include "forms/modal.h"
 #include "problemswindow/problems_window.h"
+#include "tables/table_window.h"
 
 namespace {
 
@@ -38,11 +39,28 @@ std::string ToPath(const QString& path)
 // The scans of the files speak of the files as they lie on disk, the rest of
 // the check of the game as it is now. A file that can't be read is checked
 // as a save would write it.
+struct FilesToCheck {
+    std::string players;
+    std::string teams;
+};
+
+FilesToCheck BytesOnDisk(const Game& game)
+{
+    auto players = ReadWholeFile(game.PlayersPath);
+    auto teams = ReadWholeFile(game.TeamsPath);
+    return {players ? std::move(*players) : WritePlayers(game), teams ? std::move(*teams) : WriteTeams(game)};
+}
+
 std::vector<Problem> ProblemsNow(const Game& game)
 {
-    const auto players = ReadWholeFile(game.PlayersPath);
-    const auto teams = ReadWholeFile(game.TeamsPath);
-    return ProblemsOfGame(game, players ? *players : WritePlayers(game), teams ? *teams : WriteTeams(game));
+    const FilesToCheck files = BytesOnDisk(game);
+    return ProblemsOfGame(game, files.players, files.teams);
+}
+
+int Errors(const std::vector<Problem>& problems)
+{
+    return int(std::count_if(problems.begin(), problems.end(),
+                             [](const Problem& p) { return p.severity == Severity::Error; }));
 }
 
 template <typename Window>
@@ -55,13 +73,31 @@ void Raise(Window& window)
 
 }  // namespace
 
-GameTools::GameTools(GameDocument& document) : document_(document) {}
+GameTools::GameTools(GameDocument& document) : document_(document)
+{
+    recount_.setSingleShot(true);
+    recount_.setInterval(0);
+    connect(&recount_, &QTimer::timeout, this, &GameTools::CountErrors);
+}
 
 void GameTools::CheckFiles()
 {
-    const std::vector<Problem> problems = ProblemsNow(document_.Records());
-    emit errorsCounted(int(std::count_if(problems.begin(), problems.end(),
-                                         [](const Problem& p) { return p.severity == Severity::Error; })));
+    const FilesToCheck files = BytesOnDisk(document_.Records());
+    fileErrors_ = Errors(ProblemsInPlayersFile(files.players)) + Errors(ProblemsInTeamsFile(files.teams));
+    CountErrors();
+}
+
+void GameTools::Recount()
+{
+    recount_.start();
+}
+
+void GameTools::CountErrors()
+{
+    recount_.stop();
+    // The check of the whole game drops warnings only, so its errors are
+    // those of the files' bytes and those of the records.
+    emit errorsCounted(fileErrors_ + Errors(ProblemsInGame(document_.Records())));
 }
 
 void GameTools::FindPlayer(QWidget* owner)
@@ -183,4 +219,33 @@ void GameTools::ImportCsv(QWidget* owner)
         game.TeamCount = imported.TeamCount;
     });
     emit gameImported();
+}
+
+void GameTools::PlayersTable(QWidget* owner)
+{
+    ShowTable(playersTable_, true, owner);
+}
+
+void GameTools::TeamsTable(QWidget* owner)
+{
+    ShowTable(teamsTable_, false, owner);
+}
+
+void GameTools::ShowTable(QPointer<TableWindow>& window, bool players, QWidget* owner)
+{
+    if (!window) {
+        const QDate today = QDate::currentDate();
+        window = new TableWindow(document_, players ? RecordKind::Player : RecordKind::Team,
+                                 {today.year(), today.month(), today.day()}, owner);
+        window->setObjectName(players ? QStringLiteral("playersTable") : QStringLiteral("teamsTable"));
+        const auto front = [owner] {
+            owner->window()->raise();
+            owner->window()->activateWindow();
+        };
+        connect(window, &TableWindow::playerChosen, this, &GameTools::playerChosen);
+        connect(window, &TableWindow::teamChosen, this, &GameTools::teamChosen);
+        connect(window, &TableWindow::playerChosen, owner, front);
+        connect(window, &TableWindow::teamChosen, owner, front);
+    }
+    Raise(*window);
 }

@@ -29,20 +29,26 @@ void Store(Record& record, const Field<Record>& field, const TypedValue& value)
 
 }  // namespace
 
-// The box being typed in: its field, its record and what the field held when
-// the box was entered.
+// The box being typed in: its field, its record, what the field held when
+// the box was entered and the typing session its keystrokes join.
 struct GameDocument::OpenEdit {
     const void* field;
     bool team;
     int number;
     TypedValue entry;
+    int session;
+
+    bool Edits(const void* otherField, bool otherTeam, int otherNumber) const
+    {
+        return field == otherField && team == otherTeam && number == otherNumber;
+    }
 };
 
 GameDocument::GameDocument(std::unique_ptr<Game> game, QObject* parent)
     : QObject(parent), game_(std::move(game))
 {
     ledger_.Reset(*game_);
-    connect(&history_, &QUndoStack::cleanChanged, this, &GameDocument::FollowModified);
+    saved_.Reset(*game_);
 }
 
 GameDocument::~GameDocument() = default;
@@ -57,6 +63,7 @@ GameLoad GameDocument::Load(const std::string& folder)
     SetGameDirectory(*game_, folder);
     const GameLoad load = LoadGame(*game_);
     ledger_.Reset(*game_);
+    saved_.Reset(*game_);
     history_.clear();
     FollowModified();
     emit gameReplaced();
@@ -70,18 +77,18 @@ bool GameDocument::MarkFolderOpen()
     return presence_->OthersHadItOpen();
 }
 
-FileResult GameDocument::Save(bool dropConfirmed)
+FileResult GameDocument::Save(bool dropConfirmed, OtherChanges otherChanges)
 {
     EndTyping();
-    const FileResult result = SaveGame(*game_, dropConfirmed);
-    if (result.ok())
-        history_.setClean();
+    const FileResult result = SaveGame(*game_, dropConfirmed, otherChanges);
+    if (result.ok()) {
+        // Typing on in the box of the saved step starts a step of its own,
+        // so the saved state stays one undo away.
+        lastTyping_.reset();
+        saved_.Reset(*game_);
+        FollowModified();
+    }
     return result;
-}
-
-bool GameDocument::IsModified() const
-{
-    return !history_.isClean();
 }
 
 void GameDocument::FollowModified()
@@ -109,9 +116,10 @@ void GameDocument::TypeInto(Record& record, int number, const Field<Record>& fie
                             StepPlace where)
 {
     constexpr bool team = std::is_same_v<Record, TeamRecord>;
-    if (!typing_ || typing_->field != &field || typing_->team != team || typing_->number != number) {
+    if (!typing_ || !typing_->Edits(&field, team, number)) {
         EndTyping();
-        typing_ = std::make_unique<OpenEdit>(OpenEdit{&field, team, number, ValueOf(record, field)});
+        typing_ = std::make_unique<OpenEdit>(
+            OpenEdit{&field, team, number, ValueOf(record, field), SessionFor(&field, team, number)});
     }
     // A text that is no value of the field leaves what was there before the box was entered.
     Store(record, field, std::holds_alternative<std::monostate>(value) ? typing_->entry : value);
@@ -120,13 +128,27 @@ void GameDocument::TypeInto(Record& record, int number, const Field<Record>& fie
     if (change.Empty())
         return;
     const QString text = TypingStepText(change);
-    Push(std::move(change), text, where, typingSession_);
+    Push(std::move(change), text, where, typing_->session);
+}
+
+int GameDocument::SessionFor(const void* field, bool team, int number)
+{
+    const int newest = history_.index() - 1;
+    const auto* step = newest >= 0 && newest == history_.count() - 1
+                           ? static_cast<const RecordStep*>(history_.command(newest))
+                           : nullptr;
+    if (lastTyping_ && lastTyping_->Edits(field, team, number) && step &&
+        step->TypingSession() == lastTyping_->session)
+        return lastTyping_->session;
+    return ++sessions_;
 }
 
 void GameDocument::EndTyping()
 {
-    typing_.reset();
-    ++typingSession_;
+    if (!typing_)
+        return;
+    lastTyping_ = std::move(typing_);
+    emit typingEnded();
 }
 
 void GameDocument::Change(const QString& text, StepPlace place, const std::function<void(Game&)>& change)
@@ -140,7 +162,7 @@ void GameDocument::Change(const QString& text, StepPlace place, const std::funct
 
 void GameDocument::Push(RecordChange change, const QString& text, StepPlace place, int typingSession)
 {
-    Announce(change);
+    Announce(change, false);
     history_.push(new RecordStep([this](const RecordChange& step, bool undo,
                                         StepPlace at) { Revisit(step, undo, at); },
                                  std::move(change), place, text, typingSession));
@@ -165,12 +187,14 @@ void GameDocument::Revisit(const RecordChange& change, bool undo, StepPlace plac
     else
         change.Redo(*game_);
     ledger_.Follow(*game_, change);
-    Announce(change);
-    emit stepRevisited(place);
+    Announce(change, undo);
+    emit stepRevisited(undo && place.replaced ? StepPlace{place.team, place.replaced} : place);
 }
 
-void GameDocument::Announce(const RecordChange& change)
+void GameDocument::Announce(const RecordChange& change, bool undone)
 {
+    saved_.Follow(*game_, change, undone);
+    FollowModified();
     for (const RecordChange::PlayerCopy& copy : change.players)
         emit playerChanged(copy.number);
     for (const RecordChange::TeamCopy& copy : change.teams)

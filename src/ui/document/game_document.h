@@ -14,15 +14,19 @@
 #include "data/game.h"
 #include "data/load_game.h"
 #include "data/record_changes.h"
+#include "data/save.h"
+#include "document/saved_records.h"
 #include "forms/typed_value.h"
 
 class FolderPresence;
 
-// The team and player a step was made on, for the window to bring into view
-// when the step is undone or redone; 0 for none.
+// The squad the user was working on when he made a step, and the player the
+// step was about, for the window to bring into view when the step is undone
+// or redone; 0 for none. An undo of a replace shows the player it took out.
 struct StepPlace {
     int team = 0;
     int player = 0;
+    int replaced = 0;
 };
 
 // The game being edited, and the one way to change it. It owns the records,
@@ -47,16 +51,19 @@ public:
     // true when another editor has it open too.
     bool MarkFolderOpen();
     // Writes both files as one pair; `dropConfirmed`: the user agreed to lose
-    // what the load could not keep. A save that works makes the game as it
-    // is now the saved state.
-    FileResult Save(bool dropConfirmed);
-    // Whether the game differs from the files as last loaded or saved.
-    bool IsModified() const;
+    // what the load could not keep; `otherChanges`: what becomes of files
+    // another program saved meanwhile. A save that works makes the game as
+    // it is now the saved state.
+    FileResult Save(bool dropConfirmed, OtherChanges otherChanges = OtherChanges::Refuse);
+    // Whether the records differ from the files as last loaded or saved: an
+    // edit typed back to what was there is no change.
+    bool IsModified() const { return saved_.Differ(); }
 
     // A value typed or picked in the box of a field: the record follows at
     // once. A value the field cannot take puts back what the field held when
     // the box was entered. The changes of one box are one step until
-    // EndTyping; `where` is where the user is, for undo to go back to.
+    // EndTyping; typing again in the box of the newest step joins that step.
+    // `where` is where the user is, for undo to go back to.
     void Type(int player, const PlayerField& field, const TypedValue& value, StepPlace where);
     void Type(int team, const TeamField& field, const TypedValue& value, StepPlace where);
     // The box being typed in was left: its step is complete.
@@ -81,24 +88,33 @@ signals:
     // Another game was read: every record may differ.
     void gameReplaced();
     void modifiedChanged(bool modified);
-    // An undo or redo put the records back; `place` is where the step was made.
+    // An undo or redo put the records back; `place` is where the step was
+    // made, with the player to show after it.
     void stepRevisited(StepPlace place);
+    // The box being typed in was left, or a command ended its typing.
+    void typingEnded();
 
 private:
     struct OpenEdit;
     template <class Record>
     void TypeInto(Record& record, int number, const Field<Record>& field, const TypedValue& value, StepPlace where);
+    // The typing session a new edit of a box joins: the newest step's, when
+    // that step was the last typing in the same box, else a new one.
+    int SessionFor(const void* field, bool team, int number);
     void Push(RecordChange change, const QString& text, StepPlace place, int typingSession);
     // An undo or redo of a step: the records go back or forward.
     void Revisit(const RecordChange& change, bool undo, StepPlace place);
-    void Announce(const RecordChange& change);
+    // Says what a step changed; `undone`: the step was taken back.
+    void Announce(const RecordChange& change, bool undone);
     void FollowModified();
 
     std::unique_ptr<Game> game_;
     RecordLedger ledger_;
     QUndoStack history_;
     std::unique_ptr<FolderPresence> presence_;
+    SavedRecords saved_;
     std::unique_ptr<OpenEdit> typing_;
-    int typingSession_ = 0;
+    std::unique_ptr<OpenEdit> lastTyping_;   // the box typed in before, once left
+    int sessions_ = 0;
     bool modified_ = false;
 };

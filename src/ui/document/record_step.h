@@ -18,6 +18,8 @@ public:
     // `typingSession` is -1 for a step that joins no other.
     RecordStep(Revisit revisit, RecordChange change, StepPlace place, const QString& text, int typingSession);
 
+    int TypingSession() const { return typingSession_; }
+
     int id() const override;
     bool mergeWith(const QUndoCommand* other) override;
     void undo() override;

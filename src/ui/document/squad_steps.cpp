@@ -28,7 +28,8 @@ Replacement ReplaceInSquad(GameDocument& document, int team, int row, std::int16
     const int replaced = squad.squad[std::size_t(SlotOfRow(squad, row))];
     Replacement done;
     document.Change(ReplaceStepText(game.Players[std::size_t(replaced)], game.Players[std::size_t(candidate)]),
-                    {team, candidate}, [&](Game& edited) { done = ReplaceInSquad(edited, team, row, candidate); });
+                    {team, candidate, replaced},
+                    [&](Game& edited) { done = ReplaceInSquad(edited, team, row, candidate); });
     return done;
 }
 

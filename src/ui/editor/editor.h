@@ -18,6 +18,8 @@ public:
     // Opens the game that editor.dat names, or the one the user chooses;
     // false when there is none and the program must end without a window.
     bool Start();
+    // Whether what the start leaves until the window is first painted is done.
+    bool Started() const { return started_; }
 
     GameDocument& Document() { return document_; }
     MainWindow& Window() { return window_; }
@@ -27,4 +29,5 @@ private:
     GameFiles files_;
     GameTools tools_;
     MainWindow window_;
+    bool started_ = false;
 };

@@ -7,12 +7,20 @@ namespace {
 
 constexpr char MarkProperty[] = "boxMark";
 
-QColor TintOf(BoxMark mark)
-{
-    return mark == BoxMark::Refused ? QColor(0xff, 0xc8, 0xc8) : QColor(0xff, 0xf0, 0xa8);
-}
-
 }  // namespace
+
+QColor MarkTint(BoxMark mark)
+{
+    switch (mark) {
+    case BoxMark::Refused:
+        return QColor(0xff, 0xc8, 0xc8);
+    case BoxMark::Unusual:
+        return QColor(0xff, 0xf0, 0xa8);
+    case BoxMark::Plain:
+        break;
+    }
+    return {};
+}
 
 void MarkBox(QLineEdit& box, BoxMark mark, const QString& why)
 {
@@ -25,7 +33,7 @@ void MarkBox(QLineEdit& box, BoxMark mark, const QString& why)
         box.setPalette(QPalette());   // the window's own colours again
     } else {
         QPalette palette = box.palette();
-        palette.setColor(QPalette::Base, TintOf(mark));
+        palette.setColor(QPalette::Base, MarkTint(mark));
         box.setPalette(palette);
     }
     box.setToolTip(why);

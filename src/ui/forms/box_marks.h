@@ -10,6 +10,9 @@
 // tooltip says why; a plain box has neither.
 enum class BoxMark { Plain, Unusual, Refused };
 
+// The tint of a mark; none for a plain box.
+QColor MarkTint(BoxMark mark);
+
 void MarkBox(QLineEdit& box, BoxMark mark, const QString& why);
 BoxMark MarkOf(const QLineEdit& box);
 

@@ -35,11 +35,19 @@ QMessageBox::StandardButton EscapeAnswer(QMessageBox::StandardButtons buttons)
 QMessageBox::StandardButton ShowBox(const ShownMessage& message)
 {
     QMessageBox box(message.icon, message.title, message.text, message.buttons, QApplication::activeWindow());
-    box.setDefaultButton(FirstOf(message.buttons, {QMessageBox::Yes, QMessageBox::Ok}));
+    for (const MessageChoice& choice : message.choices)
+        box.button(choice.button)->setText(choice.caption);
+    box.setDefaultButton(message.defaultButton);
     box.setEscapeButton(EscapeAnswer(message.buttons));
     box.exec();
     QAbstractButton* clicked = box.clickedButton();
     return clicked ? box.standardButton(clicked) : EscapeAnswer(message.buttons);
+}
+
+QMessageBox::StandardButton Show(ShownMessage message)
+{
+    Shown().push_back(message);
+    return Answerer() ? Answerer()(message) : ShowBox(message);
 }
 
 }  // namespace
@@ -47,9 +55,17 @@ QMessageBox::StandardButton ShowBox(const ShownMessage& message)
 QMessageBox::StandardButton ShowMessage(QMessageBox::Icon icon, const QString& title, const QString& text,
                                         QMessageBox::StandardButtons buttons)
 {
-    Shown().push_back(ShownMessage{icon, title, text, buttons});
-    const ShownMessage message = Shown().back();
-    return Answerer() ? Answerer()(message) : ShowBox(message);
+    return Show({icon, title, text, buttons, FirstOf(buttons, {QMessageBox::Yes, QMessageBox::Ok}), {}});
+}
+
+QMessageBox::StandardButton AskMessage(QMessageBox::Icon icon, const QString& title, const QString& text,
+                                       const std::vector<MessageChoice>& choices,
+                                       QMessageBox::StandardButton defaultButton)
+{
+    QMessageBox::StandardButtons buttons;
+    for (const MessageChoice& choice : choices)
+        buttons |= choice.button;
+    return Show({icon, title, text, buttons, defaultButton, choices});
 }
 
 void SetMessageAnswerer(MessageAnswerer answerer)

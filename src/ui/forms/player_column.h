@@ -38,6 +38,10 @@ public:
     // Every box empty and every list on no entry: no player is shown.
     void ShowNothing();
 
+    // A number box left with a text its field cannot hold shows the record's
+    // value again; gives what the status bar should say of it.
+    QString TakeBackInexact(const PlayerRecord& player) { return records_.TakeBackInexact(player); }
+
     // Tints each number box by what its field in `player` made of its text,
     // and gives what the box with the keyboard focus says (empty if none).
     QString MarkNumberBoxes(const PlayerRecord& player);

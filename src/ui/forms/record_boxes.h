@@ -82,6 +82,26 @@ public:
         shown_.reset();
     }
 
+    // The number boxes whose text their field cannot hold exactly show what
+    // the record holds again, all but the one being typed in. Gives what that
+    // says ("Wealth stays 88: 12.5 is not a whole number from -32768 to
+    // 32767"), empty when no box did.
+    QString TakeBackInexact(const Record& record)
+    {
+        QString said;
+        for (const Box& box : boxes_) {
+            auto* text = static_cast<TextBox*>(box.widget);
+            if (box.field->kind != FieldKind::Number || box.widget == editing_ ||
+                ExactNumber(text->text().toStdString()))
+                continue;
+            said = QStringLiteral("%1 stays %2: %3")
+                       .arg(FromGame(box.field->label), QString::number(record.*box.field->number),
+                            QString::fromStdString(NotExactReason(text->text().toStdString())));
+            ShowField(*box.widget, *box.field, record);
+        }
+        return said;
+    }
+
     // Tints each number box by what its field in `record` made of its text,
     // and gives what the box with the keyboard focus says (empty if none).
     QString MarkNumberBoxes(const Record& record)

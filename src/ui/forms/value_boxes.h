@@ -3,7 +3,7 @@
 #include <QComboBox>
 
 #include "data/fields.h"
-#include "data/text_number.h"
+#include "data/number_entry.h"
 #include "forms/drop_down.h"
 #include "forms/game_text.h"
 #include "forms/text_box.h"
@@ -38,7 +38,7 @@ TypedValue TypedValueOf(const QWidget& box, const Field<Record>& field)
     case FieldKind::Name:
         return ToGame(static_cast<const TextBox&>(box).text());
     case FieldKind::Number:
-        if (const auto number = TextAsNumber(static_cast<const TextBox&>(box).text().toStdString()))
+        if (const auto number = ExactNumber(static_cast<const TextBox&>(box).text().toStdString()))
             return *number;
         return {};
     case FieldKind::Code:

@@ -10,27 +10,27 @@
 
 namespace {
 
-// A text box claims Ctrl+Z and the redo keys for itself; it lets them pass
-// to the menu when it has nothing of its own to undo or redo.
-class BoxUndoPassage : public QObject {
+// A text box would take Ctrl+Z and the redo keys for its own typing; here
+// they always reach the menu, so they take the newest step of the game's
+// history whichever box has the focus, and do nothing when there is none.
+class UndoKeysToMenu : public QObject {
 public:
     using QObject::QObject;
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
+    bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() != QEvent::ShortcutOverride)
+        if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
             return false;
-        const auto* box = static_cast<QLineEdit*>(watched);
         const auto* key = static_cast<QKeyEvent*>(event);
-        const bool undo = key->matches(QKeySequence::Undo);
-        const bool redo = key->matches(QKeySequence::Redo) ||
-                          key->keyCombination() == QKeyCombination(Qt::CTRL, Qt::Key_Y);
-        if ((undo && !box->isUndoAvailable()) || (redo && !box->isRedoAvailable())) {
-            event->ignore();
-            return true;
-        }
-        return false;
+        const bool undoKey = key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo) ||
+                             key->keyCombination() == QKeyCombination(Qt::CTRL, Qt::Key_Y);
+        if (!undoKey)
+            return false;
+        // Not claimed, the key goes to the menu's shortcut; a key press that
+        // still arrives found the menu item disabled and is dropped.
+        event->setAccepted(event->type() == QEvent::KeyPress);
+        return true;
     }
 };
 
@@ -65,8 +65,8 @@ EditMenu BuildEditMenu(QMainWindow& window, GameDocument& document)
     QObject::connect(edit.undo, &QAction::triggered, edit.menu, [&document] { document.Undo(); });
     QObject::connect(edit.redo, &QAction::triggered, edit.menu, [&document] { document.Redo(); });
 
-    auto* passage = new BoxUndoPassage(edit.menu);
+    auto* toMenu = new UndoKeysToMenu(edit.menu);
     for (QLineEdit* box : window.findChildren<QLineEdit*>())
-        box->installEventFilter(passage);
+        box->installEventFilter(toMenu);
     return edit;
 }

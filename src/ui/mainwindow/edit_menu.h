@@ -9,9 +9,8 @@ class QMenu;
 // Ctrl+Shift+Z), each naming the step of the document's history it would
 // undo or redo.
 //
-// In a text box the keys first undo and redo the box's own typing; once the
-// box has nothing left to undo they reach the menu. So the window's text
-// boxes must all exist when the menu is built.
+// The keys reach the menu from every text box of the window, never undoing
+// a box's own typing, so the boxes must all exist when the menu is built.
 struct EditMenu {
     QMenu* menu = nullptr;
     QAction* undo = nullptr;

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLayout>
 #include <QMenuBar>
 #include <QPushButton>
@@ -20,7 +21,9 @@
 #include "forms/clickable_picture.h"
 #include "forms/drop_down.h"
 #include "forms/fitted_layout.h"
+#include "forms/game_text.h"
 #include "forms/player_column.h"
+#include "mainwindow/changed_files_bar.h"
 #include "mainwindow/edit_menu.h"
 #include "mainwindow/team_column.h"
 #include "options/artwork.h"
@@ -79,6 +82,9 @@ MainWindow::MainWindow(GameDocument& document, GameFiles& files, GameTools& tool
     problemsBar_ = new ProblemsBar(this);
     addToolBar(Qt::TopToolBarArea, problemsBar_);
     problemsBar_->hide();
+    addToolBarBreak(Qt::TopToolBarArea);
+    changedFilesBar_ = new ChangedFilesBar(this);
+    addToolBar(Qt::TopToolBarArea, changedFilesBar_);
     statusBar()->setSizeGripEnabled(false);
     SetTabOrder();
     ConnectHandlers();
@@ -134,6 +140,14 @@ void MainWindow::BuildPlayerColumn(FittedLayout& at, QWidget* area)
     playerColumn_ = Named(new PlayerColumn(at, design, area), "playerColumn");
     for (auto name : {&PlayerRecord::initials, &PlayerRecord::surname})
         MakeBold(*playerColumn_->Box(name));
+    // The search lists players by surname, and one without a surname ends
+    // its listing: the last letter stays until a new one is typed.
+    static_cast<TextBox*>(playerColumn_->Box(&PlayerRecord::surname))
+        ->SetTextRule([](const QString& text) -> std::optional<QString> {
+            if (text.isEmpty())
+                return QStringLiteral("A player needs a surname: type the new one before deleting the last letter");
+            return NameRefusalOf(text);
+        });
 }
 
 void MainWindow::BuildMenu()
@@ -165,6 +179,11 @@ void MainWindow::BuildMenu()
     QAction* sinceOriginal = command(tools, "Changes Since &Original...", "changesSinceOriginalAction",
                                      [this] { tools_.ChangesSinceOriginal(this); });
     connect(tools, &QMenu::aboutToShow, this, [this, sinceOriginal] { sinceOriginal->setEnabled(tools_.HasOriginals()); });
+    tools->addSeparator();
+    command(tools, "&Players Table...", "playersTableAction", [this] { tools_.PlayersTable(this); })
+        ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
+    command(tools, "&Teams Table...", "teamsTableAction", [this] { tools_.TeamsTable(this); })
+        ->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T));
 
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
     command(help, "Help On Editor", "helpAction", [this] { OnHelp(); })->setShortcut(QKeySequence(Qt::Key_F1));
@@ -217,18 +236,31 @@ void MainWindow::ConnectHandlers()
             document_.Type(*shownTeam_, field, value, {*shownTeam_, currentPlayer_.value_or(0)});
         MarkNumberBoxes();
     });
-    connect(playerColumn_, &PlayerColumn::nameRefused, this, &MainWindow::SayInStatusBar);
-    connect(teamColumn_, &TeamColumn::nameRefused, this, &MainWindow::SayInStatusBar);
-    // A box's typed value is one step until the focus leaves the box.
+    connect(playerColumn_, &PlayerColumn::nameRefused, this, &MainWindow::Explain);
+    connect(teamColumn_, &TeamColumn::nameRefused, this, &MainWindow::Explain);
+    // A box's typed value is one step until the focus leaves the box, or a
+    // command ends it; a number box left with a text its field cannot hold
+    // then shows the record's value again.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old) {
         if (old && isAncestorOf(old)) {
             document_.EndTyping();
             MarkNumberBoxes();
         }
     });
+    connect(&document_, &GameDocument::typingEnded, this, &MainWindow::TakeBackInexactBoxes);
+    // Enter ends the typing of a box as leaving it does.
+    for (QLineEdit* box : findChildren<QLineEdit*>()) {
+        connect(box, &QLineEdit::returnPressed, this, [this] {
+            document_.EndTyping();
+            MarkNumberBoxes();
+        });
+    }
 
     connect(problemsBar_, &ProblemsBar::showProblemsRequested, this, [this] { tools_.CheckGame(this); });
     connect(&tools_, &GameTools::errorsCounted, problemsBar_, &ProblemsBar::SetErrorCount);
+    connect(&files_, &GameFiles::changedElsewhere, changedFilesBar_, &ChangedFilesBar::setVisible);
+    connect(changedFilesBar_, &ChangedFilesBar::reloadRequested, &files_, &GameFiles::ReloadTheirs);
+    connect(changedFilesBar_, &ChangedFilesBar::keepMineRequested, &files_, &GameFiles::KeepMine);
     connect(&tools_, &GameTools::playerChosen, this, &MainWindow::GoToPlayer);
     connect(&tools_, &GameTools::teamChosen, this, &MainWindow::GoToTeam);
     connect(&tools_, &GameTools::gameImported, this, &MainWindow::ShowRecordsAgain);
@@ -247,10 +279,7 @@ void MainWindow::FollowDocument()
     connect(&document_, &GameDocument::gameReplaced, this, [this] {
         // No box may edit the record of the new game that has the old numbers.
         currentPlayer_.reset();
-        if (shownTeam_) {
-            shownTeam_.reset();
-            teamColumn_->ForgetTeam();
-        }
+        ShowNoTeam();
         SetTitle();
         caption_ = QStringLiteral("KOLTA Editor");
         ShowFirstEntries();

@@ -4,6 +4,7 @@
 #include <QString>
 #include <optional>
 
+class ChangedFilesBar;
 class ChoiceList;
 class ClickablePicture;
 class FittedLayout;
@@ -15,7 +16,9 @@ class ProblemsBar;
 class QComboBox;
 class QPushButton;
 class TeamColumn;
+struct PlayerRecord;
 struct StepPlace;
+struct TeamRecord;
 
 // The editor's one working window: a country and its teams on the left, the
 // chosen team's squad in the middle, one player on the right. Every value of
@@ -78,6 +81,8 @@ private:
     void ShowPlayer(int number);
     // The right-hand column with no player in it, empty and disabled.
     void ShowNoPlayer();
+    // The team's boxes with no team in them, empty and disabled.
+    void ShowNoTeam();
     // The team of a team list's entry in the team's boxes.
     void ShowTeam(int index);
     void OnPlayerChanged(int number);
@@ -85,7 +90,16 @@ private:
     // Tints the number boxes by what their fields made of them; the status
     // bar tells about the box with the focus.
     void MarkNumberBoxes();
+    // What the shown player's column, then the shown team's, say when asked
+    // `player` and `team`; the team's word wins.
+    QString AskShownColumns(QString (PlayerColumn::*player)(const PlayerRecord&),
+                            QString (TeamColumn::*team)(const TeamRecord&));
     void SayInStatusBar(const QString& text);
+    // Tells why something the user did was refused; it stays until the next word.
+    void Explain(const QString& why);
+    // After a box was left: a number box whose text its field cannot hold
+    // shows the record's value again, and the status bar says so.
+    void TakeBackInexactBoxes();
 
     // The squad buttons, in squad_commands.cpp.
     void OnAddNewPlayer();
@@ -118,6 +132,7 @@ private:
 
     PlayerColumn* playerColumn_ = nullptr;
     ProblemsBar* problemsBar_ = nullptr;
+    ChangedFilesBar* changedFilesBar_ = nullptr;
 
     // The shown player and team, by number. The team is the one its record's
     // own number names; it is set once a team has been shown.
@@ -129,5 +144,5 @@ private:
     QString caption_ = QStringLiteral("KOLTA editor");
     bool centred_ = false;
     bool leaveAnswered_ = false;   // Exit has asked already; the close box need not
-    QString statusSaid_;           // what the status bar says about a box
+    QString statusSaid_;           // what the status bar says about the number box with the focus
 };

@@ -47,6 +47,8 @@ void MainWindow::OnTeamChosen()
     squadList_->clear();
     if (const auto team = CurrentTeam())
         ShowTeam(*team);
+    else
+        ShowNoTeam();
     FillSquadList();
     // No row is chosen yet, so no player is shown or edited.
     ShowNoPlayer();
@@ -61,10 +63,10 @@ void MainWindow::OnPlayerChosen()
 
 void MainWindow::ChooseFirstTeam()
 {
-    if (teamList_->count() > 0) {
+    // A country without teams leaves no team to show.
+    if (teamList_->count() > 0)
         teamList_->setCurrentIndex(0);
-        OnTeamChosen();
-    }
+    OnTeamChosen();
 }
 
 void MainWindow::ChooseFirstPlayer()
@@ -137,23 +139,28 @@ void MainWindow::GoToPlayer(int number)
         OnPlayerChosen();
         return;
     }
-    // No team is chosen; the team boxes go on showing the team shown before.
+    // No team is chosen, so no team's boxes take typing.
     teamList_->setCurrentIndex(-1);
     squadList_->clear();
+    ShowNoTeam();
     ShowPlayer(number);
 }
 
-void MainWindow::BringIntoView(const StepPlace& step)
+void MainWindow::BringIntoView(const StepPlace& place)
 {
-    // A player the step moved is shown at the club that holds him now.
+    // The records stand as they did when the step was made, so the squad the
+    // user was working on is shown as it was, with the player's row chosen
+    // when he is in it.
     const Game& game = document_.Records();
-    StepPlace place = step;
-    const auto player = std::int16_t(place.player);
-    const bool inTeam = IsTeamIndex(place.team) && IsInSquad(game, place.team, player);
-    if (IsPlayerNumber(player) && !inTeam && PresentClub(game, player) != 0)
-        place.team = PresentClub(game, player);
-    const bool isTeam = IsTeamIndex(place.team);
-    if (isTeam && teamList_->findData(place.team) < 0) {
+    if (!IsTeamIndex(place.team)) {
+        // A player edited with no team chosen, or a step over the whole game.
+        if (IsPlayerNumber(place.player))
+            GoToPlayer(place.player);
+        else
+            RefreshSquad();
+        return;
+    }
+    if (teamList_->findData(place.team) < 0) {
         // A team of another country, or one whose country the step changed:
         // its country's list is built afresh.
         const int country = game.Teams[std::size_t(place.team)].homeCountry;
@@ -162,7 +169,7 @@ void MainWindow::BringIntoView(const StepPlace& step)
             OnCountryChosen();
         }
     }
-    if (const int entry = isTeam ? teamList_->findData(place.team) : -1; entry >= 0) {
+    if (const int entry = teamList_->findData(place.team); entry >= 0) {
         teamList_->setCurrentIndex(entry);
         OnTeamChosen();
     } else {

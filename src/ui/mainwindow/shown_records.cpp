@@ -29,6 +29,12 @@ void MainWindow::ShowNoPlayer()
     playerColumn_->setEnabled(false);
 }
 
+void MainWindow::ShowNoTeam()
+{
+    shownTeam_.reset();
+    teamColumn_->ShowNothing();
+}
+
 void MainWindow::ShowTeam(int index)
 {
     if (!IsTeamIndex(index))
@@ -64,21 +70,41 @@ void MainWindow::OnTeamChanged(int number)
     }
 }
 
-void MainWindow::MarkNumberBoxes()
+QString MainWindow::AskShownColumns(QString (PlayerColumn::*player)(const PlayerRecord&),
+                                    QString (TeamColumn::*team)(const TeamRecord&))
 {
     const Game& game = document_.Records();
     QString said;
     if (currentPlayer_ && IsPlayerNumber(*currentPlayer_))
-        said = playerColumn_->MarkNumberBoxes(game.Players[std::size_t(*currentPlayer_)]);
+        said = (playerColumn_->*player)(game.Players[std::size_t(*currentPlayer_)]);
     if (shownTeam_ && IsTeamIndex(*shownTeam_)) {
-        if (const QString teamSays = teamColumn_->MarkNumberBoxes(game.Teams[std::size_t(*shownTeam_)]);
-            !teamSays.isEmpty())
+        if (const QString teamSays = (teamColumn_->*team)(game.Teams[std::size_t(*shownTeam_)]); !teamSays.isEmpty())
             said = teamSays;
     }
+    return said;
+}
+
+void MainWindow::MarkNumberBoxes()
+{
+    const QString said = AskShownColumns(&PlayerColumn::MarkNumberBoxes, &TeamColumn::MarkNumberBoxes);
     if (!said.isEmpty())
         SayInStatusBar(said);
     else if (!statusSaid_.isEmpty() && statusBar()->currentMessage() == statusSaid_)
         SayInStatusBar(QString());
+}
+
+void MainWindow::Explain(const QString& why)
+{
+    statusBar()->showMessage(why);
+}
+
+void MainWindow::TakeBackInexactBoxes()
+{
+    const QString said = AskShownColumns(&PlayerColumn::TakeBackInexact, &TeamColumn::TakeBackInexact);
+    if (said.isEmpty())
+        return;
+    MarkNumberBoxes();
+    Explain(said);
 }
 
 void MainWindow::SayInStatusBar(const QString& text)

@@ -63,6 +63,7 @@ TeamColumn::TeamColumn(FittedLayout& at, QWidget* parent)
 
 void TeamColumn::Show(const TeamRecord& team)
 {
+    setEnabled(true);
     number_->setText(QString::number(team.teamNumber));
     fields_.Show(team);
 }
@@ -77,7 +78,9 @@ QString TeamColumn::MarkNumberBoxes(const TeamRecord& team)
     return fields_.MarkNumberBoxes(team);
 }
 
-void TeamColumn::ForgetTeam()
+void TeamColumn::ShowNothing()
 {
     number_->clear();
+    fields_.ShowNothing();
+    setEnabled(false);
 }

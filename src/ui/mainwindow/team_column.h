@@ -23,8 +23,9 @@ public:
     // but the one being typed in.
     void Refresh(const TeamRecord& team);
     QString MarkNumberBoxes(const TeamRecord& team);
-    // The number of a team of a game no longer open is not shown.
-    void ForgetTeam();
+    QString TakeBackInexact(const TeamRecord& team) { return fields_.TakeBackInexact(team); }
+    // No team: the number and the boxes empty, and nothing takes input.
+    void ShowNothing();
 
     // The box of the table's field `index`, for the window's focus order.
     QWidget* Box(std::size_t index) const { return boxes_[index]; }

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QToolTip>
 #include <algorithm>
 
 #include "document/squad_steps.h"
@@ -89,6 +90,11 @@ NewPlayerWindow::NewPlayerWindow(GameDocument& document, int team, QWidget* pare
     connect(okButton_, &QPushButton::clicked, this, &NewPlayerWindow::OnOk);
     connect(cancelButton_, &QPushButton::clicked, this, &QDialog::reject);
     connect(helpButton_, &QPushButton::clicked, this, &NewPlayerWindow::OnHelp);
+    // The window has no status bar: a refused key says why under the names.
+    connect(entries_, &PlayerColumn::nameRefused, this, [this](const QString& why) {
+        const QWidget* names = entries_->Box(&PlayerRecord::initials);
+        QToolTip::showText(names->mapToGlobal(QPoint(0, names->height())), why, entries_);
+    });
     okButton_->setFocus();
 
     entries_->ChooseFirstEntries();

@@ -1,27 +1,13 @@
 #include "problemswindow/problems_bar.h"
 
-#include <QAction>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
 
-ProblemsBar::ProblemsBar(QWidget* parent) : QToolBar(parent)
+ProblemsBar::ProblemsBar(QWidget* parent) : NoticeBar("problemsBar", QStyle::SP_MessageBoxWarning, parent)
 {
-    setObjectName(QStringLiteral("problemsBar"));
-    setMovable(false);
-    setFloatable(false);
-    toggleViewAction()->setVisible(false);
-
-    auto* icon = new QLabel(this);
-    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(side, side));
-    message = new QLabel(this);
     showProblemsButton = new QPushButton(QStringLiteral("Show &Problems..."), this);
-    addWidget(icon);
-    addWidget(message);
     addWidget(showProblemsButton);
     connect(showProblemsButton, &QPushButton::clicked, this, &ProblemsBar::showProblemsRequested);
-    hide();
 }
 
 void ProblemsBar::SetErrorCount(int errors)

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QToolBar>
+#include "forms/notice_bar.h"
 
-class QLabel;
 class QPushButton;
 
 // The strip under the menu that says a loaded game has errors, with a button
 // that opens the list. A game without errors never shows it.
-class ProblemsBar : public QToolBar {
+class ProblemsBar : public NoticeBar {
     Q_OBJECT
 public:
     explicit ProblemsBar(QWidget* parent = nullptr);
@@ -15,7 +14,6 @@ public:
     // Shows the bar with the count, or hides it for 0.
     void SetErrorCount(int errors);
 
-    QLabel* message = nullptr;
     QPushButton* showProblemsButton = nullptr;
 
 signals:

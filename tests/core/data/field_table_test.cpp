@@ -79,21 +79,3 @@ TEST(FieldTable, NewPlayerChecksAndGameCheckHoldEachFieldToItsRange)
         }
     }
 }
-
-// What the new player's window asks for is what the table labels: every
-// field it fills has a caption and every captioned field is filled, while
-// the Help window names exactly the fields with a range.
-TEST(FieldTable, TheNewPlayersBoxesAreTheLabelledFields)
-{
-    for (const PlayerField& field : PlayerFields) {
-        SCOPED_TRACE(std::string(field.name));
-        const bool numberBox = std::any_of(NumberBoxes.begin(), NumberBoxes.end(),
-                                           [&](const NumberBox& box) { return box.field == field.number; });
-        const bool codeBox = std::any_of(CodeBoxes.begin(), CodeBoxes.end(),
-                                         [&](const CodeBox& box) { return box.field == field.number; });
-        const bool inWindow = field.kind == FieldKind::Name || numberBox || codeBox;
-        EXPECT_EQ(inWindow, !field.label.empty());
-        EXPECT_EQ(codeBox, field.codes != nullptr);
-        EXPECT_EQ(field.range.has_value(), !field.rangeLabel.empty());
-    }
-}

@@ -19,7 +19,6 @@
 
 #include "data/file_io.h"
 #include "data/load_game.h"
-#include "data/pair_commit.h"
 #include "data/players_file.h"
 #include "data/save.h"
 #include "data/setting_file.h"
@@ -67,8 +66,6 @@ const std::string AwkwardBytes = std::string("a\r\nb\nc\rd\x1a" "e") + '\0' + "\
 
 class FilePaths : public testing::TestWithParam<std::string> {
 protected:
-    void TearDown() override { SetCommitStepHook(nullptr); }
-
     // A new folder named `name` under a scratch folder of this test.
     fs::path Folder(const std::string& name) { return scratch_.Folder(NativePath(name)); }
 
@@ -124,6 +121,24 @@ TEST_P(FilePaths, TheGameSavesInTheFolder)
 }
 
 INSTANTIATE_TEST_SUITE_P(Scripts, FilePaths, testing::ValuesIn(FolderNames));
+
+// editor.dat holds the game directory as the first field: a comma ends it
+// unless the whole line is quoted, and the line ends in CR LF.
+TEST(SettingFile, KeepsTheDirectoryUpToTheFirstCommaOrLineEnd)
+{
+    EXPECT_EQ(ReadSetting("C:\\Games, old\\KOLTA\r\n"), "C:\\Games");
+    EXPECT_EQ(ReadSetting("\"C:\\Games, old\"\r\n"), "C:\\Games, old");
+    EXPECT_EQ(ReadSetting("  D:\\\r\nE:\\other\r\n"), "D:\\");
+    const ScratchFolder scratch;
+    EXPECT_EQ(ReadSettingFile(PathText(scratch.Fixture("setting_two_lines") / "editor.dat")), "/games/kolta");
+    EXPECT_EQ(ReadSettingFile(PathText(scratch / "no_such_case" / "editor.dat")), "");
+
+    const std::string directory = "C:\\Spiele\\K\xF6lta Cricket";
+    EXPECT_EQ(WriteSetting(directory), directory + "\r\n");
+    const std::string file = PathText(scratch / "editor.dat");
+    ASSERT_TRUE(WriteSettingFile(file, directory).ok());
+    EXPECT_EQ(ReadSettingFile(file), directory);
+}
 
 // The game's folder named in editor.dat, which stands beside the program.
 // One test for all names, so that no two write the file at once.
@@ -183,55 +198,6 @@ public:
 private:
     HANDLE handle_;
 };
-
-// A save cut off after any one of its steps. Where Unix tests kill a child
-// process there, this one throws out of the save, which leaves the files as
-// a dead process would.
-struct CutOff {};
-std::vector<std::string> stepsSeen;
-std::string cutAt;
-
-TEST_F(FilePaths, ASaveCutOffAtAnyStepIsFinishedOrUndoneByTheNextLoad)
-{
-    const auto changed = [](Game& game) {
-        game.Players[1].surname = "Renamed";
-        game.Teams[1].wealth = 77;
-    };
-    const fs::path first = Folder("K\xC3\xB6lta");
-    auto game = LoadSampleIn(first, PathText(first));
-    changed(*game);
-    stepsSeen.clear();
-    SetCommitStepHook([](std::string_view step) { stepsSeen.emplace_back(step); });
-    ASSERT_TRUE(SaveGame(*game).ok());
-    ASSERT_GE(stepsSeen.size(), 8u);
-
-    const std::vector<std::string> steps = stepsSeen;
-    for (std::size_t i = 0; i < steps.size(); ++i) {
-        SCOPED_TRACE("cut off after: " + steps[i]);
-        const fs::path dir = Folder("K\xC3\xB6lta " + std::to_string(i));
-        auto saving = LoadSampleIn(dir, PathText(dir));
-        const std::string oldPlayers = Bytes(dir / "players.dat");
-        const std::string oldTeams = Bytes(dir / "teams.dat");
-        changed(*saving);
-        const std::string newPlayers = WritePlayers(*saving);
-        const std::string newTeams = WriteTeams(*saving);
-        cutAt = steps[i];
-        SetCommitStepHook([](std::string_view step) {
-            if (step == cutAt)
-                throw CutOff{};
-        });
-        EXPECT_THROW(SaveGame(*saving), CutOff);
-        SetCommitStepHook(nullptr);
-
-        const auto loaded = std::make_unique<Game>();
-        SetGameDirectory(*loaded, PathText(dir));
-        LoadGame(*loaded);
-        const std::string players = Bytes(dir / "players.dat");
-        const std::string teams = Bytes(dir / "teams.dat");
-        EXPECT_TRUE((players == oldPlayers && teams == oldTeams) || (players == newPlayers && teams == newTeams));
-        EXPECT_FALSE(fs::exists(NativePath(CommitRecordPath(PathText(dir)))));
-    }
-}
 
 TEST_F(FilePaths, AFileHeldOpenStopsTheSaveAndBothFilesStay)
 {

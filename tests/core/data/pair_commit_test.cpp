@@ -86,8 +86,33 @@ protected:
     int copies_ = 0;
 };
 
-#if !defined(_WIN32)
-// Each step is stopped at in a child process, which Windows does not fork.
+// A save stopped dead after `step`. A child process is killed there; Windows,
+// which does not fork, throws out of the save instead, which leaves the files
+// as a dead process would.
+struct CutOff {};
+void SaveStoppedAfter(Game& game, const std::string& step)
+{
+    stopAt = step;
+#if defined(_WIN32)
+    atStop = [](const fs::path&) { throw CutOff{}; };
+    SetCommitStepHook(StopAtStep);
+    EXPECT_THROW(SaveGame(game), CutOff);
+    SetCommitStepHook(nullptr);
+#else
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        atStop = [](const fs::path&) { std::raise(SIGKILL); };
+        SetCommitStepHook(StopAtStep);
+        SaveGame(game);
+        ::_exit(0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+#endif
+}
+
 TEST_F(PairCommit, AKilledSaveLeavesTheOldPairOrTheNewOne)
 {
     auto game = NewGame();
@@ -104,18 +129,7 @@ TEST_F(PairCommit, AKilledSaveLeavesTheOldPairOrTheNewOne)
         SCOPED_TRACE("killed after: " + step);
         auto saving = NewGame();
         const fs::path dir = ChangedCopy(*saving);
-        const pid_t child = ::fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            stopAt = step;
-            atStop = [](const fs::path&) { std::raise(SIGKILL); };
-            SetCommitStepHook(StopAtStep);
-            SaveGame(*saving);
-            ::_exit(0);
-        }
-        int status = 0;
-        ::waitpid(child, &status, 0);
-        ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+        SaveStoppedAfter(*saving, step);
 
         auto loaded = NewGame();
         SetGameDirectory(*loaded, dir.string());
@@ -129,7 +143,11 @@ TEST_F(PairCommit, AKilledSaveLeavesTheOldPairOrTheNewOne)
         const bool recorded = step == "wrote the commit record" || step.starts_with("moved ");
         EXPECT_EQ(!load.recovered.empty(), recorded) << load.recovered;
         EXPECT_EQ(saved, recorded || step.starts_with("removed"));
+#if !defined(_WIN32)
+        // What a dead process half wrote is tidied by the next load; a save
+        // that threw lives on in its process, which its own files are left to.
         EXPECT_TRUE(Strays(dir).empty()) << Strays(dir).front();
+#endif
         // The copies kept beside are a pair, of the files as they were, or absent.
         for (const char* suffix : {".bak", ".orig"}) {
             const fs::path bak = dir / (std::string("players.dat") + suffix);
@@ -141,8 +159,6 @@ TEST_F(PairCommit, AKilledSaveLeavesTheOldPairOrTheNewOne)
         }
     }
 }
-
-#endif
 
 TEST_F(PairCommit, AMoveThatFailsPutsTheOldPairBack)
 {

@@ -47,13 +47,13 @@ std::vector<Load> Loads()
          Cat(own, Terminator), 4, own},
         {"an empty file stores nothing and leaves the count", {}, 7, earlier},
         {"the count is not reset: a first number equal to it ends the load", Cat(seven, one, Terminator), 7,
-         Cat(Blanks(1, 3), kept, Blanks(5, 6), seven)},
+         Cat(Blanks(1, 3), kept, Blanks(5, 6), seven), "players.dat: 21 lines after the record that ends the file"},
         {"3, 5: gaps keep their slot and are written blank", Cat(three, five, Terminator), 5,
          Cat(Blanks(1, 2), three, kept, five)},
         {"1, 2, 5, 3: the count is the last number read, not the highest", Cat(one, two, five, three, Terminator),
-         3, Cat(one, two, three)},
+         3, Cat(one, two, three), "players.dat: player 5, numbered above the last player read"},
         {"1, 2, 2, 3: a repeated number overwrites and ends the load", Cat(one, two, again, three, Terminator), 2,
-         Cat(one, again)},
+         Cat(one, again), "players.dat: 21 lines after the record that ends the file"},
         {"'#' alone empties a name, an empty line leaves it, the last character goes whatever it is",
          Cat(Player("1", "AB", "Smith"), Player("3", "#", "#"), Player("4", "", ""), Terminator), 4,
          Cat(Player("1", "A#", "Smit#"), Blanks(2, 2), Player("3", "#", "#"),
@@ -66,17 +66,24 @@ std::vector<Load> Loads()
         // and the record's last number is read as the next record's number.
         {"a comma in a surname shifts the record and its last line ends the load",
          Cat(Edit(Player("1", "A#", "Smith, J#"), {{21, "0"}}), two, Terminator), 1,
-         Edit(Player("1", "A#", "Smit#", 9), {{5, "0"}})},
+         Edit(Player("1", "A#", "Smit#", 9), {{5, "0"}}), "players.dat: 1 line after the record that ends the file"},
     };
     for (int tail : {0, 1})
         loads.push_back({std::to_string(tail) + " empty lines after the last record", Cat(one, two, Lines(tail, "")),
                          2, Cat(one, two)});
     for (const char* end : {"", "0", " 0 "})
         loads.push_back({"a number line \"" + std::string(end) + "\" ends the load",
-                         Cat(one, Lines{end}, Lines(20, ""), two), 1, one});
+                         Cat(one, Lines{end}, Lines(20, ""), two), 1, one, "players.dat: 21 lines after the record that ends the file"});
     for (const char* number : {"-1", "2001", "40000", "abc"})
         loads.push_back({"a record numbered " + std::string(number) + " is skipped whole",
-                         Cat(one, Player(number, "X#", "Nowhere#", 700), two), 2, Cat(one, two)});
+                         Cat(one, Player(number, "X#", "Nowhere#", 700), two), 2, Cat(one, two),
+                         "players.dat: 1 record without a usable player number (record 2)" +
+                             std::string(number == std::string("2001") ? ", 1 of them numbered past 2000" : "")});
+    Lines unnumbered;
+    for (int i = 0; i < 12; ++i)
+        unnumbered = Cat(std::move(unnumbered), Player("?", "X#", "Nowhere#"));
+    loads.push_back({"a long list of what was dropped is cut", Cat(unnumbered, Terminator), 7, earlier,
+                     "players.dat: 12 records without a usable player number (record 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, ...)"});
     return loads;
 }
 
@@ -89,7 +96,9 @@ TEST(PlayersFile, LoadsAndWritesBack)
         game->Players[4].initials = "Q";
         game->Players[4].surname = "Kept";
         game->Players[4].batSkill = 99;
-        ReadPlayers(*game, Join(load.file));
+        const LoadReport report = ReadPlayers(*game, Join(load.file));
+        EXPECT_EQ(report.DroppedText(), load.dropped);
+        EXPECT_EQ(report.DroppedAny(), !load.dropped.empty());
         EXPECT_EQ(game->PlayerCount, load.count);
         const std::string written = WritePlayers(*game);
         EXPECT_EQ(written, Join(load.written, Terminator));

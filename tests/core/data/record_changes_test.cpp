@@ -98,6 +98,22 @@ TEST(RecordChanges, NamedRecordsOnlyAndTheOthersLater)
     EXPECT_EQ(b.game->Players[1].batSkill + b.game->Players[4].batSkill + b.game->Teams[1].wealth, 0);
     rest.Redo(*b.game);
     EXPECT_EQ(b.game->Teams[1].wealth, 9);
+
+    // The counts go back and forth with the records, also once steps are joined.
+    GameBuilder grown;
+    grown.Players(4);
+    grown.Team(1, "One");
+    ledger.Reset(*grown.game);
+    grown.Player(5, "New");
+    RecordChange added = ledger.TakeAllChanges(*grown.game);
+    grown.Team(2, "Two");
+    added.Absorb(ledger.TakeAllChanges(*grown.game));
+    added.Undo(*grown.game);
+    EXPECT_EQ(grown.game->PlayerCount, 4);
+    EXPECT_EQ(grown.game->TeamCount, TeamCountFor(1));
+    added.Redo(*grown.game);
+    EXPECT_EQ(grown.game->PlayerCount, 5);
+    EXPECT_EQ(grown.game->TeamCount, TeamCountFor(2));
 }
 
 }  // namespace

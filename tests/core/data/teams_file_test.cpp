@@ -51,10 +51,12 @@ std::vector<Load> Loads()
              Terminator),
          4, Cat(Teams(1), Edit(Team("Old#", "OLD#", 0, {5, 77}, "2"), {{5, "99"}, {6, "99"}}))},
         {"an empty line 10 ends the load after that record",
-         Cat(Teams(2), Edit(Team("Last#", "L#", 4), {{10, ""}}), Teams(3), Terminator), 4, Teams(2)},
+         Cat(Teams(2), Edit(Team("Last#", "L#", 4), {{10, ""}}), Teams(3), Terminator), 4, Teams(2),
+         "teams.dat: 90 lines after the record that ends the file"},
         {"an empty file", {}, 2, {}},
         {"500 teams fill the table", Cat(Teams(MaxTeams), Terminator), MaxTeams + 2, Teams(MaxTeams)},
-        {"teams beyond the 500th are not read", Cat(Teams(MaxTeams + 3), Terminator), MaxTeams + 2, Teams(MaxTeams)},
+        {"teams beyond the 500th are not read", Cat(Teams(MaxTeams + 3), Terminator), MaxTeams + 2, Teams(MaxTeams),
+         "teams.dat: 3 teams after the 500th"},
     };
     for (int tail : {0, 1})
         loads.push_back({std::to_string(tail) + " empty lines after the last team", Cat(Teams(3), Lines(tail, "")), 5,
@@ -70,7 +72,9 @@ TEST(TeamsFile, LoadsAndWritesBack)
         game->TeamCount = 9;
         game->Teams[2] = {"Old", "OLD", 9, 0, {}, 99, 99, 99};
         game->Teams[2].squad.fill(77);
-        ReadTeams(*game, Join(load.file));
+        const LoadReport report = ReadTeams(*game, Join(load.file));
+        EXPECT_EQ(report.DroppedText(), load.dropped);
+        EXPECT_EQ(report.DroppedAny(), !load.dropped.empty());
         EXPECT_EQ(game->TeamCount, load.count);
         const std::string written = WriteTeams(*game);
         EXPECT_EQ(written, Join(load.written, Terminator));

@@ -46,20 +46,21 @@ TEST_F(SquadTest, TwoTeamsStepByStep)
 }
 
 // The squads decide where a player is, never his record's teamNumber; when
-// several squads hold him, the highest team is his club.
+// several squads hold him, the highest team is his club, and Add Existing
+// takes him out of every place, two side by side included.
 TEST_F(SquadTest, APlayerInTwoSquadsBelongsToTheHighestTeam)
 {
-    b.Team(2, "Low", {5, 7, 5, 6});
+    b.Team(2, "Low", {5, 5, 7, 5, 6});
     b.Team(4, "Mid", {8});
     b.Team(6, "High", {9, 5});
-    game.Players[5].teamNumber = 4;
+    game.Players[5].teamNumber = 2;
     EXPECT_EQ(PresentClub(game, 5), 6);
     EXPECT_EQ(PresentClub(game, 30), 0);
 
-    EXPECT_EQ(DetachFromSquads(game, 5), 6);
+    EXPECT_EQ(AddToSquad(game, 4, 5), 6);
     EXPECT_THAT(Places(game.Teams[2]), ElementsAre(7, 6));
     EXPECT_THAT(Places(game.Teams[6]), ElementsAre(9));
-    EXPECT_THAT(Places(game.Teams[4]), ElementsAre(8));
+    EXPECT_THAT(Places(game.Teams[4]), ElementsAre(8, 5));
     EXPECT_EQ(game.Players[5].teamNumber, 4);
 }
 

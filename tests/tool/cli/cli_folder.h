@@ -114,11 +114,6 @@ inline ToolRun RunTool(std::initializer_list<ToolArg> toolArgs)
     return RunTool(args);
 }
 
-inline std::string FileBytes(const fs::path& path)
-{
-    return ReadWholeFile(PathText(path)).value_or("<missing>");
-}
-
 inline void WriteBytes(const fs::path& path, const std::string& bytes)
 {
     ASSERT_TRUE(ReplaceFile(PathText(path), bytes).ok()) << path;

@@ -26,20 +26,20 @@ protected:
             }
             return Join(lines);
         };
-        return GameFolder(scramble(FileBytes(game / "players.dat"), 21, {0, 1}),
-                          scramble(FileBytes(game / "teams.dat"), 30, {0, 7, 8, 9}));
+        return GameFolder(scramble(Bytes(game / "players.dat"), 21, {0, 1}),
+                          scramble(Bytes(game / "teams.dat"), 30, {0, 7, 8, 9}));
     }
 
     // Imports the export of `game` into a scrambled copy of it, which must come out byte for byte the same.
     void ExpectRoundTrip(const fs::path& game, const fs::path& csv)
     {
         const fs::path into = ScrambledCopy(game);
-        const std::string scrambled = FileBytes(into / "players.dat");
+        const std::string scrambled = Bytes(into / "players.dat");
         const ToolRun imported = RunTool({"import", into, csv});
         ASSERT_EQ(imported.code, 0) << imported.err;
-        EXPECT_EQ(FileBytes(into / "players.dat"), FileBytes(game / "players.dat"));
-        EXPECT_EQ(FileBytes(into / "teams.dat"), FileBytes(game / "teams.dat"));
-        EXPECT_EQ(FileBytes(into / "players.dat.bak"), scrambled);
+        EXPECT_EQ(Bytes(into / "players.dat"), Bytes(game / "players.dat"));
+        EXPECT_EQ(Bytes(into / "teams.dat"), Bytes(game / "teams.dat"));
+        EXPECT_EQ(Bytes(into / "players.dat.bak"), scrambled);
     }
 };
 
@@ -53,24 +53,25 @@ TEST_F(ExportImport, TheSampleAndWindowsNamesComeBackByteForByte)
     EXPECT_FALSE(fs::exists(sample / "players.dat.bak"));
     ExpectRoundTrip(sample, sampleCsv);
 
-    // é, €, the undefined 0x81, Ÿ, a double quote and a "#" inside a name, a
-    // blank at the end of a surname, no initials.
-    const Lines players = Cat(With(PlayerRecordLines(1, "Ch\xE9ron \x80", 1), InitialsLine, "\x81\x9F#"),
+    // é, a no-break space, € and †, the undefined 0x81, Ÿ, a double quote and
+    // a "#" inside a name, a blank at the end of a surname, no initials.
+    const Lines players = Cat(With(PlayerRecordLines(1, "Ch\xE9ron\xA0\x80\x86", 1), InitialsLine, "\x81\x9F#"),
                               With(PlayerRecordLines(2, "Mac\"Dee#Two ", 1), InitialsLine, "#"),
                               PlayerRecordLines(3, "O'Rourke"));
     const Lines teams = With(With(TeamRecordLines("Z\xFCrich Zebras", 1, {1, 2}), AbbreviationLine, "Z\xDF#"),
                              ReputationLine, "-7");
     const fs::path game = GameOf(players, teams);
     const fs::path csv = Export(game);
-    const std::string playersCsv = FileBytes(csv / "players.csv");
-    EXPECT_THAT(playersCsv, HasSubstr("1,\xC2\x81\xC5\xB8,Ch\xC3\xA9ron \xE2\x82\xAC,"));
+    const std::string playersCsv = Bytes(csv / "players.csv");
+    EXPECT_THAT(playersCsv, HasSubstr("1,\xC2\x81\xC5\xB8,Ch\xC3\xA9ron\xC2\xA0\xE2\x82\xAC\xE2\x80\xA0,"));
     EXPECT_THAT(playersCsv, HasSubstr("2,,\"Mac\"\"Dee#Two \","));
-    EXPECT_THAT(FileBytes(csv / "teams.csv"), HasSubstr("1,Z\xC3\xBCrich Zebras,Z\xC3\x9F,2,England,-7,"));
+    EXPECT_THAT(Bytes(csv / "teams.csv"), HasSubstr("1,Z\xC3\xBCrich Zebras,Z\xC3\x9F,2,England,-7,"));
     ExpectRoundTrip(game, csv);
 }
 
 // Columns of players.csv and teams.csv.
 constexpr int SurnameColumn = 2;
+constexpr int HomeCountryNameColumn = 7;
 constexpr int BatSkillColumn = 13;
 constexpr int ReputationColumn = 5;
 constexpr int Squad1Column = 8;
@@ -100,8 +101,8 @@ protected:
     {
         game_ = GameOf(Players({1, 1, 0}), Cat(TeamRecordLines("Ashby", 1, {1, 2}), TeamRecordLines("Bexley", 2)));
         csv_ = Export(game_);
-        exported_ = {SplitLines(FileBytes(csv_ / "players.csv")), SplitLines(FileBytes(csv_ / "teams.csv"))};
-        dat_ = {FileBytes(game_ / "players.dat"), FileBytes(game_ / "teams.dat")};
+        exported_ = {SplitLines(Bytes(csv_ / "players.csv")), SplitLines(Bytes(csv_ / "teams.csv"))};
+        dat_ = {Bytes(game_ / "players.dat"), Bytes(game_ / "teams.dat")};
     }
 
     // Imports the exported rows once `edit` has changed them.
@@ -116,8 +117,8 @@ protected:
 
     void ExpectGameUntouched() const
     {
-        EXPECT_EQ(FileBytes(game_ / "players.dat"), dat_.first);
-        EXPECT_EQ(FileBytes(game_ / "teams.dat"), dat_.second);
+        EXPECT_EQ(Bytes(game_ / "players.dat"), dat_.first);
+        EXPECT_EQ(Bytes(game_ / "teams.dat"), dat_.second);
         EXPECT_FALSE(fs::exists(game_ / "players.dat.bak"));
     }
 
@@ -140,6 +141,13 @@ TEST_F(Import, AnyWrongRowRefusesTheWholeImportAndIsListedByItsLine)
          {"players.csv:3"}, "batSkill \"40000\""},
         {[](Lines& p, Lines&) { Set(p[1], BatSkillColumn, "+-5"); }, {"players.csv:2"}, "batSkill \"+-5\""},
         {[](Lines& p, Lines&) { Set(p[1], SurnameColumn, "Tab\tHere"); }, {"players.csv:2"}, "control character"},
+        // "A" written in two bytes, which UTF-8 forbids.
+        {[](Lines& p, Lines&) { Set(p[1], SurnameColumn, "\xC1\x81rlow"); }, {"players.csv:2"}, "is not UTF-8 text"},
+        {[](Lines& p, Lines&) { Set(p[2], SurnameColumn, "\"Ar\"low"); }, {"players.csv:3"},
+         "text after the closing double quote"},
+        // The word changed without its number: player 1 stays English.
+        {[](Lines& p, Lines&) { Set(p[1], HomeCountryNameColumn, "Australia"); }, {"players.csv:2"},
+         "homeCountryName \"Australia\" does not match homeCountry 2 (England)"},
         {[](Lines& p, Lines& t) {
              AddRow(p, 3, "7");  // skips number 4
              AddRow(p, 3, "2001");
@@ -176,14 +184,18 @@ TEST_F(Import, AnyWrongRowRefusesTheWholeImportAndIsListedByItsLine)
 
 TEST_F(Import, NewPlayersTakeTheNextNumbersAndFollowTheirSquads)
 {
-    const ToolRun run = ImportEdited([](Lines& p, Lines& t) {
+    const Edit edit = [](Lines& p, Lines& t) {
         Set(AddRow(p, 3, ""), SurnameColumn, "Dunmore");
         Set(AddRow(p, 3, "5"), SurnameColumn, "Elkin");
         // Team 1 goes from 1, 2 to 1, 4; team 2 from nobody to 3, 2.
         Set(t[1], Squad1Column + 1, "4");
         Set(t[2], Squad1Column, "3");
         Set(t[2], Squad1Column + 1, "2");
-    });
+    };
+    const ToolRun dry = ImportEdited(edit, "--dry-run");
+    EXPECT_THAT(dry.out, HasSubstr("player 4 (R J Dunmore) added\n"));
+    ExpectGameUntouched();
+    const ToolRun run = ImportEdited(edit);
     ASSERT_EQ(run.code, 0) << run.err;
     for (const char* line : {"player 4 (R J Dunmore) added\n", "player 5 (R J Elkin) added\n",
                              "player 2 (R J Brenick): teamNumber 1 -> 2\n",
@@ -191,7 +203,7 @@ TEST_F(Import, NewPlayersTakeTheNextNumbersAndFollowTheirSquads)
                              "player 3 (R J Corvane): teamNumber 0 -> 2\n",
                              "player 4 (R J Dunmore) joined team 1 (Ashby)\n"})
         EXPECT_THAT(run.out, HasSubstr(line));
-    EXPECT_EQ(FileBytes(game_ / "teams.dat.bak"), dat_.second);
+    EXPECT_EQ(Bytes(game_ / "teams.dat.bak"), dat_.second);
     EXPECT_EQ(RunTool({"check", game_}).out, "0 errors, 0 warnings\n");
     EXPECT_THAT(RunTool({"info", game_}).out, HasSubstr("PlayerCount=5\nTeamCount=4\n"));
 }

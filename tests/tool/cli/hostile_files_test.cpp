@@ -47,7 +47,7 @@ TEST_F(HostileFiles, AreRefusedWithTheirReasonByEveryCommandAndNothingChanges)
         SCOPED_TRACE(c.what);
         const fs::path dir = SampleCopy();
         c.spoil(dir);
-        const std::string players = fs::is_regular_file(dir / "players.dat") ? FileBytes(dir / "players.dat") : "";
+        const std::string players = fs::is_regular_file(dir / "players.dat") ? Bytes(dir / "players.dat") : "";
         const fs::path out = NewFolder("out");
         for (const std::vector<ToolArg>& args : std::vector<std::vector<ToolArg>>{
                  {"info", dir}, {"check", dir}, {"normalize", dir}, {"export", dir, out}, {"import", dir, csv},
@@ -61,7 +61,7 @@ TEST_F(HostileFiles, AreRefusedWithTheirReasonByEveryCommandAndNothingChanges)
             EXPECT_THAT(run.err, HasSubstr(c.says));
         }
         if (!players.empty()) {
-            EXPECT_EQ(FileBytes(dir / "players.dat"), players);
+            EXPECT_EQ(Bytes(dir / "players.dat"), players);
         }
         EXPECT_FALSE(fs::exists(dir / "players.dat.bak"));
         EXPECT_TRUE(fs::is_empty(out));
@@ -75,11 +75,11 @@ TEST_F(HostileFiles, AnUnreadableCsvStopsTheImport)
     ASSERT_EQ(RunTool({"export", game, csv}).code, 0);
     fs::remove(csv / "players.csv");
     fs::create_directory(csv / "players.csv");
-    const std::string teams = FileBytes(game / "teams.dat");
+    const std::string teams = Bytes(game / "teams.dat");
     const ToolRun run = RunTool({"import", game, csv});
     EXPECT_EQ(run.code, 2);
     EXPECT_THAT(run.err, HasSubstr("players.csv (it is a folder, not a file); nothing was changed"));
-    EXPECT_EQ(FileBytes(game / "teams.dat"), teams);
+    EXPECT_EQ(Bytes(game / "teams.dat"), teams);
 }
 
 TEST_F(HostileFiles, WhatTheLoadCouldNotKeepIsSavedAwayOnlyWhenForced)
@@ -88,20 +88,24 @@ TEST_F(HostileFiles, WhatTheLoadCouldNotKeepIsSavedAwayOnlyWhenForced)
     for (int i = 1; i <= 501; ++i)
         teams = Cat(std::move(teams), TeamRecordLines("Side", i));
     const fs::path dir = GameOf(PlayerRecordLines(1), teams);
-    const std::string original = FileBytes(dir / "teams.dat");
+    const std::string original = Bytes(dir / "teams.dat");
+    const fs::path csv = Export(dir);
+    std::string rows = Bytes(csv / "players.csv");
+    WriteBytes(csv / "players.csv", rows.replace(rows.find("Mardle"), 6, "Marble"));
+    EXPECT_EQ(RunTool({"import", dir, csv}).code, 1);
 
     const ToolRun refused = RunTool({"normalize", dir});
     EXPECT_EQ(refused.code, 1);
     EXPECT_THAT(refused.err, HasSubstr("teams.dat: 1 team after the 500th"));
-    EXPECT_EQ(FileBytes(dir / "teams.dat"), original);
+    EXPECT_EQ(Bytes(dir / "teams.dat"), original);
 
     const ToolRun forced = RunTool({"normalize", "--force", dir});
     EXPECT_EQ(forced.code, 0) << forced.err;
-    EXPECT_EQ(FileBytes(dir / "teams.dat.orig"), original);
-    EXPECT_NE(FileBytes(dir / "teams.dat"), original);
+    EXPECT_EQ(Bytes(dir / "teams.dat.orig"), original);
+    EXPECT_NE(Bytes(dir / "teams.dat"), original);
     // The first original stays however often the folder is saved again.
     EXPECT_EQ(RunTool({"normalize", dir}).code, 0);
-    EXPECT_EQ(FileBytes(dir / "teams.dat.orig"), original);
+    EXPECT_EQ(Bytes(dir / "teams.dat.orig"), original);
     EXPECT_EQ(RunTool({"diff", "--orig", dir}).code, 0);  // team 501 had no slot: the tables agree
     EXPECT_EQ(RunTool({"diff", "--orig", dir, dir}).code, 2);
 }
@@ -112,14 +116,14 @@ TEST_F(HostileFiles, ALinkedGameFileStaysALinkAndItsTargetIsSaved)
     const fs::path elsewhere = NewFolder("elsewhere");
     fs::rename(dir / "teams.dat", elsewhere / "teams.dat");
     fs::create_symlink(elsewhere / "teams.dat", dir / "teams.dat");
-    const std::string before = FileBytes(elsewhere / "teams.dat");
+    const std::string before = Bytes(elsewhere / "teams.dat");
     WriteBytes(elsewhere / "teams.dat", before + "\r\n");  // one more empty line, gone after a save
 
     const ToolRun run = RunTool({"normalize", dir});
     EXPECT_EQ(run.code, 0) << run.err;
     EXPECT_TRUE(fs::is_symlink(dir / "teams.dat"));
-    EXPECT_EQ(FileBytes(elsewhere / "teams.dat"), before);
-    EXPECT_EQ(FileBytes(dir / "teams.dat.bak"), before + "\r\n");
+    EXPECT_EQ(Bytes(elsewhere / "teams.dat"), before);
+    EXPECT_EQ(Bytes(dir / "teams.dat.bak"), before + "\r\n");
 }
 
 

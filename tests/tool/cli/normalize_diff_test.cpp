@@ -28,19 +28,26 @@ TEST_F(Normalize, WritesWhatTheEditorsSaveWritesAndNeverHalfAGame)
     const ToolRun run = RunTool({"normalize", game});
     EXPECT_EQ(run.code, 0) << run.err;
     const Lines blankPlayer2 = Cat(Lines{"2", "#", "#", "#"}, Lines(17, "0"));
-    EXPECT_EQ(FileBytes(game / "players.dat"),
+    EXPECT_EQ(Bytes(game / "players.dat"),
               PlayersBytes(Cat(With(PlayerRecordLines(1, "Mardle "), BatSkillLine, "30"), blankPlayer2,
                                PlayerRecordLines(3, "Corvane"))));
-    EXPECT_EQ(FileBytes(game / "teams.dat"), TeamsBytes(TeamRecordLines("Ashby ", 1, {0, 1})));
-    EXPECT_EQ(FileBytes(game / "players.dat.bak"), players);
-    EXPECT_EQ(FileBytes(game / "teams.dat.bak"), teams);
+    EXPECT_EQ(Bytes(game / "teams.dat"), TeamsBytes(TeamRecordLines("Ashby ", 1, {0, 1})));
+    EXPECT_EQ(Bytes(game / "players.dat.bak"), players);
+    EXPECT_EQ(Bytes(game / "teams.dat.bak"), teams);
+
+    // A name the files cannot carry is refused before anything is written.
+    const fs::path tab = GameOf(PlayerRecordLines(1, "Mar\tdle"), TeamRecordLines("Ashby", 1));
+    const ToolRun refused = RunTool({"normalize", tab});
+    EXPECT_EQ(refused.code, 1);
+    EXPECT_THAT(refused.err, HasSubstr("players.dat: "));
+    EXPECT_FALSE(fs::exists(tab / "players.dat.bak"));
 
     // A folder with only players.dat is read but never written.
     const fs::path half = NewFolder("half");
     WriteBytes(half / "players.dat", players);
     EXPECT_EQ(RunTool({"check", half}).code, 2);
     EXPECT_EQ(RunTool({"normalize", half}).code, 2);
-    EXPECT_EQ(FileBytes(half / "players.dat"), players);
+    EXPECT_EQ(Bytes(half / "players.dat"), players);
     EXPECT_EQ(std::distance(fs::directory_iterator(half), {}), 1);  // no teams.dat, no backup
 }
 
@@ -51,7 +58,7 @@ TEST_F(Normalize, ImportAndNormalizeSayWhenAnEditorHasTheFolderOpen)
         SCOPED_TRACE(editorOpen ? "an editor has the folder open" : "no editor");
         const fs::path game = SampleCopy();
         const fs::path csv = Export(game);
-        std::string players = FileBytes(csv / "players.csv");
+        std::string players = Bytes(csv / "players.csv");
         players.replace(players.find("Neskerly"), 8, "Neskerley");
         WriteBytes(csv / "players.csv", players);
         std::optional<FolderPresence> editor;
@@ -105,7 +112,7 @@ TEST_F(Diff, OneFolderIsComparedWithItsBackups)
     EXPECT_THAT(noBackups.err, HasSubstr("players.dat.bak"));
 
     const fs::path csv = Export(game);
-    std::string players = FileBytes(csv / "players.csv");
+    std::string players = Bytes(csv / "players.csv");
     players.replace(players.find(",Travwick,"), 10, ",Travers,");
     WriteBytes(csv / "players.csv", players);
     ASSERT_EQ(RunTool({"import", game, csv}).code, 0);

@@ -1,6 +1,14 @@
+// The lists and drop-downs the windows are built from: a pick is told once
+// for each key or click, and the wheel passes over a drop-down that is not
+// being worked.
 #include "forms/choice_list.h"
+#include "forms/drop_down.h"
+#include "forms/text_box.h"
 
+#include <QApplication>
 #include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -19,6 +27,40 @@ struct Picks {
         });
     }
 };
+
+// One notch of the wheel, down, over the middle of `control`; whether the
+// control took it.
+bool WheelDown(QWidget& control)
+{
+    const QPointF middle = QRectF(control.rect()).center();
+    QWheelEvent wheel(middle, control.mapToGlobal(middle), QPoint(), QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&control, &wheel);
+    return wheel.isAccepted();
+}
+
+TEST(WheelGuard, TheWheelChangesAComboOnlyWhileItHasTheFocus)
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    QComboBox* guarded = NewDropDown(nullptr);
+    auto* other = new TextBox;
+    layout->addWidget(guarded);
+    layout->addWidget(other);
+    guarded->addItems({"Opener", "Top order", "Middle order"});
+    guarded->setCurrentIndex(0);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+
+    other->setFocus();
+    EXPECT_FALSE(WheelDown(*guarded));
+    EXPECT_EQ(guarded->currentIndex(), 0);
+    EXPECT_EQ(QApplication::focusWidget(), other);   // the wheel took no focus either
+
+    guarded->setFocus();
+    EXPECT_TRUE(WheelDown(*guarded));
+    EXPECT_EQ(guarded->currentIndex(), 1);
+}
 
 }  // namespace
 

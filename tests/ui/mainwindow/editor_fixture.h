@@ -48,7 +48,7 @@ protected:
 
     QString GameFolder() const { return QtPath(scratch_ / "game"); }
 
-    // Types into a box as a person would, after clearing it with the keys.
+    // Types into a box as a person would, over its whole text chosen with the keys.
     void Retype(const char* box, const QString& text);
     QString BoxText(const char* box) const { return Find<TextBox>(*main, box).text(); }
 

@@ -24,6 +24,14 @@ using ::testing::IsEmpty;
 
 namespace {
 
+std::vector<QString> Texts(const QTreeWidgetItem& parent)
+{
+    std::vector<QString> texts;
+    for (int row = 0; row < parent.childCount(); ++row)
+        texts.push_back(parent.child(row)->text(0));
+    return texts;
+}
+
 void DoubleClick(QAbstractItemView& view, const QRect& at)
 {
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, at.center());
@@ -102,8 +110,9 @@ TEST_F(GameToolsTest, FindPlayerGoesToHisCountryTeamAndRow)
     find("6");
     EXPECT_THAT(Place(), ElementsAre("West Indies and Mics.", "Kingston Kites", "W Calloway", "Calloway"));
 
-    // A player without a club: no team chosen, an empty squad list, and he is
-    // the one the boxes show and edit.
+    // A player without a club: no team chosen, an empty squad list, no team
+    // in the team's boxes, and he is the one the boxes show and edit.
+    const TeamRecord kites = game->Teams[3];
     find("brinkw");
     EXPECT_EQ(main->CurrentPlayer(), 7);
     EXPECT_EQ(main->CurrentTeam(), std::nullopt);
@@ -111,7 +120,13 @@ TEST_F(GameToolsTest, FindPlayerGoesToHisCountryTeamAndRow)
     EXPECT_EQ(BoxText("surname"), "Brinkwell");
     Retype("surname", "Brinkworth");
     EXPECT_EQ(game->Players[7].surname, "Brinkworth");
-    EXPECT_EQ(game->Teams[3].teamName, "Kingston Kites") << "the team shown before keeps its values";
+    EXPECT_EQ(TeamNumber(), "");
+    for (const char* box : {"team.teamName", "team.wealth"}) {
+        EXPECT_EQ(BoxText(box), "") << box;
+        EXPECT_FALSE(Find<TextBox>(*main, box).isEnabled()) << box;
+        Retype(box, "5");
+    }
+    EXPECT_EQ(game->Teams[3], kites) << "the team shown before takes no typing";
 }
 
 TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
@@ -134,12 +149,18 @@ TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
     QTest::keyClick(&table, Qt::Key_Return);  // players.dat 5: a skill out of range
     EXPECT_THAT(Place(), ElementsAre("Australia", "Bayside", "E Ellery", "Ellery"));
 
-    // Once the game is put right and saved, the bar goes.
+    // The bar follows every step, and goes once the game is put right.
+    const auto shown = [&bar](bool visible) {
+        return QTest::qWaitFor([&] { return bar.isVisible() == visible; }, 2000);
+    };
     Retype("batSkill", "50");
-    Document().Change("fix", {}, [](Game& fixed) {
-        fixed.Teams[2].squad[3] = 0;
-        fixed.Teams[3].squad[2] = 0;
-    });
+    Document().Change("fix", {}, [](Game& fixed) { fixed.Teams[2].squad[3] = 0; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.message->text().contains("1 error "); }, 2000));
+    Document().Change("fix", {}, [](Game& fixed) { fixed.Teams[3].squad[2] = 0; });
+    EXPECT_TRUE(shown(false));
+    Document().Undo();
+    EXPECT_TRUE(shown(true));
+    Document().Redo();
     Find<QAction>(*main, "saveAction").trigger();
     EXPECT_FALSE(bar.isVisible());
     Trigger("checkGameAction");
@@ -152,6 +173,8 @@ TEST_F(GameToolsTest, AGameWithoutErrorsShowsNoBar)
     EXPECT_FALSE(Find<ProblemsBar>(*main, "problemsBar").isVisible());
 }
 
+// The changes are grouped into players, teams and squad moves; a double click
+// or Enter goes to the record, a group's heading nowhere.
 TEST_F(GameToolsTest, ChangesSinceTheOriginalAndSinceTheSaveGoToTheirRecords)
 {
     Open(FromFixture("game_with_changes"));
@@ -166,14 +189,27 @@ TEST_F(GameToolsTest, ChangesSinceTheOriginalAndSinceTheSaveGoToTheirRecords)
     auto& changes = Find<ChangesWindow>(*main, "changesWindow");
     QTreeWidget& tree = *changes.changeTree;
     EXPECT_EQ(changes.summary->text(), "6 changes since the original files:");
-    ASSERT_EQ(tree.topLevelItemCount(), 3);
+    EXPECT_THAT(Texts(*tree.invisibleRootItem()), ElementsAre("Players (3)", "Teams (1)", "Squad moves (2)"));
+    EXPECT_THAT(Texts(*tree.topLevelItem(0)),
+                ElementsAre("player 3 (C Carvery): surname \"Carver\" -> \"Carvery\"",
+                            "player 4 (D Dunmore): teamNumber 2 -> 1", "player 6 (F Fairweather): teamNumber 3 -> 0"));
+    EXPECT_THAT(Texts(*tree.topLevelItem(2)),
+                ElementsAre("player 4 (D Dunmore) moved from team 2 (Bayside) to team 1 (Harbour CC)",
+                            "player 6 (F Fairweather) left team 3 (Kentish Town)"));
     DoubleClick(tree, tree.visualItemRect(tree.topLevelItem(1)->child(0)));  // Bayside's wealth
     EXPECT_EQ(main->CurrentTeam(), 2);
-    DoubleClick(tree, tree.visualItemRect(tree.topLevelItem(2)->child(0)));  // Dunmore moved
+    tree.setFocus();
+    QTest::keyClick(&tree, Qt::Key_Down);
+    QTest::keyClick(&tree, Qt::Key_Return);  // the squad moves' heading
+    EXPECT_EQ(main->CurrentTeam(), 2);
+    QTest::keyClick(&tree, Qt::Key_Down);
+    QTest::keyClick(&tree, Qt::Key_Return);  // Dunmore moved
     EXPECT_THAT(Place(), ElementsAre("Australia", "Harbour CC", "D Dunmore", "Dunmore"));
+    EXPECT_TRUE(changes.isVisible());
 
     Trigger("changesSinceSaveAction");
     EXPECT_EQ(changes.summary->text(), "Nothing has changed since the last save.");
+    EXPECT_EQ(tree.topLevelItemCount(), 0);
     Retype("batSkill", "41");
     Trigger("changesSinceSaveAction");
     ASSERT_EQ(tree.topLevelItemCount(), 1);
@@ -201,8 +237,6 @@ TEST_F(GameToolsTest, AFaultyImportChangesNothingAndAGoodOneChangesOnlyTheOpenGa
     Trigger("importCsvAction");
     EXPECT_EQ(game->Players[5].surname, "Ellerby");
     EXPECT_EQ(game->Teams[3].wealth, 99);
-    // Nothing in the window writes the old values back.
-    EXPECT_EQ(game->Players[5].surname, "Ellerby");
     EXPECT_EQ(ReadGameFiles(ToSystemPath(GameFolder()))->Players[5].surname, "Ellery") << "nothing is saved";
 
     // The whole import is one step of the history.

@@ -1,19 +1,21 @@
-// Saving with the shortcut, leaving with and without saving, and a save that
-// the disk refuses.
+// Saving with the shortcut from any control, a save that the disk refuses,
+// also on the way out, and files another program saved meanwhile.
 
 #include <QDir>
 #include <QFile>
 
 #include "data/file_io.h"
+#include "data/load_game.h"
 #include "data/players_file.h"
+#include "data/save.h"
 #include "data/teams_file.h"
 #include "editor_fixture.h"
+#include "mainwindow/changed_files_bar.h"
 #include "options/options_window.h"
 
 namespace {
 
 const QString Saved = QStringLiteral("Updated Player and Team data successfully");
-const QString SaveQuestion = QStringLiteral("Do you want to update the files teams.dat and players.dat?");
 
 std::vector<QString> MessageTexts()
 {
@@ -52,6 +54,18 @@ protected:
                read->Teams[1].teamName == "Perth Pelicans XI";
     }
 
+    // Another program saves the game, as kolta-data import does, with Perth's
+    // wealth at `wealth`; what the files hold then.
+    std::string SaveAsAnotherProgram(std::int16_t wealth) const
+    {
+        auto theirs = std::make_unique<Game>();
+        SetGameDirectory(*theirs, ToSystemPath(GameFolder()));
+        LoadGame(*theirs);
+        theirs->Teams[1].wealth = wealth;
+        EXPECT_TRUE(SaveGame(*theirs).ok());
+        return Files();
+    }
+
     std::string filesBefore_;
 };
 
@@ -76,29 +90,6 @@ TEST_F(Saving, CtrlSSavesWhicheverControlHasTheFocus)
     EXPECT_EQ(BoxText("batSkill"), "58");   // nothing in the window moved
 }
 
-// The answer to the question on leaving, whether the window closes and whether it saves.
-class ExitAnswer : public Saving,
-                   public ::testing::WithParamInterface<std::tuple<QMessageBox::StandardButton, bool, bool>> {};
-
-TEST_P(ExitAnswer, DoesWhatItSays)
-{
-    const auto [answer, closes, saves] = GetParam();
-    Answer({answer, QMessageBox::Ok});
-    Find<QAction>(*main, "exitAction").trigger();
-    ASSERT_EQ(ShownMessages().size(), saves ? 2u : 1u);
-    EXPECT_EQ(ShownMessages()[0].text, SaveQuestion);
-    EXPECT_EQ(ShownMessages()[0].title, "Saving..");
-    EXPECT_EQ(Look(ShownMessages()[0]),
-              Look(QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel));
-    EXPECT_EQ(main->isVisible(), !closes);
-    EXPECT_TRUE(saves ? EditsSaved() : FilesUnchanged());
-}
-
-INSTANTIATE_TEST_SUITE_P(Saving, ExitAnswer,
-                         ::testing::Values(std::tuple(QMessageBox::Cancel, false, false),
-                                           std::tuple(QMessageBox::No, true, false),
-                                           std::tuple(QMessageBox::Yes, true, true)));
-
 TEST_F(Saving, ASaveTheDiskRefusesIsToldAndExitStaysOpen)
 {
     const QString teams = GameFolder() + "/teams.dat";
@@ -121,6 +112,56 @@ TEST_F(Saving, ASaveTheDiskRefusesIsToldAndExitStaysOpen)
     EXPECT_EQ(Look(ShownMessages()[1]), Look(QMessageBox::Critical));
     EXPECT_TRUE(main->isVisible());
     QFile::setPermissions(teams, QFile::ReadOwner | QFile::WriteOwner);
+}
+
+// The bar tells of another program's save, never of the editor's own; a save
+// over it asks, and its default, Cancel, leaves both sides as they are.
+TEST_F(Saving, AnotherProgramsSaveIsToldAndASaveOverItAsksFirst)
+{
+    auto& bar = Find<ChangedFilesBar>(*main, "changedFilesBar");
+    Find<QAction>(*main, "saveAction").trigger();
+    QTest::qWait(500);   // the watch has looked at the files by now
+    EXPECT_FALSE(bar.isVisible());
+    SaveAsAnotherProgram(1000);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.isVisible(); }, 2000));
+    QTest::mouseClick(bar.keepMineButton, Qt::LeftButton);
+    EXPECT_FALSE(bar.isVisible());
+
+    const struct {
+        const char* what;
+        std::vector<QMessageBox::StandardButton> answers;   // to the save, then to the reload
+        bool savesMine;
+        bool reloads;
+    } cases[] = {
+        {"Cancel", {QMessageBox::Cancel}, false, false},
+        {"reload, then not", {QMessageBox::Discard, QMessageBox::Cancel}, false, false},
+        {"reload", {QMessageBox::Discard, QMessageBox::Yes}, false, true},
+        {"save mine over theirs", {QMessageBox::Save, QMessageBox::Ok}, true, false},
+    };
+    std::int16_t wealth = 1000;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        Retype("batSkill", "59");
+        const std::int16_t mine = game->Teams[1].wealth;
+        const std::string theirs = SaveAsAnotherProgram(++wealth);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return bar.isVisible(); }, 2000));
+        ClearShownMessages();
+        Answer(c.answers);
+        QTest::keyClick(main, Qt::Key_S, Qt::ControlModifier);
+        ASSERT_FALSE(ShownMessages().empty());
+        EXPECT_EQ(ShownMessages()[0].defaultButton, QMessageBox::Cancel);
+        EXPECT_EQ(Files() == theirs, !c.savesMine);
+        EXPECT_EQ(game->Teams[1].wealth, c.reloads ? wealth : mine);
+        EXPECT_EQ(game->Players[1].batSkill, c.reloads ? 58 : 59);
+        EXPECT_EQ(Document().IsModified(), !c.reloads && !c.savesMine);
+        EXPECT_EQ(bar.isVisible(), !c.reloads && !c.savesMine);
+        if (c.savesMine) {
+            EXPECT_EQ(ReadWholeFile(ToSystemPath(GameFolder() + "/teams.dat.prev")),
+                      theirs.substr(theirs.find('|') + 1));
+            EXPECT_TRUE(ShownMessages().back().text.contains("players.dat.prev and teams.dat.prev"));
+        }
+        EXPECT_TRUE(main->isVisible());
+    }
 }
 
 }  // namespace

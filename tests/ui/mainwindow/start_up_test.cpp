@@ -55,7 +55,7 @@ TEST_F(StartUp, AFirstCountryWithoutTeamsLeavesNoCurrentTeam)
     Open(std::move(b));
     EXPECT_EQ(Combo("teamList").count(), 0);
     EXPECT_EQ(Squad().count(), 0);
-    EXPECT_EQ(TeamNumber(), "123");
+    EXPECT_EQ(TeamNumber(), "");
     EXPECT_EQ(main->CurrentPlayer(), std::nullopt);
     Retype("team.teamName", "Renamed");
     EXPECT_EQ(game->Teams[123].teamName, "Club 123");

@@ -1,21 +1,23 @@
 // What is typed into a box goes into the current player's or team's record.
 
 #include "editor_fixture.h"
+#include <QStatusBar>
+
 #include "forms/beep.h"
 
 namespace {
 
 using Typing = EditorTest;
 
-TEST_F(Typing, ANumberReachesTheRecordAndAnythingElseLeavesTheLastGoodValue)
+TEST_F(Typing, AWholeNumberReachesTheRecordAndAnythingElseLeavesTheValueTheBoxWasEnteredWith)
 {
     Open();
     const int beeps = BeepCount();
     // Each text in turn, typed afresh after leaving the box, with the value
-    // the field holds then.
+    // the field holds then: a number it cannot hold as typed is none.
     const std::vector<std::pair<QString, int>> cases{
-        {"44", 44}, {" -7 ", -7}, {"13.5", 14}, {"1e2", 100}, {"abc", 100}, {"32768", 100},
-        {"1,000", 100}, {"-32768", -32768}, {"5", 5}, {"", 5}, {" ", 5},
+        {"44", 44}, {" -7 ", -7}, {"13.5", -7}, {"1e2", -7}, {"abc", -7}, {"32768", -7},
+        {"1,000", -7}, {"-32768", -32768}, {"5", 5}, {"", 5}, {" ", 5},
     };
     for (const auto& [text, value] : cases) {
         Retype("batSkill", text);
@@ -49,15 +51,38 @@ TEST_F(Typing, ANewNameShowsInTheSquadListAndKeepsThePlayer)
     EXPECT_EQ(Squad().ChosenRow(), 1);
 }
 
-TEST_F(Typing, NameBoxesRefuseWhatTheFilesCannotCarry)
+// A refused key says why in the status bar, and the keys after it leave the
+// word there; only the surname refuses to become empty, as the search lists
+// players by it.
+TEST_F(Typing, NameBoxesRefuseWhatTheFilesCannotCarryAndSayWhy)
 {
     Open();
+    const QStatusBar& status = *main->statusBar();
     for (const char* box : {"initials", "surname", "team.teamName", "team.abbreviation"}) {
+        TextBox& edit = Find<TextBox>(*main, box);
         const int beeps = BeepCount();
-        Retype(box, "\"O,Neil\"s");   // a quote inside a name is fine
-        EXPECT_EQ(BoxText(box), "ONeil\"s") << box;
-        EXPECT_EQ(BeepCount(), beeps + 2);
+        Retype(box, "O");
+        QTest::keyClicks(&edit, ",Neil\"s");   // a quote inside a name is fine
+        EXPECT_EQ(status.currentMessage(), "A name cannot hold a comma") << box;
+        QTest::keyClick(&edit, Qt::Key_Home);
+        QTest::keyClicks(&edit, "\"");
+        EXPECT_EQ(status.currentMessage(), "A name cannot begin with a double quote") << box;
+        QTest::keyClicks(&edit, " ");
+        EXPECT_EQ(status.currentMessage(), "A name cannot begin with a blank") << box;
+        EXPECT_EQ(edit.text(), "ONeil\"s") << box;
+        EXPECT_EQ(BeepCount(), beeps + 3) << box;
     }
+    TextBox& surname = Find<TextBox>(*main, "surname");
+    surname.setFocus();
+    surname.end(false);
+    for (int key = 0; key < 7; ++key)
+        QTest::keyClick(&surname, Qt::Key_Backspace);
+    EXPECT_EQ(surname.text(), "O");
+    EXPECT_EQ(game->Players[1].surname, "O");
+    EXPECT_EQ(status.currentMessage(),
+              "A player needs a surname: type the new one before deleting the last letter");
+    Retype("initials", "");
+    EXPECT_EQ(game->Players[1].initials, "");
 }
 
 }  // namespace

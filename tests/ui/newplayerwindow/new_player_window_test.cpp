@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -71,6 +72,7 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
         QTest::keyClicks(box("initials"), "\"a.b");
         EXPECT_EQ(box("surname")->text(), "O'Neil-Smith 2nd");
         EXPECT_EQ(box("initials")->text(), "a.b");
+        EXPECT_EQ(QToolTip::text(), "A name cannot begin with a double quote") << "the refusal says why";
         EXPECT_EQ(BeepCount() - beeps, 6);
 
         Find<QPushButton>(form, "okButton").click();  // the date and most skills are still empty
@@ -82,6 +84,13 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
         for (const auto& [name, text] : typed) {
             box(name)->clear();
             QTest::keyClicks(box(name), text);
+        }
+        // A nameless player, or one born on a day that never was, is refused.
+        for (const auto& [name, bad] : {std::pair{"surname", ""}, {"initials", " "}, {"birthDay", "31"}}) {
+            const QString good = box(name)->text();
+            box(name)->setText(QString::fromLatin1(bad));
+            Find<QPushButton>(form, "okButton").click();
+            box(name)->setText(good);
         }
         Paste(skill, "-5");
         EXPECT_EQ(BeepCount() - beeps, 6);
@@ -102,11 +111,13 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
     Find<QPushButton>(main, "addNewPlayerButton").click();
     SetModalDriver({});
     SetMessageAnswerer({});
-    ASSERT_EQ(ShownMessages().size(), 2u) << "success is not announced";
+    ASSERT_EQ(ShownMessages().size(), 5u) << "success is not announced";
     // Each refusal names the first box at fault.
     const QString refusal = "Data not in correct range.Please see help for correct range of data values.\n\n";
-    EXPECT_EQ(ShownMessages()[0].text, refusal + "Date of birth is empty.");
-    EXPECT_EQ(ShownMessages()[1].text, refusal + "Bat skill must lie from 0 to 60, not -5.");
+    const char* said[] = {"Date of birth is empty.", "Player Name has no surname.", "Player Name has no initials.",
+                          "Date of birth 31/11/1982 does not exist.", "Bat skill must lie from 0 to 60, not -5."};
+    for (std::size_t i = 0; i < std::size(said); ++i)
+        EXPECT_EQ(ShownMessages()[i].text, refusal + said[i]);
     for (const ShownMessage& message : ShownMessages()) {
         EXPECT_EQ(message.title, "Error");
         EXPECT_EQ(Look(message), Look(QMessageBox::Information));

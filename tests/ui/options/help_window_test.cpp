@@ -1,9 +1,16 @@
 // The Help window's table of ranges: what it has always said, that each row is
 // a ranged field of the game's field table, and that a new player's OK takes
-// exactly the range the row shows.
+// exactly the range the row shows. The guides list the menus' commands.
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QRegularExpression>
 #include <algorithm>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,8 +19,10 @@
 #include <gtest/gtest.h>
 
 #include "data/fields.h"
+#include "editor/editor.h"
 #include "newplayer/new_player_check.h"
 #include "options/help_window.h"
+#include "support/game_builder.h"
 
 using ::testing::ElementsAre;
 using ::testing::Pair;
@@ -71,6 +80,57 @@ TEST(HelpWindow, ShowsTheRangesOfTheFieldTableThatTheNewPlayerChecksHoldTo)
         }
     }
     EXPECT_EQ(row, rows.size());
+}
+
+// Every command of the window's menus, as the guides name it: "File > Exit".
+std::set<QString> MenuCommands(const QMainWindow& window)
+{
+    const auto plain = [](QString text) { return text.replace("&&", "\x01").remove('&').replace('\x01', '&'); };
+    std::set<QString> commands;
+    for (const QAction* menu : window.menuBar()->actions()) {
+        for (const QAction* action : menu->menu()->actions()) {
+            if (!action->isSeparator())
+                commands.insert(plain(menu->text()) + " > " + plain(action->text()));
+        }
+    }
+    return commands;
+}
+
+std::set<QString> Captured(const QString& text, const QRegularExpression& pattern)
+{
+    std::set<QString> found;
+    for (auto match = pattern.globalMatch(text); match.hasNext();)
+        found.insert(match.next().captured(1));
+    return found;
+}
+
+QString Shipped(const char* name)
+{
+    QFile file(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(QString::fromLatin1(name)));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+    return QString::fromUtf8(file.readAll());
+}
+
+// A command added to a menu without a word in the guides fails here, and so
+// does a guide that names a command the menus no longer have.
+TEST(Guides, ListEveryMenuCommandAndNoOther)
+{
+    GameBuilder b;
+    b.Player(1, "Oakes");
+    Editor editor{SettingPlaces{}, std::move(b.game)};
+    const std::set<QString> commands = MenuCommands(editor.Window());
+    ASSERT_GE(commands.size(), 10u);
+
+    // help.txt: each line of its last section, Menus, opens with a command.
+    const QString help = Shipped("help.txt");
+    const QString menus = help.mid(help.indexOf("\nMenus\n-----\n"));
+    EXPECT_EQ(Captured(menus, QRegularExpression("^(\\S+ > .+?)(?:  |\r?$)", QRegularExpression::MultilineOption)),
+              commands);
+    // guide.html: the first cell of each row of its table of menus.
+    QString guide = Shipped("guide.html");
+    guide = guide.mid(guide.indexOf("<table id=\"menus\">"));
+    guide = guide.left(guide.indexOf("</table>")).replace("&gt;", ">").replace("&amp;", "&");
+    EXPECT_EQ(Captured(guide, QRegularExpression("<tr><td>([^<]+)</td>")), commands);
 }
 
 }  // namespace

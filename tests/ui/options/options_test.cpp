@@ -108,13 +108,9 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
             QTest::mouseClick(&Find<QPushButton>(options, "firstStartOkButton"), Qt::LeftButton);
         });
         ASSERT_EQ(editor.Start(), good);
-        if (good) {
+        if (good) {  // what the window then shows is the start-up's test
             EXPECT_EQ(Setting(), full);
             EXPECT_EQ(ShownTitle(main), "KOLTA editor (" + QDir::toNativeSeparators(full) + ")");
-            EXPECT_EQ(Rows(Find<QComboBox>(main, "teamList")),
-                      (std::vector<QString>{"Sydney Sixes", "Perth Pies", "Hobart Hurricanes"}));
-            const auto& squad = Find<ChoiceList>(main, "squadList");
-            EXPECT_EQ(squad.item(squad.ChosenRow())->text(), "A Smith");
             EXPECT_TRUE(ShownMessages().empty());
             continue;
         }

@@ -1,0 +1,306 @@
+// The players and teams tables over a document: they show its records and
+// follow its steps, sort stably, refuse a filter they cannot read, and take
+// each bulk edit whole, as one step, or not at all.
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTableView>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "csv/csv_export.h"
+#include "data/file_io.h"
+#include "forms/box_marks.h"
+#include "forms/modal.h"
+#include "support/game_builder.h"
+#include "support/qt_path.h"
+#include "support/scratch_folder.h"
+#include "tables/choice_dialog.h"
+#include "tables/record_table_model.h"
+#include "tables/table_window.h"
+
+using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
+using ::testing::HasSubstr;
+
+namespace {
+
+const PlayerField& Surname = PlayerFields[1];
+
+// Six named players and nineteen fillers. Perth Pelicans hold 1 and 2,
+// Darwin 3 and 6, Ashby the fillers 7 to 25 (room for one more); 4 and 5
+// have no club.
+std::unique_ptr<Game> TableGame()
+{
+    GameBuilder b;
+    const struct {
+        const char* surname;
+        int batSkill, bowlType, potential;
+    } players[] = {{"Smith", 45, 7, 10}, {"Smithers", 30, 1, 12}, {"Jones", 50, 7, 10},
+                   {"van Dyke", 60, 2, 15}, {"Ng", 12, 1, 10}, {"Ashdown", 42, 2, 12}};
+    int number = 0;
+    for (const auto& p : players) {
+        PlayerRecord& player = b.Player(++number, p.surname);
+        player.batSkill = std::int16_t(p.batSkill);
+        player.bowlType = std::int16_t(p.bowlType);
+        player.potential = std::int16_t(p.potential);
+        player.homeCountry = 1;
+    }
+    for (++number; number <= 25; ++number)
+        b.Player(number, "Filler").homeCountry = 1;
+    b.Team(1, "Perth Pelicans", {1, 2});
+    b.Team(2, "Darwin", {3, 6});
+    b.Team(3, "Ashby", PlayerRun(7, 19));
+    return std::move(b.game);
+}
+
+class TableWindowTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        // Each test starts from the tables' first layout.
+        QSettings(QSettings::IniFormat, QSettings::UserScope, "kolta-editor", "windows").clear();
+        ShowWindow(players, RecordKind::Player);
+        ShowWindow(teams, RecordKind::Team);
+    }
+    void TearDown() override { SetModalDriver({}); }
+
+    void ShowWindow(std::unique_ptr<TableWindow>& window, RecordKind kind)
+    {
+        window = std::make_unique<TableWindow>(document, kind, CalendarDay{2024, 6, 1});
+        window->setAttribute(Qt::WA_DeleteOnClose, false);
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    }
+
+    // The records in the rows, top to bottom.
+    static std::vector<int> Rows(const TableWindow& window)
+    {
+        std::vector<int> numbers;
+        for (int row = 0; row < window.model->rowCount(); ++row)
+            numbers.push_back(window.model->RecordAt(row));
+        return numbers;
+    }
+    static QString Cell(const TableWindow& window, int number, const char* column)
+    {
+        const RecordTableModel& model = *window.model;
+        for (int at = 0; at < model.columnCount(); ++at) {
+            if (model.ColumnAt(at).name == column)
+                return model.index(model.RowOf(number), at).data().toString();
+        }
+        return QStringLiteral("<no column>");
+    }
+    // Selects the rows of records `numbers`, every cell of them.
+    void Select(TableWindow& window, const std::vector<int>& numbers)
+    {
+        window.table->clearSelection();
+        for (int number : numbers)
+            window.table->selectionModel()->select(window.model->index(window.model->RowOf(number), 0),
+                                                   QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+    void SelectCells(TableWindow& window, const std::vector<int>& numbers, const std::vector<int>& columns)
+    {
+        window.table->clearSelection();
+        for (int number : numbers)
+            for (int column : columns)
+                window.table->selectionModel()->select(window.model->index(window.model->RowOf(number), column),
+                                                       QItemSelectionModel::Select);
+    }
+
+    ScratchFolder scratch;
+    GameDocument document{TableGame()};
+    const Game& game = document.Records();
+    std::unique_ptr<TableWindow> players;
+    std::unique_ptr<TableWindow> teams;
+};
+
+// What the tables show is the game, step by step: a name typed anywhere, a
+// player added, a squad changed; the windows remember their columns.
+TEST_F(TableWindowTest, ShowsTheDocumentsRecordsAndFollowsItsSteps)
+{
+    EXPECT_EQ(players->windowTitle(), "Players");
+    EXPECT_EQ(teams->windowTitle(), "Teams");
+    EXPECT_EQ(players->focusWidget(), players->filterBox);
+    EXPECT_EQ(players->countLabel->text(), "25 of 25 players");
+    EXPECT_EQ(Cell(*players, 3, "surname"), "Jones");
+    EXPECT_EQ(Cell(*players, 3, "bowlType"), QString::fromLatin1(BowlTypes.WordFor(7).value().data()));
+    EXPECT_EQ(Cell(*players, 6, "club"), "Darwin");
+    EXPECT_EQ(Cell(*players, 5, "club"), "");
+    EXPECT_EQ(Cell(*teams, 2, "squadSize"), "2");
+    EXPECT_EQ(Cell(*teams, 2, "averageBatSkill"), "46.0");
+
+    document.Type(3, Surname, std::string("Jonas"), {2, 3});
+    document.EndTyping();
+    EXPECT_EQ(Cell(*players, 3, "surname"), "Jonas");
+    document.Change(QStringLiteral("move"), {}, [](Game& g) {
+        g.Teams[2].squad[3] = 5;
+        g.Players[26].surname = "Newman";
+        g.PlayerCount = 26;
+    });
+    EXPECT_EQ(Cell(*players, 5, "club"), "Darwin");
+    EXPECT_EQ(Cell(*teams, 2, "averageBatSkill"), "34.7");
+    EXPECT_EQ(players->countLabel->text(), "26 of 26 players");
+    document.Undo();
+    EXPECT_EQ(players->countLabel->text(), "25 of 25 players");
+    EXPECT_EQ(Cell(*teams, 2, "squadSize"), "2");
+
+    // A cell edited is a step of the document's history.
+    QTableView& table = *players->table;
+    const int surname = 2;
+    table.setCurrentIndex(players->model->index(players->model->RowOf(5), surname));
+    table.setFocus();
+    QTest::keyClick(&table, 'N');
+    QLineEdit* cell = table.viewport()->findChild<QLineEdit*>();
+    ASSERT_TRUE(cell);
+    QTest::keyClicks(cell, QStringLiteral("guyen"));
+    QTest::keyClick(cell, Qt::Key_Return);
+    QApplication::processEvents();  // the cell is written once the key is done with
+    EXPECT_EQ(game.Players[5].surname, "Nguyen");
+    EXPECT_EQ(document.History().undoText().toStdString(), "edit of Player Name for A Ng");
+
+    QHeaderView& header = *players->table->horizontalHeader();
+    header.setSectionHidden(3, true);
+    header.moveSection(2, 5);
+    players->close();
+    ShowWindow(players, RecordKind::Player);
+    EXPECT_TRUE(players->table->horizontalHeader()->isSectionHidden(3));
+    EXPECT_EQ(players->table->horizontalHeader()->visualIndex(2), 5);
+}
+
+// A click on a header sorts by it, keeping the order of the last sort among
+// equal values, so that two clicks make a two-key order; records without a
+// value go last.
+TEST_F(TableWindowTest, SortsStablyByEachHeaderClicked)
+{
+    players->filterBox->setText(QStringLiteral("surname!=Filler"));
+    const auto column = [this](const char* name) {
+        for (int at = 0; at < players->model->columnCount(); ++at)
+            if (players->model->ColumnAt(at).name == name)
+                return at;
+        return -1;
+    };
+    const struct {
+        const char* column;
+        Qt::SortOrder order;
+        std::vector<int> rows;
+    } clicks[] = {
+        {"potential", Qt::AscendingOrder, {1, 3, 5, 2, 6, 4}},
+        {"bowlType", Qt::AscendingOrder, {5, 2, 6, 4, 1, 3}},
+        {"club", Qt::DescendingOrder, {2, 1, 6, 3, 5, 4}},  // no club last
+        {"surname", Qt::DescendingOrder, {4, 2, 1, 5, 3, 6}},
+        {"playerNumber", Qt::AscendingOrder, {1, 2, 3, 4, 5, 6}},
+    };
+    for (const auto& click : clicks) {
+        SCOPED_TRACE(click.column);
+        players->table->sortByColumn(column(click.column), click.order);
+        EXPECT_THAT(Rows(*players), ElementsAreArray(click.rows));
+    }
+}
+
+// Plain words find names; terms narrow; a text the filter cannot read tints
+// the box, says why and leaves the rows as they were.
+TEST_F(TableWindowTest, FiltersAndRefusesATermItCannotRead)
+{
+    const struct {
+        const char* text;
+        std::vector<int> rows;
+        const char* refusal;  // empty: read
+    } cases[] = {
+        {"smith", {1, 2}, ""},
+        {"batSkill>=42", {1, 3, 4, 6}, ""},
+        {"batSkill>=42 club=none", {4}, ""},
+        {"batSkil>=42", {4}, "batSkil"},
+        {"club=Darwin or potential=15", {3, 4, 6}, ""},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.text);
+        players->filterBox->setText(QString::fromLatin1(c.text));
+        EXPECT_THAT(Rows(*players), ElementsAreArray(c.rows));
+        const bool refused = *c.refusal != 0;
+        EXPECT_EQ(MarkOf(*players->filterBox), refused ? BoxMark::Refused : BoxMark::Plain);
+        if (refused) {
+            EXPECT_THAT(players->statusBar()->currentMessage().toStdString(), HasSubstr(c.refusal));
+        }
+    }
+    EXPECT_EQ(players->countLabel->text(), "3 of 25 players");
+}
+
+// Set Value by keyboard, as a user works it: Ctrl+A selects the rows the
+// filter shows, Ctrl+E opens the dialog on the field list, the field is
+// typed, Tab goes to the value, Enter applies it as one step. A refused
+// value leaves the dialog open with the reason and the record at fault.
+TEST_F(TableWindowTest, SetValueByKeyboardIsOneStepOrTheReason)
+{
+    QTest::keyClicks(players->filterBox, QStringLiteral("batSkill>=42"));
+    players->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(players.get()));
+    QTest::keyClick(players->filterBox, Qt::Key_A, Qt::ControlModifier);
+    const struct {
+        const char* field;
+        const char* value;
+        const char* refusal;
+    } entries[] = {
+        {"potential", "+32767", "player 1 (A Smith): potential would be 32777"},
+        {"potential", "7", ""},
+    };
+    QStringList reasons;
+    for (const auto& entry : entries) {
+        SetModalDriver([&](QDialog& dialog) {
+            auto& choice = static_cast<ChoiceDialog&>(dialog);
+            EXPECT_EQ(dialog.focusWidget(), choice.choices);
+            QTest::keyClicks(choice.choices, QString::fromLatin1(entry.field));
+            EXPECT_EQ(choice.choices->currentItem()->text(), entry.field);
+            QTest::keyClick(choice.choices, Qt::Key_Tab);
+            QTest::keyClicks(choice.valueBox, QString::fromLatin1(entry.value));
+            QTest::keyClick(choice.valueBox, Qt::Key_Return);
+            reasons << (dialog.isVisible() ? choice.reason->text() : QString());
+        });
+        // Shortcuts reach only the active window.
+        players->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(players.get()));
+        QTest::keyClick(players->table, Qt::Key_E, Qt::ControlModifier);
+    }
+    EXPECT_THAT(reasons[0].toStdString(), HasSubstr(entries[0].refusal));
+    EXPECT_EQ(players->table->currentIndex().row(), players->model->RowOf(1));
+    EXPECT_EQ(reasons[1], "");
+    const int potentials[] = {0, 7, 12, 7, 7, 10, 7};  // the filter shows 1, 3, 4 and 6
+    for (int number = 1; number <= 6; ++number)
+        EXPECT_EQ(game.Players[number].potential, potentials[number]) << number;
+    EXPECT_EQ(document.History().count(), 1);
+    EXPECT_EQ(document.History().undoText(), "set potential on 4 players");
+    document.Undo();
+    EXPECT_EQ(game.Players[3].potential, 10);
+}
+
+// Paste and Move Selected to Team: all or nothing, one step each.
+TEST_F(TableWindowTest, PasteAndMoveAreWholeOrRefused)
+{
+    const int initials = 1, surname = 2;
+    SelectCells(*players, {1, 2}, {initials, surname});
+    EXPECT_THAT(players->Paste(QStringLiteral("B\tBrown\nC\tSmi,th\n")).toStdString(), HasSubstr("comma"));
+    EXPECT_EQ(game.Players[1].surname, "Smith");
+    EXPECT_EQ(players->Paste(QStringLiteral("B\tBrown\r\nC\tBlack\r\n")), "");
+    EXPECT_EQ(game.Players[1].surname, "Brown");
+    EXPECT_EQ(game.Players[2].initials, "C");
+
+    Select(*players, {4, 5});
+    EXPECT_THAT(players->MoveToTeam(3).toStdString(), HasSubstr("room for 1 player"));
+    EXPECT_THAT(Places(game.Teams[3]), ElementsAreArray(PlayerRun(7, 19)));
+    EXPECT_EQ(players->MoveToTeam(2), "");
+    EXPECT_THAT(Places(game.Teams[2]), ElementsAre(3, 6, 4, 5));
+    EXPECT_EQ(document.History().count(), 2);
+
+    // Export writes the selected rows as kolta-data export does.
+    const QString path = QtPath(scratch / "chosen.csv");
+    EXPECT_EQ(players->ExportSelection(path), "");
+    const std::vector<int> chosen{4, 5};
+    EXPECT_EQ(ReadWholeFile(path.toStdString()).value_or("<missing>"), PlayersCsvOf(game, chosen));
+}
+
+}  // namespace
