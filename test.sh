@@ -2,7 +2,8 @@
 # Sets up a fresh Debian machine, builds, and runs every test; runs them all
 # again built with AddressSanitizer and UndefinedBehaviorSanitizer; then runs
 # each fuzz target over its seed corpus and a few seconds of new inputs; and
-# last the Windows build under Wine (windows.sh).
+# last the Windows build under Wine (windows.sh: the editor too when Qt for
+# Windows is in the cache, otherwise a line on how to get it).
 # Each test runs twice, four at a time, so that a test that leans on timing,
 # on another test or on a shared folder fails here rather than now and then.
 # At the end the source tree must be as this script found it.

@@ -10,7 +10,9 @@ int main(int argc, char** argv)
 {
     // The windows under test never reach a screen, nor the settings of the
     // user who runs them: what Qt keeps for itself (a file dialog's last
-    // folder) goes to this program's own scratch folder.
+    // folder) goes to this program's own scratch folder. The platform is set
+    // here rather than by the caller, since Wine hands a Windows program no
+    // QT_ variable.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const ScratchFolder home;

@@ -1,5 +1,6 @@
 #include "commands/save_failure.h"
 
+#include <QDir>
 #include <QFile>
 
 FilesBeforeSave::FilesBeforeSave(const Game& game)
@@ -23,6 +24,6 @@ QString FilesBeforeSave::FailureText(const FileResult& result) const
     else
         outcome = QStringLiteral("Both files were written.");
     return QStringLiteral("Could not save %1:\n%2\n\n%3 Your changes are still in the editor.")
-        .arg(QString::fromStdString(result.path), QString::fromStdString(result.reason),
+        .arg(QDir::toNativeSeparators(QString::fromStdString(result.path)), QString::fromStdString(result.reason),
              outcome);
 }

@@ -70,7 +70,7 @@ TEST(SaveFailure, TheMessageSaysWhichFilesTheFailedSaveChanged)
         if (c.teamsWritten)
             Write(filePath("teams.dat"), "new teams");
         const QString said = before.FailureText(failure);
-        EXPECT_TRUE(said.startsWith("Could not save " + filePath("teams.dat") + ":\nthe disk is full\n\n"))
+        EXPECT_TRUE(said.startsWith("Could not save " + QDir::toNativeSeparators(filePath("teams.dat")) + ":\nthe disk is full\n\n"))
             << said.toStdString();
         EXPECT_TRUE(said.contains(c.outcome)) << said.toStdString();
         EXPECT_TRUE(said.endsWith("Your changes are still in the editor.")) << said.toStdString();

@@ -1,6 +1,8 @@
 // The editor comes up on the first country, team and player of the game
 // that editor.dat names, and what is typed there goes into the records.
 
+#include <QDir>
+
 #include "editor_fixture.h"
 
 namespace {
@@ -10,7 +12,7 @@ using StartUp = EditorTest;
 TEST_F(StartUp, OpensOnTheFirstTeamAndPlayerOfTheFirstCountry)
 {
     Open();
-    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
+    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
     EXPECT_EQ(Combo("countryList").count(), 10);
     EXPECT_EQ(Combo("countryList").currentText(), "Australia");
     EXPECT_EQ(Rows(Combo("teamList")), (std::vector<QString>{"Perth Pelicans", "Darwin Dingoes"}));

@@ -124,10 +124,10 @@ TEST_F(UnsavedWork, LeavingAsksWhenThereAreUnsavedChanges)
             SCOPED_TRACE(testing::Message() << throughMenu << " " << c.edited << " " << c.answer);
             OpenStill();
             const std::string before = Files();
-            EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
+            EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
             if (c.edited) {
                 Retype("team.wealth", "700");
-                EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")*");
+                EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")*");
             }
             Answer({c.answer, QMessageBox::Ok});
             if (throughMenu)
@@ -154,14 +154,14 @@ TEST_F(UnsavedWork, LeavingAsksWhenThereAreUnsavedChanges)
     OpenStill();
     Retype("team.wealth", "700");
     Undo().trigger();
-    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
+    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
     EXPECT_FALSE(Document().IsModified());
     Redo().trigger();
     Answer({QMessageBox::Ok});
     Find<QAction>(*main, "saveAction").trigger();
-    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
+    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
     Undo().trigger();
-    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")*");
+    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")*");
     EXPECT_EQ(BoxText("team.wealth"), "-250");
 }
 

@@ -110,7 +110,7 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
         ASSERT_EQ(editor.Start(), good);
         if (good) {  // what the window then shows is the start-up's test
             EXPECT_EQ(Setting(), full);
-            EXPECT_EQ(ShownTitle(main), "KOLTA editor (" + full + ")");
+            EXPECT_EQ(ShownTitle(main), "KOLTA editor (" + QDir::toNativeSeparators(full) + ")");
             EXPECT_TRUE(ShownMessages().empty());
             continue;
         }
@@ -140,7 +140,7 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
     WhileOpen([&](OptionsWindow& options) { Find<FolderTree>(options, "folderList").SetPath(teamsOnly); });
     optionsAction.trigger();
     EXPECT_EQ(game->Teams[1].teamName, "Renamed but not saved");
-    EXPECT_EQ(ShownTitle(window), "KOLTA editor (" + full + ")*");
+    EXPECT_EQ(ShownTitle(window), "KOLTA editor (" + QDir::toNativeSeparators(full) + ")*");
 
     const QString fewer = Fixture("game_one_team");  // Brisbane Bats (Green)
     std::vector<QMessageBox::StandardButton> answers{QMessageBox::Cancel, QMessageBox::No};
@@ -169,7 +169,7 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
         EXPECT_EQ(asked.title, "Saving..");
     }
     EXPECT_EQ(Setting(), fewer);
-    EXPECT_EQ(ShownTitle(window), "KOLTA Editor (" + fewer + ")");
+    EXPECT_EQ(ShownTitle(window), "KOLTA Editor (" + QDir::toNativeSeparators(fewer) + ")");
     EXPECT_EQ(game->Teams[1].teamName, "Brisbane Bats");
     EXPECT_EQ(game->Players[1].batSkill, 0);
     EXPECT_EQ(Rows(Find<QComboBox>(window, "teamList")), std::vector<QString>{"Brisbane Bats"});
