@@ -10,11 +10,6 @@
 
 namespace {
 
-std::string Quoted(std::string_view cp1252)
-{
-    return "\"" + Utf8FromCp1252(cp1252) + "\"";
-}
-
 template <class Record>
 const Field<Record>& ColumnField(const TableColumn& column)
 {
@@ -105,7 +100,7 @@ FieldValue ReadFieldValue(const TableColumn& column, std::string_view typed, boo
     if (column.IsName()) {
         value.text = std::string(typed);
         if (const auto problem = NameProblem(typed))
-            value.refusal = name + " " + Quoted(typed) + " cannot be saved because " + *problem;
+            value.refusal = name + " " + QuotedUtf8(typed) + " cannot be saved because " + *problem;
         else if (column.playerField && column.playerField->text == &PlayerRecord::surname && TrimBlanks(typed).empty())
             value.refusal = "a surname cannot be empty: the search would end its listing there";
         return value;
@@ -129,13 +124,13 @@ FieldValue ReadFieldValue(const TableColumn& column, std::string_view typed, boo
     if (const CodeList* codes = column.Codes()) {
         if (!ReadCode(*codes, rest, value))
             value.refusal = name + " takes a word of its list or a code from " + std::to_string(codes->firstCode) +
-                            " to " + std::to_string(codes->LastCode()) + ", not " + Quoted(typed);
+                            " to " + std::to_string(codes->LastCode()) + ", not " + QuotedUtf8(typed);
         return value;
     }
     const auto number = WholeNumber(rest);
     if (!number)
         value.refusal = name + " takes a whole number from " + std::to_string(Lowest) + " to " +
-                        std::to_string(Highest) + ", not " + Quoted(typed);
+                        std::to_string(Highest) + ", not " + QuotedUtf8(typed);
     value.number = number.value_or(0);
     return value;
 }

@@ -100,3 +100,8 @@ std::string OnOneLine(std::string_view text)
     }
     return line;
 }
+
+std::string QuotedUtf8(std::string_view cp1252)
+{
+    return "\"" + Utf8FromCp1252(cp1252) + "\"";
+}

@@ -7,6 +7,9 @@
 // The game's files hold Windows-1252; spreadsheets, terminals and JSON speak UTF-8.
 std::string Utf8FromCp1252(std::string_view bytes);
 
+// A value the user typed or a file holds, in double quotes for a message.
+std::string QuotedUtf8(std::string_view cp1252);
+
 bool IsUtf8(std::string_view text);
 
 // `text` with its line ends written as \r and \n, for a listing of one item

@@ -13,11 +13,6 @@ namespace {
 constexpr std::string_view PlayersFile = PlayerLayout.file;
 constexpr std::string_view TeamsFile = TeamLayout.file;
 
-std::string Quoted(const std::string& cp1252)
-{
-    return "\"" + Utf8FromCp1252(cp1252) + "\"";
-}
-
 // A coded value with its word, "2 (England)", so that a person need not look it up.
 template <class Record>
 std::string Coded(const Field<Record>& field, int value)
@@ -57,7 +52,7 @@ private:
                 const std::string& to = b.*field.text;
                 if (from != to)
                     Add({"changed", where, number, name, Utf8FromCp1252(from), Utf8FromCp1252(to),
-                         title + ": " + name + " " + Quoted(from) + " -> " + Quoted(to)});
+                         title + ": " + name + " " + QuotedUtf8(from) + " -> " + QuotedUtf8(to)});
                 continue;
             }
             const int from = a.*field.number;

@@ -16,11 +16,6 @@ bool AllDigits(std::string_view text)
     return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-std::string Quoted(std::string_view cp1252)
-{
-    return "\"" + Utf8FromCp1252(cp1252) + "\"";
-}
-
 bool IsOrdering(Comparison comparison)
 {
     return comparison != Comparison::Equal && comparison != Comparison::NotEqual;
@@ -156,7 +151,7 @@ private:
         const FilterToken& sign = tokens_[i + 1];
         term.column = FindColumn(kind_, name.text);
         if (!term.column)
-            return Error("no column is called " + Quoted(name.text), name.start, name.end);
+            return Error("no column is called " + QuotedUtf8(name.text), name.start, name.end);
         term.comparison = sign.comparison;
         if (i + 2 >= tokens_.size() || tokens_[i + 2].IsComparison() || IsOr(i + 2))
             return Error(term.column->name + " needs a value after " + std::string(ComparisonText(sign.comparison)),
@@ -189,16 +184,16 @@ private:
         if (const CodeList* codes = term.column->Codes()) {
             if (CodeValue(*codes, value, term))
                 return std::nullopt;
-            return fault(term.column->name + " takes a word of its list or a code, not " + Quoted(value.text));
+            return fault(term.column->name + " takes a word of its list or a code, not " + QuotedUtf8(value.text));
         }
         if (term.column->source == ColumnSource::Club) {
             if (IsOrdering(term.comparison))
                 return fault("club takes a team's number with " + std::string(ComparisonText(term.comparison)));
             if (TeamValue(value, term))
                 return std::nullopt;
-            return fault("no team is called " + Quoted(value.text));
+            return fault("no team is called " + QuotedUtf8(value.text));
         }
-        return fault(term.column->name + " takes a number, not " + Quoted(value.text));
+        return fault(term.column->name + " takes a number, not " + QuotedUtf8(value.text));
     }
 
     // The keys a value of `column` may run over: the words of its list, the
