@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,19 @@ struct FindCase {
     const char* typed;
     std::vector<std::int16_t> found;
 };
+
+// The typed text names each case in the test list, its bytes past ASCII as
+// \xNN.
+void PrintTo(const FindCase& c, std::ostream* out)
+{
+    *out << '"';
+    for (const unsigned char byte : std::string(c.typed))
+        if (byte < 0x80)
+            *out << byte;
+        else
+            *out << "\\x" << std::hex << int(byte) << std::dec;
+    *out << '"';
+}
 
 class PlayerFindTest : public ::testing::TestWithParam<FindCase> {};
 
