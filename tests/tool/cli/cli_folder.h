@@ -50,13 +50,6 @@ inline Lines TeamRecordLines(const std::string& name, int number, const std::vec
     return lines;
 }
 
-// `lines` with line `line` (from 1) replaced.
-inline Lines With(Lines lines, int line, const std::string& text)
-{
-    lines.at(line - 1) = text;
-    return lines;
-}
-
 // Line `line` of player `number` among players 1, 2, ... written in a row.
 constexpr int OfPlayer(int number, int line)
 {

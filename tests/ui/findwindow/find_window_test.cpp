@@ -10,13 +10,9 @@
 #include "data/teams_file.h"
 #include "findwindow/find_window.h"
 #include "support/scratch_folder.h"
+#include "support/window_parts.h"
 
 using ::testing::ElementsAre;
-
-inline void PrintTo(const QString& text, std::ostream* out)
-{
-    *out << '"' << text.toStdString() << '"';
-}
 
 namespace {
 
@@ -37,14 +33,6 @@ std::vector<QString> RowTexts(const QTreeWidget& list, int column)
     for (int row = 0; row < list.topLevelItemCount(); ++row)
         texts.push_back(list.topLevelItem(row)->text(column));
     return texts;
-}
-
-void DoubleClickRow(QTreeWidget& list, int row)
-{
-    const QRect at = list.visualItemRect(list.topLevelItem(row));
-    // The first click of a double click arrives as a press of its own.
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at.center());
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at.center());
 }
 
 class FindWindowTest : public ::testing::Test {
@@ -90,7 +78,7 @@ TEST_F(FindWindowTest, ADoubleClickChoosesAndEnterOnNothingChoosesNobody)
     QTest::keyClicks(window.findBox, QStringLiteral("845"));
     ASSERT_EQ(window.matchList->topLevelItemCount(), 1);
     EXPECT_EQ(window.matchList->topLevelItem(0)->text(2), "no club");
-    DoubleClickRow(*window.matchList, 0);
+    DoubleClick(*window.matchList, window.matchList->visualItemRect(window.matchList->topLevelItem(0)));
     ASSERT_EQ(chosen.count(), 1);
     EXPECT_EQ(chosen.at(0).at(0).toInt(), 845);
 

@@ -5,9 +5,7 @@
 
 #include "data/file_io.h"
 #include "data/load_game.h"
-#include "data/players_file.h"
 #include "data/save.h"
-#include "data/teams_file.h"
 #include "editor_fixture.h"
 #include "mainwindow/changed_files_bar.h"
 #include "options/options_window.h"
@@ -15,14 +13,6 @@
 namespace {
 
 const QString Saved = QStringLiteral("Updated Player and Team data successfully");
-
-std::vector<QString> MessageTexts()
-{
-    std::vector<QString> texts;
-    for (const ShownMessage& message : ShownMessages())
-        texts.push_back(message.text);
-    return texts;
-}
 
 class Saving : public EditorTest {
 protected:
@@ -35,21 +25,12 @@ protected:
         Retype("team.teamName", "Perth Pelicans XI");
     }
 
-    std::string Files() const
-    {
-        const auto bytes = [this](const char* file) {
-            return ReadWholeFile(ToSystemPath(GameFolder() + '/' + file)).value_or("(missing)");
-        };
-        return bytes("players.dat") + "|" + bytes("teams.dat");
-    }
     bool FilesUnchanged() const { return Files() == filesBefore_; }
     // The whole game as the window holds it, the two edits included.
     bool EditsSaved() const
     {
-        const auto read = std::make_unique<Game>();
-        SetGameDirectory(*read, ToSystemPath(GameFolder()));
-        return ReadPlayersFile(*read).Read() && ReadTeamsFile(*read).Read() && read->Players == game->Players &&
-               read->Teams == game->Teams && read->Players[1].batSkill == 58 &&
+        const auto read = OnDisk();
+        return read->Players == game->Players && read->Teams == game->Teams && read->Players[1].batSkill == 58 &&
                read->Teams[1].teamName == "Perth Pelicans XI";
     }
 
@@ -78,7 +59,7 @@ TEST_F(Saving, CtrlSSavesWhicheverControlHasTheFocus)
         control->setFocus();
         ClearShownMessages();
         QTest::keyClick(control, Qt::Key_S, Qt::ControlModifier);
-        EXPECT_EQ(MessageTexts(), std::vector<QString>{Saved})
+        EXPECT_EQ(ShownTexts(), std::vector<QString>{Saved})
             << control->metaObject()->className() << " at " << control->x() << "," << control->y();
     }
     EXPECT_EQ(controls, 30);

@@ -22,6 +22,7 @@ TEST_F(StartUp, OpensOnTheFirstTeamAndPlayerOfTheFirstCountry)
     EXPECT_EQ(main->CurrentPlayer(), 1);
     EXPECT_EQ(QApplication::focusWidget(), &Squad());
     EXPECT_TRUE(ShownMessages().empty());
+    EXPECT_FALSE(Find<QWidget>(*main, "problemsBar").isVisible()) << "a game without errors shows no bar";
     // An edit reaches the record without help.
     Retype("potential", "19");
     EXPECT_TRUE(QTest::qWaitFor([&] { return game->Players[1].potential == 19; }, 2000));

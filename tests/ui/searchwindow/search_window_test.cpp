@@ -78,17 +78,6 @@ protected:
         return opened;
     }
 
-    // The texts, or the titles, of the messages shown so far, in order.
-    static std::vector<QString> Shown(QString ShownMessage::*part)
-    {
-        std::vector<QString> parts;
-        for (const ShownMessage& m : ShownMessages())
-            parts.push_back(m.*part);
-        return parts;
-    }
-    static std::vector<QString> Texts() { return Shown(&ShownMessage::text); }
-    static std::vector<QString> Titles() { return Shown(&ShownMessage::title); }
-
     GameBuilder b;
     Game& game = *b.game;   // the editor's own, changed behind its back where a test sets the scene
     std::unique_ptr<Editor> editor;
@@ -138,12 +127,12 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
         EXPECT_EQ(Squad().ChosenRow(), 0);  // the player shown stays chosen
         EXPECT_THAT(Places(game.Teams[Newlands]), ElementsAre(8));
         EXPECT_EQ(Find<TextBox>(form, "presentClub").text(), "Harbour CC");
-        EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "Player already in team",
+        EXPECT_THAT(ShownTexts(), ElementsAre("No Player Selected", "Player already in team",
                                          "A P0030 has been added to the Harbour CC squad.", "Player already in team",
                                          "No Player Selected",
                                          "A P0007 has been added to the Harbour CC squad and removed from "
                                          "Newlands squad."));
-        EXPECT_THAT(Titles(), ElementsAre("Add Player", "Error", "Add Player", "Error", "Add Player", "Add Player"));
+        EXPECT_THAT(ShownTexts(&ShownMessage::title), ElementsAre("Add Player", "Error", "Add Player", "Error", "Add Player", "Add Player"));
 
         // Players without a team, up to the twentieth; then the limit comes
         // first, also for a candidate who is in the squad.
@@ -152,7 +141,7 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
             SearchAndPick(form, QStringLiteral("A P00%1").arg(number, 2, 10, QLatin1Char('0')));
             Click(&Find<QPushButton>(form, "addButton"));
         }
-        EXPECT_EQ(Texts().back(), "A P0023 has been added to the Harbour CC squad.");
+        EXPECT_EQ(ShownTexts().back(), "A P0023 has been added to the Harbour CC squad.");
         EXPECT_EQ(Squad().count(), 20);
         ClearShownMessages();
         SearchAndPick(form, "A P0025");
@@ -164,8 +153,8 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
     // A full squad refuses both adds before any window opens.
     EXPECT_EQ(Press(&Find<QPushButton>(*main, "addExistingPlayerButton")), "");
     EXPECT_EQ(Press(&Find<QPushButton>(*main, "addNewPlayerButton")), "");
-    EXPECT_THAT(Titles(), ElementsAre("Maximum Players", "Maximum Players", "Maximum Players", "Maximum Players"));
-    EXPECT_EQ(Texts().back(), "You already have the maximum of 20 players in the squad.");
+    EXPECT_THAT(ShownTexts(&ShownMessage::title), ElementsAre("Maximum Players", "Maximum Players", "Maximum Players", "Maximum Players"));
+    EXPECT_EQ(ShownTexts().back(), "You already have the maximum of 20 players in the squad.");
 }
 
 // Replace mode twice: the last row, then the first; refusals keep the window
@@ -204,10 +193,10 @@ TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
         SearchAndPick(form, "A P0003");
         Click(&Find<QPushButton>(form, "replaceButton"));
     });
-    EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "Player already in team",
+    EXPECT_THAT(ShownTexts(), ElementsAre("No Player Selected", "Player already in team",
                                      "S T Quill from Bayside has replaced A P0003 in the Harbour CC squad.",
                                      "No Player Selected", "A P0003 has replaced K Venn in the Harbour CC squad."));
-    EXPECT_THAT(Titles(), ElementsAre("Replace Player", "Error", "Replace Player", "Replace Player",
+    EXPECT_THAT(ShownTexts(&ShownMessage::title), ElementsAre("Replace Player", "Error", "Replace Player", "Replace Player",
                                       "Replace Player"));
     EXPECT_THAT(Rows(Squad()), ElementsAre("A P0003", "A P0002", "S T Quill"));
 }
@@ -216,8 +205,8 @@ TEST_F(SearchWindowTest, DeleteAsksFirstAndShowsThePlayerWhoFollowed)
 {
     answer = QMessageBox::No;
     Click(&Find<QPushButton>(*main, "deletePlayerButton"));
-    EXPECT_THAT(Texts(), ElementsAre("Are you sure you want to delete K Venn from Harbour CC Squad ?"));
-    EXPECT_THAT(Titles(), ElementsAre("Delete Player"));
+    EXPECT_THAT(ShownTexts(), ElementsAre("Are you sure you want to delete K Venn from Harbour CC Squad ?"));
+    EXPECT_THAT(ShownTexts(&ShownMessage::title), ElementsAre("Delete Player"));
     EXPECT_EQ(Look(ShownMessages()[0]), Look(QMessageBox::Critical, QMessageBox::Yes | QMessageBox::No));
     EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(1, 2, 3));
     EXPECT_EQ(Squad().ChosenRow(), 0);
@@ -240,8 +229,8 @@ TEST_F(SearchWindowTest, DeleteAsksFirstAndShowsThePlayerWhoFollowed)
     // A full game refuses a new player before his window opens.
     game.PlayerCount = MaxPlayers;
     EXPECT_EQ(Press(&Find<QPushButton>(*main, "addNewPlayerButton")), "");
-    EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "The game already holds its maximum of 2000 players."));
-    EXPECT_THAT(Titles(), ElementsAre("Delete Player", "Maximum Players"));
+    EXPECT_THAT(ShownTexts(), ElementsAre("No Player Selected", "The game already holds its maximum of 2000 players."));
+    EXPECT_THAT(ShownTexts(&ShownMessage::title), ElementsAre("Delete Player", "Maximum Players"));
 }
 
 }  // namespace
