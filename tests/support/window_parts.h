@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QAbstractItemView>
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QListWidget>
 #include <QObject>
@@ -10,12 +11,14 @@
 #include <QWheelEvent>
 #include <QWidget>
 #include <ostream>
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "forms/message_box.h"
+#include "forms/modal.h"
 
 inline void PrintTo(const QString& text, std::ostream* out)
 {
@@ -95,6 +98,22 @@ inline std::vector<QString> Rows(const QComboBox& box)
     for (int row = 0; row < box.count(); ++row)
         rows.push_back(box.itemText(row));
     return rows;
+}
+
+// Clicks `button`; `work` drives the modal window it opens when that is a
+// Window. The name of the window opened, "" if none.
+template <typename Window = QDialog>
+QString Press(QAbstractButton& button, const std::function<void(Window&)>& work = {})
+{
+    QString opened;
+    SetModalDriver([&](QDialog& shown) {
+        opened = shown.objectName();
+        if (auto* window = dynamic_cast<Window*>(&shown); window && work)
+            work(*window);
+    });
+    QTest::mouseClick(&button, Qt::LeftButton);
+    SetModalDriver({});
+    return opened;
 }
 
 // One notch of the wheel, down, over the middle of `control`; whether the

@@ -38,19 +38,10 @@ protected:
     QAction& Redo() const { return Find<QAction>(*main, "redoAction"); }
     QPushButton& Button(const char* name) const { return Find<QPushButton>(*main, name); }
 
-    // Runs `work` on the window the button opens.
-    template <typename Window>
-    void Through(const char* button, std::function<void(Window&)> work)
-    {
-        SetModalDriver([&](QDialog& shown) { work(dynamic_cast<Window&>(shown)); });
-        Button(button).click();
-        SetModalDriver({});
-    }
-
     // Searches every club and moves the player of that surname in.
     void Transfer(const char* button, const char* surname, const char* moveButton)
     {
-        Through<SearchWindow>(button, [&](SearchWindow& search) {
+        Press<SearchWindow>(Button(button), [&](SearchWindow& search) {
             Find<QPushButton>(search, "searchButton").click();
             ChoiceList& results = Find<ChoiceList>(search, "resultList");
             QString row;
@@ -64,7 +55,7 @@ protected:
 
     void NewPlayer(const char* surname)
     {
-        Through<NewPlayerWindow>("addNewPlayerButton", [&](NewPlayerWindow& form) {
+        Press<NewPlayerWindow>(Button("addNewPlayerButton"), [&](NewPlayerWindow& form) {
             const std::pair<const char*, const char*> typed[] = {
                 {"initials", "N"}, {"surname", surname}, {"birthDay", "1"},      {"birthMonth", "2"},
                 {"birthYear", "1990"}, {"batSkill", "30"}, {"batAggression", "5"}, {"bowlSkill", "20"},

@@ -47,8 +47,7 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
     SetMessageAnswerer([](const ShownMessage&) { return QMessageBox::Ok; });
 
     bool closed = false;
-    SetModalDriver([&](QDialog& shown) {
-        auto& form = dynamic_cast<NewPlayerWindow&>(shown);
+    Press<NewPlayerWindow>(Find<QPushButton>(main, "addNewPlayerButton"), [&](NewPlayerWindow& form) {
         const auto box = [&](const char* name) { return &Find<TextBox>(form, name); };
         EXPECT_EQ(form.parentWidget(), &main);
         TextBox* skill = box("batSkill");
@@ -99,8 +98,6 @@ TEST(NewPlayerWindow, FromTheKeyFilterToTheNewPlayerInTheSquad)
         Find<QPushButton>(form, "okButton").click();
         closed = !form.isVisible();
     });
-    Find<QPushButton>(main, "addNewPlayerButton").click();
-    SetModalDriver({});
     SetMessageAnswerer({});
     ASSERT_EQ(ShownMessages().size(), 2u) << "success is not announced";
     // Each refusal names the first box at fault (which one is the core's FirstBadEntry).

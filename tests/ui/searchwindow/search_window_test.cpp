@@ -63,19 +63,10 @@ protected:
         SetModalDriver({});
     }
 
-    // Presses `button` of the main window and gives the name of the window it
-    // opened, "" if none; `work` drives the search window if that opens.
-    QString Press(QPushButton* button, std::function<void(SearchWindow&)> work = {})
+    // Presses the main window's button `name`; `work` drives the search window if that opens.
+    QString Press(const char* name, const std::function<void(SearchWindow&)>& work = {})
     {
-        QString opened;
-        SetModalDriver([&](QDialog& form) {
-            opened = form.objectName();
-            if (auto* search = dynamic_cast<SearchWindow*>(&form); search && work)
-                work(*search);
-        });
-        Click(button);
-        SetModalDriver({});
-        return opened;
+        return ::Press<SearchWindow>(Find<QPushButton>(*main, name), work);
     }
 
     GameBuilder b;
@@ -95,7 +86,7 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
     game.Players[6].batSkill = 10;
     game.Teams[Newlands].squad[2] = 7;  // in two squads: the higher team is his club
     const auto teams = game.Teams;
-    Press(&Find<QPushButton>(*main, "addExistingPlayerButton"), [&](SearchWindow& form) {
+    Press("addExistingPlayerButton", [&](SearchWindow& form) {
         EXPECT_EQ(form.windowTitle(), "Add Player..");
         Click(&Find<QPushButton>(form, "addButton"));  // no candidate yet
         SearchAndPick(form, "A P0002");  // already in the squad
@@ -151,8 +142,8 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
     });
     EXPECT_EQ(game.Teams[Harbour].squad[20], 23);
     // A full squad refuses both adds before any window opens.
-    EXPECT_EQ(Press(&Find<QPushButton>(*main, "addExistingPlayerButton")), "");
-    EXPECT_EQ(Press(&Find<QPushButton>(*main, "addNewPlayerButton")), "");
+    EXPECT_EQ(Press("addExistingPlayerButton"), "");
+    EXPECT_EQ(Press("addNewPlayerButton"), "");
     EXPECT_THAT(ShownTexts(&ShownMessage::title), ElementsAre("Maximum Players", "Maximum Players", "Maximum Players", "Maximum Players"));
     EXPECT_EQ(ShownTexts().back(), "You already have the maximum of 20 players in the squad.");
 }
@@ -164,7 +155,7 @@ TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
     ClickRow(Squad(), 2);
     const auto teams = game.Teams;
     bool closed = false;
-    ASSERT_EQ(Press(&Find<QPushButton>(*main, "replacePlayerButton"), [&](SearchWindow& form) {
+    ASSERT_EQ(Press("replacePlayerButton", [&](SearchWindow& form) {
                   EXPECT_EQ(form.windowTitle(), "Replace player..");
                   EXPECT_FALSE(Find<QPushButton>(form, "addButton").isVisible()) << "no Add in this mode";
                   Click(&Find<QPushButton>(form, "replaceButton"));         // no candidate
@@ -181,10 +172,10 @@ TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
     EXPECT_TRUE(closed);
     EXPECT_THAT(Rows(Squad()), ElementsAre("K Venn", "A P0002", "S T Quill"));
     EXPECT_EQ(Squad().ChosenRow(), -1);
-    EXPECT_EQ(Press(&Find<QPushButton>(*main, "replacePlayerButton")), "");  // no row chosen
+    EXPECT_EQ(Press("replacePlayerButton"), "");  // no row chosen
 
     ClickRow(Squad(), 0);
-    Press(&Find<QPushButton>(*main, "replacePlayerButton"), [&](SearchWindow& form) {
+    Press("replacePlayerButton", [&](SearchWindow& form) {
         ASSERT_EQ(Find<QComboBox>(form, "clubFilter").count(), 5);  // no double rows from the earlier opening
         EXPECT_EQ(Find<QComboBox>(form, "nationalityFilter").currentIndex(), 0);
         EXPECT_EQ(Find<QComboBox>(form, "sortKeyList").currentIndex(), 0);
@@ -228,7 +219,7 @@ TEST_F(SearchWindowTest, DeleteAsksFirstAndShowsThePlayerWhoFollowed)
     EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(2));
     // A full game refuses a new player before his window opens.
     game.PlayerCount = MaxPlayers;
-    EXPECT_EQ(Press(&Find<QPushButton>(*main, "addNewPlayerButton")), "");
+    EXPECT_EQ(Press("addNewPlayerButton"), "");
     EXPECT_THAT(ShownTexts(), ElementsAre("No Player Selected", "The game already holds its maximum of 2000 players."));
     EXPECT_THAT(ShownTexts(&ShownMessage::title), ElementsAre("Delete Player", "Maximum Players"));
 }
