@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QListWidget>
+#include <QTreeWidget>
 #include <QObject>
 #include <QString>
 #include <QTest>
@@ -134,6 +135,15 @@ inline std::vector<QString> ShownTexts(QString ShownMessage::*part = &ShownMessa
     for (const ShownMessage& message : ShownMessages())
         parts.push_back(message.*part);
     return parts;
+}
+
+// The texts in `column` of the rows under `parent` of a tree.
+inline std::vector<QString> Texts(const QTreeWidgetItem& parent, int column = 0)
+{
+    std::vector<QString> texts;
+    for (int row = 0; row < parent.childCount(); ++row)
+        texts.push_back(parent.child(row)->text(column));
+    return texts;
 }
 
 // How a message box looks: its icon and its buttons.

@@ -91,20 +91,15 @@ struct ToolArg {
     ToolArg(const fs::path& path) : text(PathText(path)) {}
 };
 
-inline ToolRun RunTool(const std::vector<std::string>& args)
-{
-    std::ostringstream out;
-    std::ostringstream err;
-    const int code = RunKoltaData(args, out, err);
-    return {code, out.str(), err.str()};
-}
-
-inline ToolRun RunTool(std::initializer_list<ToolArg> toolArgs)
+inline ToolRun RunTool(const std::vector<ToolArg>& toolArgs)
 {
     std::vector<std::string> args;
     for (const ToolArg& arg : toolArgs)
         args.push_back(arg.text);
-    return RunTool(args);
+    std::ostringstream out;
+    std::ostringstream err;
+    const int code = RunKoltaData(args, out, err);
+    return {code, out.str(), err.str()};
 }
 
 inline void WriteBytes(const fs::path& path, const std::string& bytes)

@@ -52,10 +52,7 @@ TEST_F(HostileFiles, AreRefusedWithTheirReasonByEveryCommandAndNothingChanges)
                  {"info", dir}, {"check", dir}, {"normalize", dir}, {"export", dir, out}, {"import", dir, csv},
                  {"diff", dir, dir}}) {
             SCOPED_TRACE(args.front().text);
-            std::vector<std::string> command;
-            for (const ToolArg& arg : args)
-                command.push_back(arg.text);
-            const ToolRun run = RunTool(command);
+            const ToolRun run = RunTool(args);
             EXPECT_EQ(run.code, 2);
             EXPECT_THAT(run.err, HasSubstr(c.says));
         }

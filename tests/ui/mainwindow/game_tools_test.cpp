@@ -24,14 +24,6 @@ using ::testing::IsEmpty;
 
 namespace {
 
-std::vector<QString> Texts(const QTreeWidgetItem& parent)
-{
-    std::vector<QString> texts;
-    for (int row = 0; row < parent.childCount(); ++row)
-        texts.push_back(parent.child(row)->text(0));
-    return texts;
-}
-
 class GameToolsTest : public EditorTest {
 protected:
     ~GameToolsTest() override { SetModalDriver({}); }
