@@ -123,18 +123,12 @@ TEST_F(UnsavedWork, LeavingAsksWhenThereAreUnsavedChanges)
         }
     }
 
-    // Undoing back to the saved state takes the mark away; a save keeps the
-    // steps, and undoing past it puts the mark back.
+    // Undoing back to the saved state takes the mark away (when the state
+    // counts as saved is game_document_test's).
     OpenStill();
     Retype("team.wealth", "700");
     Undo().trigger();
     EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
-    Redo().trigger();
-    Answer({QMessageBox::Ok});
-    Find<QAction>(*main, "saveAction").trigger();
-    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")");
-    Undo().trigger();
-    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + GameFolder() + ")*");
     EXPECT_EQ(BoxText("team.wealth"), "-250");
 }
 
