@@ -88,6 +88,8 @@ protected:
 TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
 {
     game.Players[7].batSkill = 30;
+    game.Players[2].batPosition = 2;
+    game.Players[30].batPosition = 7;  // a code with no entry
     game.Players[6].batSkill = 10;
     game.Teams[Newlands].squad[2] = 7;  // in two squads: the higher team is his club
     const auto teams = game.Teams;
@@ -98,7 +100,11 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
         Click(&Find<QPushButton>(form, "addButton"));
         EXPECT_EQ(game.Teams, teams);
 
-        SearchAndPick(form, "A P0030");
+        Pick(Find<ChoiceList>(form, "resultList"), "A P0030");
+        // The candidate's panel is read-only, and a code with no entry leaves
+        // its list on the entry before.
+        EXPECT_EQ(Find<QComboBox>(form, "batPosition").currentIndex(), 1);
+        EXPECT_FALSE(Find<TextBox>(form, "surname").isEnabled());
         Click(&Find<QPushButton>(form, "addButton"));
         Click(&Find<QPushButton>(form, "addButton"));  // him again
         // Filters and order take effect when Search is pressed, and a new
