@@ -1,18 +1,18 @@
 #pragma once
 
-#include <QApplication>
-#include <QAbstractItemView>
 #include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QListWidget>
-#include <QTreeWidget>
 #include <QObject>
 #include <QString>
 #include <QTest>
+#include <QTreeWidget>
 #include <QWheelEvent>
 #include <QWidget>
-#include <ostream>
 #include <functional>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -21,6 +21,7 @@
 #include "forms/message_box.h"
 #include "forms/modal.h"
 
+// A failed check shows a QString as its text.
 inline void PrintTo(const QString& text, std::ostream* out)
 {
     *out << '"' << text.toStdString() << '"';
