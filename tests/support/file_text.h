@@ -15,6 +15,24 @@ inline std::string Bytes(const std::filesystem::path& path)
     return ReadWholeFile(PathText(path)).value_or("<missing>");
 }
 
+// What a save left in `dir` besides the pairs it keeps (the files and their
+// .bak, .orig and .prev): its temporaries and commit record; empty when none.
+inline std::vector<std::string> SaveLeftovers(const std::filesystem::path& dir)
+{
+    std::vector<std::string> left;
+    for (const auto& entry : std::filesystem::directory_iterator(dir)) {
+        const std::string name = PathText(entry.path().filename());
+        bool kept = false;
+        for (const char* file : {"players.dat", "teams.dat"}) {
+            for (const char* suffix : {"", ".bak", ".orig", ".prev"})
+                kept = kept || name == std::string(file) + suffix;
+        }
+        if (!kept && (name.starts_with("players.dat") || name.starts_with("teams.dat") || name.starts_with("kolta-save")))
+            left.push_back(name);
+    }
+    return left;
+}
+
 // The lines of a game file as a test writes them down.
 using Lines = std::vector<std::string>;
 

@@ -1,17 +1,31 @@
 #pragma once
 
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QListWidget>
 #include <QObject>
 #include <QString>
 #include <QTest>
+#include <QTreeWidget>
+#include <QWheelEvent>
 #include <QWidget>
+#include <functional>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "forms/message_box.h"
+#include "forms/modal.h"
+
+// A failed check shows a QString as its text.
+inline void PrintTo(const QString& text, std::ostream* out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
 
 // Tests reach a window's controls the way the windows name them: each control
 // a test works carries an object name for its job.
@@ -65,6 +79,13 @@ inline bool Pick(QListWidget& list, const QString& text)
     return true;
 }
 
+// A double click at `at` in a view; its first click arrives as a press of its own.
+inline void DoubleClick(QAbstractItemView& view, const QRect& at)
+{
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, at.center());
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, at.center());
+}
+
 // The rows of a list or the entries of a drop-down, as the user reads them.
 inline std::vector<QString> Rows(const QListWidget& list)
 {
@@ -79,6 +100,51 @@ inline std::vector<QString> Rows(const QComboBox& box)
     for (int row = 0; row < box.count(); ++row)
         rows.push_back(box.itemText(row));
     return rows;
+}
+
+// Clicks `button`; `work` drives the modal window it opens when that is a
+// Window. The name of the window opened, "" if none.
+template <typename Window = QDialog>
+QString Press(QAbstractButton& button, const std::function<void(Window&)>& work = {})
+{
+    QString opened;
+    SetModalDriver([&](QDialog& shown) {
+        opened = shown.objectName();
+        if (auto* window = dynamic_cast<Window*>(&shown); window && work)
+            work(*window);
+    });
+    QTest::mouseClick(&button, Qt::LeftButton);
+    SetModalDriver({});
+    return opened;
+}
+
+// One notch of the wheel, down, over the middle of `control`; whether the
+// control took it.
+inline bool WheelDown(QWidget& control)
+{
+    const QPointF middle = QRectF(control.rect()).center();
+    QWheelEvent wheel(middle, control.mapToGlobal(middle), QPoint(), QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&control, &wheel);
+    return wheel.isAccepted();
+}
+
+// The texts, or another part, of the messages shown so far, in order.
+inline std::vector<QString> ShownTexts(QString ShownMessage::*part = &ShownMessage::text)
+{
+    std::vector<QString> parts;
+    for (const ShownMessage& message : ShownMessages())
+        parts.push_back(message.*part);
+    return parts;
+}
+
+// The texts in `column` of the rows under `parent` of a tree.
+inline std::vector<QString> Texts(const QTreeWidgetItem& parent, int column = 0)
+{
+    std::vector<QString> texts;
+    for (int row = 0; row < parent.childCount(); ++row)
+        texts.push_back(parent.child(row)->text(column));
+    return texts;
 }
 
 // How a message box looks: its icon and its buttons.

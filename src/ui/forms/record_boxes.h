@@ -90,9 +90,10 @@ public:
     {
         QString said;
         for (const Box& box : boxes_) {
+            if (box.field->kind != FieldKind::Number || box.widget == editing_)
+                continue;
             auto* text = static_cast<TextBox*>(box.widget);
-            if (box.field->kind != FieldKind::Number || box.widget == editing_ ||
-                ExactNumber(text->text().toStdString()))
+            if (ExactNumber(text->text().toStdString()))
                 continue;
             said = QStringLiteral("%1 stays %2: %3")
                        .arg(FromGame(box.field->label), QString::number(record.*box.field->number),

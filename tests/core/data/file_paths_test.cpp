@@ -41,18 +41,6 @@ fs::path ProgramFolder()
 #endif
 }
 
-// Files a save writes on the way, which it must not leave behind.
-std::vector<std::string> Temporaries(const fs::path& dir)
-{
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(dir)) {
-        const std::string name = PathText(entry.path().filename());
-        if (name.find(".saving") != std::string::npos || name.find("kolta-save.commit") != std::string::npos)
-            names.push_back(name);
-    }
-    return names;
-}
-
 // Folder names as UTF-8 text, the form paths take inside the program.
 const std::vector<std::string> FolderNames = {
     "KOLTA",
@@ -95,7 +83,7 @@ protected:
         EXPECT_EQ(Bytes(dir / "teams.dat"), WriteTeams(game));
         EXPECT_EQ(Bytes(dir / "players.dat.bak"), oldPlayers);
         EXPECT_EQ(Bytes(dir / "teams.dat.bak"), oldTeams);
-        EXPECT_EQ(Temporaries(dir), std::vector<std::string>{});
+        EXPECT_EQ(SaveLeftovers(dir), std::vector<std::string>{});
     }
 
     ScratchFolder scratch_;
@@ -219,7 +207,7 @@ TEST_F(FilePaths, AFileHeldOpenStopsTheSaveAndBothFilesStay)
         EXPECT_NE(saved.reason.find("another program"), std::string::npos) << saved.reason;
         EXPECT_EQ(Bytes(dir / "players.dat"), oldPlayers);
         EXPECT_EQ(Bytes(dir / "teams.dat"), oldTeams);
-        EXPECT_EQ(Temporaries(dir), std::vector<std::string>{});
+        EXPECT_EQ(SaveLeftovers(dir), std::vector<std::string>{});
         // Once the game lets go, the same edit saves.
         EXPECT_TRUE(SaveGame(*game).ok());
     }

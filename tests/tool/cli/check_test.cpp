@@ -35,13 +35,12 @@ TEST_F(Check, FindsEachKindOfProblemWhereItIs)
     for (int number = 1; number <= 501; ++number)
         allTeams = Cat(std::move(allTeams), TeamRecordLines("Team", number));
     // Oddities the editor copes with; player 6 (29 February of a leap year) has none.
-    const Lines odd = Cat(PlayerRecordLines(1, "Arlow", 2), With(PlayerRecordLines(2, "Brenick"), BatsLine, "2"),
-                          With(With(PlayerRecordLines(3, "Corvane"), NationLine, "40"), BatSkillLine, "61"),
-                          With(PlayerRecordLines(4, "Dunmore"), FieldAbilityLine, "9"), PlayerRecordLines(5, ""),
-                          With(With(PlayerRecordLines(6), BirthDayLine, "29"), BirthMonthLine, "2"),  // a leap year
-                          With(With(With(PlayerRecordLines(7), BirthDayLine, "29"), BirthMonthLine, "2"),
-                               BirthYearLine, "1981"),
-                          With(PlayerRecordLines(9), InitialsLine, "R J"));
+    const Lines odd = Cat(PlayerRecordLines(1, "Arlow", 2), Edit(PlayerRecordLines(2, "Brenick"), {{BatsLine, "2"}}),
+                          Edit(PlayerRecordLines(3, "Corvane"), {{NationLine, "40"}, {BatSkillLine, "61"}}),
+                          Edit(PlayerRecordLines(4, "Dunmore"), {{FieldAbilityLine, "9"}}), PlayerRecordLines(5, ""),
+                          Edit(PlayerRecordLines(6), {{BirthDayLine, "29"}, {BirthMonthLine, "2"}}),  // a leap year
+                          Edit(PlayerRecordLines(7), {{BirthDayLine, "29"}, {BirthMonthLine, "2"}, {BirthYearLine, "1981"}}),
+                          Edit(PlayerRecordLines(9), {{InitialsLine, "R J"}}));
     struct Case {
         const char* what;
         Lines players;
@@ -67,9 +66,9 @@ TEST_F(Check, FindsEachKindOfProblemWhereItIs)
          {"teams.dat: 2: teamNumber: error"}},
         {"a comma splits a surname", PlayerRecordLines(1, "Ard,en"), team,
          {"players.dat: 1: surname: error", "players.dat: 1: birthDay: error"}},
-        {"a team name opening with a double quote", one, With(team, TeamNameLine, "\"Ashby#"),
+        {"a team name opening with a double quote", one, Edit(team, {{TeamNameLine, "\"Ashby#"}}),
          {"teams.dat: 1: teamName: error", "teams.dat: 1: line 10: error"}},
-        {"number lines that are no number", With(one, BatSkillLine, "high"), With(team, ReputationLine, "40000"),
+        {"number lines that are no number", Edit(one, {{BatSkillLine, "high"}}), Edit(team, {{ReputationLine, "40000"}}),
          {"players.dat: 1: batSkill: error", "teams.dat: 1: reputation: error"}},
         {"a squad of 21 runs into the next team", one, Cat(team, Lines{"1"}, TeamRecordLines("Bexley", 2)),
          {"teams.dat: 1: squad: error", "teams.dat: 2: homeCountry: error"}},

@@ -50,13 +50,6 @@ inline Lines TeamRecordLines(const std::string& name, int number, const std::vec
     return lines;
 }
 
-// `lines` with line `line` (from 1) replaced.
-inline Lines With(Lines lines, int line, const std::string& text)
-{
-    lines.at(line - 1) = text;
-    return lines;
-}
-
 // Line `line` of player `number` among players 1, 2, ... written in a row.
 constexpr int OfPlayer(int number, int line)
 {
@@ -98,20 +91,15 @@ struct ToolArg {
     ToolArg(const fs::path& path) : text(PathText(path)) {}
 };
 
-inline ToolRun RunTool(const std::vector<std::string>& args)
-{
-    std::ostringstream out;
-    std::ostringstream err;
-    const int code = RunKoltaData(args, out, err);
-    return {code, out.str(), err.str()};
-}
-
-inline ToolRun RunTool(std::initializer_list<ToolArg> toolArgs)
+inline ToolRun RunTool(const std::vector<ToolArg>& toolArgs)
 {
     std::vector<std::string> args;
     for (const ToolArg& arg : toolArgs)
         args.push_back(arg.text);
-    return RunTool(args);
+    std::ostringstream out;
+    std::ostringstream err;
+    const int code = RunKoltaData(args, out, err);
+    return {code, out.str(), err.str()};
 }
 
 inline void WriteBytes(const fs::path& path, const std::string& bytes)

@@ -55,11 +55,10 @@ TEST_F(ExportImport, TheSampleAndWindowsNamesComeBackByteForByte)
 
     // é, a no-break space, € and †, the undefined 0x81, Ÿ, a double quote and
     // a "#" inside a name, a blank at the end of a surname, no initials.
-    const Lines players = Cat(With(PlayerRecordLines(1, "Ch\xE9ron\xA0\x80\x86", 1), InitialsLine, "\x81\x9F#"),
-                              With(PlayerRecordLines(2, "Mac\"Dee#Two ", 1), InitialsLine, "#"),
+    const Lines players = Cat(Edit(PlayerRecordLines(1, "Ch\xE9ron\xA0\x80\x86", 1), {{InitialsLine, "\x81\x9F#"}}),
+                              Edit(PlayerRecordLines(2, "Mac\"Dee#Two ", 1), {{InitialsLine, "#"}}),
                               PlayerRecordLines(3, "O'Rourke"));
-    const Lines teams = With(With(TeamRecordLines("Z\xFCrich Zebras", 1, {1, 2}), AbbreviationLine, "Z\xDF#"),
-                             ReputationLine, "-7");
+    const Lines teams = Edit(TeamRecordLines("Z\xFCrich Zebras", 1, {1, 2}), {{AbbreviationLine, "Z\xDF#"}, {ReputationLine, "-7"}});
     const fs::path game = GameOf(players, teams);
     const fs::path csv = Export(game);
     const std::string playersCsv = Bytes(csv / "players.csv");

@@ -19,8 +19,8 @@ TEST_F(Normalize, WritesWhatTheEditorsSaveWritesAndNeverHalfAGame)
     // their leading zeros, a team is numbered by its place, and whatever
     // follows the end sign is gone.
     const Lines player =
-        With(With(With(PlayerRecordLines(1, "Mardle "), 2, "x"), InitialsLine, "  R J #"), BatSkillLine, "030");
-    const Lines team = With(With(TeamRecordLines("Ashby ", 99, {0, 1}), 1, "7"), 9, "5");
+        Edit(PlayerRecordLines(1, "Mardle "), {{2, "x"}, {InitialsLine, "  R J #"}, {BatSkillLine, "030"}});
+    const Lines team = Edit(TeamRecordLines("Ashby ", 99, {0, 1}), {{1, "7"}, {9, "5"}});
     const std::string players = Join(Cat(player, PlayerRecordLines(3, "Corvane")));
     const std::string teams = Join(Cat(team, Lines(20, ""), Lines{"stray"}));
     const fs::path game = GameFolder(players, teams);
@@ -29,7 +29,7 @@ TEST_F(Normalize, WritesWhatTheEditorsSaveWritesAndNeverHalfAGame)
     EXPECT_EQ(run.code, 0) << run.err;
     const Lines blankPlayer2 = Cat(Lines{"2", "#", "#", "#"}, Lines(17, "0"));
     EXPECT_EQ(Bytes(game / "players.dat"),
-              PlayersBytes(Cat(With(PlayerRecordLines(1, "Mardle "), BatSkillLine, "30"), blankPlayer2,
+              PlayersBytes(Cat(Edit(PlayerRecordLines(1, "Mardle "), {{BatSkillLine, "30"}}), blankPlayer2,
                                PlayerRecordLines(3, "Corvane"))));
     EXPECT_EQ(Bytes(game / "teams.dat"), TeamsBytes(TeamRecordLines("Ashby ", 1, {0, 1})));
     EXPECT_EQ(Bytes(game / "players.dat.bak"), players);
@@ -82,8 +82,8 @@ TEST_F(Diff, RecordByRecordAndFieldByField)
     // Player 2 moves to team 2, player 3 leaves, player 1 also turns up in team 4,
     // team 3 swaps its two players, team 2 changes country, and player 7 is new.
     const fs::path after = GameOf(
-        With(With(Players({1, 2, 0, 2, 3, 3, 0}), OfPlayer(4, SurnameLine), "Dunmoore#"), OfPlayer(4, BatsLine), "1"),
-        Cat(With(TeamRecordLines("Ashby", 1, {1}), ReputationLine, "51"), TeamRecordLines("Bexley", 2, {4, 2}, 3),
+        Edit(Players({1, 2, 0, 2, 3, 3, 0}), {{OfPlayer(4, SurnameLine), "Dunmoore#"}, {OfPlayer(4, BatsLine), "1"}}),
+        Cat(Edit(TeamRecordLines("Ashby", 1, {1}), {{ReputationLine, "51"}}), TeamRecordLines("Bexley", 2, {4, 2}, 3),
             TeamRecordLines("Crane", 3, {6, 5}), TeamRecordLines("Dorne", 4, {1})));
 
     const ToolRun run = RunTool({"diff", before, after});

@@ -6,50 +6,19 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "data/players_file.h"
-#include "data/teams_file.h"
+#include "diff/game_files.h"
 #include "findwindow/find_window.h"
 #include "support/scratch_folder.h"
+#include "support/window_parts.h"
 
 using ::testing::ElementsAre;
 
-inline void PrintTo(const QString& text, std::ostream* out)
-{
-    *out << '"' << text.toStdString() << '"';
-}
-
 namespace {
-
-// The sample game, as the editor loads it.
-std::unique_ptr<Game> SampleGame()
-{
-    const ScratchFolder scratch;
-    auto game = std::make_unique<Game>();
-    SetGameDirectory(*game, scratch.Sample().string());
-    ReadPlayersFile(*game);
-    ReadTeamsFile(*game);
-    return game;
-}
-
-std::vector<QString> RowTexts(const QTreeWidget& list, int column)
-{
-    std::vector<QString> texts;
-    for (int row = 0; row < list.topLevelItemCount(); ++row)
-        texts.push_back(list.topLevelItem(row)->text(column));
-    return texts;
-}
-
-void DoubleClickRow(QTreeWidget& list, int row)
-{
-    const QRect at = list.visualItemRect(list.topLevelItem(row));
-    // The first click of a double click arrives as a press of its own.
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at.center());
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at.center());
-}
 
 class FindWindowTest : public ::testing::Test {
 protected:
-    std::unique_ptr<Game> game = SampleGame();
+    const ScratchFolder scratch;
+    std::unique_ptr<Game> game = ReadGameFiles(scratch.Sample().string());
     FindWindow window{*game, QDate(2000, 1, 1)};
     QSignalSpy chosen{&window, &FindWindow::playerChosen};
 
@@ -67,9 +36,9 @@ TEST_F(FindWindowTest, TypingNarrowsTheListAndEnterChoosesTheRowOfTheArrowKeys)
     QTest::keyClicks(window.findBox, QStringLiteral("bisk"));
     EXPECT_GT(window.matchList->topLevelItemCount(), 4);
     QTest::keyClicks(window.findBox, QStringLiteral("DENE"));
-    EXPECT_THAT(RowTexts(*window.matchList, 1),
+    EXPECT_THAT(Texts(*window.matchList->invisibleRootItem(), 1),
                 ElementsAre("C Biskdene", "E G Biskdene", "I Biskdene", "S Biskdene"));
-    EXPECT_THAT(RowTexts(*window.matchList, 0), ElementsAre("387", "538", "397", "466"));
+    EXPECT_THAT(Texts(*window.matchList->invisibleRootItem()), ElementsAre("387", "538", "397", "466"));
     const QTreeWidgetItem* first = window.matchList->topLevelItem(0);
     EXPECT_EQ(first->text(3), "New Zealand");
     EXPECT_EQ(first->text(4), "20");  // born 18/3/1979
@@ -90,7 +59,7 @@ TEST_F(FindWindowTest, ADoubleClickChoosesAndEnterOnNothingChoosesNobody)
     QTest::keyClicks(window.findBox, QStringLiteral("845"));
     ASSERT_EQ(window.matchList->topLevelItemCount(), 1);
     EXPECT_EQ(window.matchList->topLevelItem(0)->text(2), "no club");
-    DoubleClickRow(*window.matchList, 0);
+    DoubleClick(*window.matchList, window.matchList->visualItemRect(window.matchList->topLevelItem(0)));
     ASSERT_EQ(chosen.count(), 1);
     EXPECT_EQ(chosen.at(0).at(0).toInt(), 845);
 

@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QTest>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -27,17 +26,6 @@ struct Picks {
         });
     }
 };
-
-// One notch of the wheel, down, over the middle of `control`; whether the
-// control took it.
-bool WheelDown(QWidget& control)
-{
-    const QPointF middle = QRectF(control.rect()).center();
-    QWheelEvent wheel(middle, control.mapToGlobal(middle), QPoint(), QPoint(0, -120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&control, &wheel);
-    return wheel.isAccepted();
-}
 
 TEST(WheelGuard, TheWheelChangesAComboOnlyWhileItHasTheFocus)
 {

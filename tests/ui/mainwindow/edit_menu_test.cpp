@@ -32,7 +32,6 @@ TEST(EditMenu, ItemsNameTheStepsAndTheKeysTakeTheGamesStepFromAnyBox)
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
 
-    EXPECT_EQ(edit.menu->title(), "&Edit");
     EXPECT_FALSE(edit.undo->isEnabled());
     EXPECT_EQ(edit.undo->text(), "&Undo");
 

@@ -2,7 +2,9 @@
 
 #include <QDir>
 
+#include "data/file_io.h"
 #include "data/players_file.h"
+#include "diff/game_files.h"
 #include "data/setting_file.h"
 #include "data/teams_file.h"
 #include "options/options_window.h"
@@ -72,6 +74,19 @@ void EditorTest::MakeEditor(const SettingPlaces& places)
     editor = std::make_unique<Editor>(places);
     main = &editor->Window();
     game = &editor->Document().Records();
+}
+
+std::string EditorTest::Files() const
+{
+    const auto bytes = [this](const char* file) {
+        return ReadWholeFile(ToSystemPath(GameFolder() + '/' + file)).value_or("(missing)");
+    };
+    return bytes("players.dat") + "|" + bytes("teams.dat");
+}
+
+std::unique_ptr<Game> EditorTest::OnDisk() const
+{
+    return ReadGameFiles(ToSystemPath(GameFolder()));
 }
 
 void EditorTest::Retype(const char* box, const QString& text)

@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QTest>
 #include <memory>
-#include <ostream>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -21,11 +20,6 @@
 #include "support/qt_path.h"
 #include "support/scratch_folder.h"
 #include "support/window_parts.h"
-
-inline void PrintTo(const QString& text, std::ostream* out)
-{
-    *out << '"' << text.toStdString() << '"';
-}
 
 class EditorTest : public ::testing::Test {
 protected:
@@ -47,6 +41,9 @@ protected:
     void Answer(std::vector<QMessageBox::StandardButton> answers) { answers_ = std::move(answers); }
 
     QString GameFolder() const { return QtPath(scratch_ / "game"); }
+    // The bytes of both game files in the folder, and the game they hold.
+    std::string Files() const;
+    std::unique_ptr<Game> OnDisk() const;
 
     // Types into a box as a person would, over its whole text chosen with the keys.
     void Retype(const char* box, const QString& text);

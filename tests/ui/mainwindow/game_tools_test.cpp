@@ -24,20 +24,6 @@ using ::testing::IsEmpty;
 
 namespace {
 
-std::vector<QString> Texts(const QTreeWidgetItem& parent)
-{
-    std::vector<QString> texts;
-    for (int row = 0; row < parent.childCount(); ++row)
-        texts.push_back(parent.child(row)->text(0));
-    return texts;
-}
-
-void DoubleClick(QAbstractItemView& view, const QRect& at)
-{
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, at.center());
-    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, at.center());
-}
-
 class GameToolsTest : public EditorTest {
 protected:
     ~GameToolsTest() override { SetModalDriver({}); }
@@ -167,12 +153,6 @@ TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
     EXPECT_EQ(table.rowCount(), 0);
 }
 
-TEST_F(GameToolsTest, AGameWithoutErrorsShowsNoBar)
-{
-    Open();
-    EXPECT_FALSE(Find<ProblemsBar>(*main, "problemsBar").isVisible());
-}
-
 // The changes are grouped into players, teams and squad moves; a double click
 // or Enter goes to the record, a group's heading nowhere.
 TEST_F(GameToolsTest, ChangesSinceTheOriginalAndSinceTheSaveGoToTheirRecords)
@@ -190,12 +170,7 @@ TEST_F(GameToolsTest, ChangesSinceTheOriginalAndSinceTheSaveGoToTheirRecords)
     QTreeWidget& tree = *changes.changeTree;
     EXPECT_EQ(changes.summary->text(), "6 changes since the original files:");
     EXPECT_THAT(Texts(*tree.invisibleRootItem()), ElementsAre("Players (3)", "Teams (1)", "Squad moves (2)"));
-    EXPECT_THAT(Texts(*tree.topLevelItem(0)),
-                ElementsAre("player 3 (C Carvery): surname \"Carver\" -> \"Carvery\"",
-                            "player 4 (D Dunmore): teamNumber 2 -> 1", "player 6 (F Fairweather): teamNumber 3 -> 0"));
-    EXPECT_THAT(Texts(*tree.topLevelItem(2)),
-                ElementsAre("player 4 (D Dunmore) moved from team 2 (Bayside) to team 1 (Harbour CC)",
-                            "player 6 (F Fairweather) left team 3 (Kentish Town)"));
+    // The lines are kolta-data diff's, in its tests; here, where they lead.
     DoubleClick(tree, tree.visualItemRect(tree.topLevelItem(1)->child(0)));  // Bayside's wealth
     EXPECT_EQ(main->CurrentTeam(), 2);
     tree.setFocus();

@@ -4,11 +4,8 @@
 #include <QDir>
 #include <QFile>
 
-#include "data/file_io.h"
 #include "data/load_game.h"
-#include "data/players_file.h"
 #include "data/save.h"
-#include "data/teams_file.h"
 #include "editor_fixture.h"
 #include "mainwindow/changed_files_bar.h"
 #include "options/options_window.h"
@@ -16,14 +13,6 @@
 namespace {
 
 const QString Saved = QStringLiteral("Updated Player and Team data successfully");
-
-std::vector<QString> MessageTexts()
-{
-    std::vector<QString> texts;
-    for (const ShownMessage& message : ShownMessages())
-        texts.push_back(message.text);
-    return texts;
-}
 
 class Saving : public EditorTest {
 protected:
@@ -36,21 +25,12 @@ protected:
         Retype("team.teamName", "Perth Pelicans XI");
     }
 
-    std::string Files() const
-    {
-        const auto bytes = [this](const char* file) {
-            return ReadWholeFile(ToSystemPath(GameFolder() + '/' + file)).value_or("(missing)");
-        };
-        return bytes("players.dat") + "|" + bytes("teams.dat");
-    }
     bool FilesUnchanged() const { return Files() == filesBefore_; }
     // The whole game as the window holds it, the two edits included.
     bool EditsSaved() const
     {
-        const auto read = std::make_unique<Game>();
-        SetGameDirectory(*read, ToSystemPath(GameFolder()));
-        return ReadPlayersFile(*read).Read() && ReadTeamsFile(*read).Read() && read->Players == game->Players &&
-               read->Teams == game->Teams && read->Players[1].batSkill == 58 &&
+        const auto read = OnDisk();
+        return read->Players == game->Players && read->Teams == game->Teams && read->Players[1].batSkill == 58 &&
                read->Teams[1].teamName == "Perth Pelicans XI";
     }
 
@@ -79,7 +59,7 @@ TEST_F(Saving, CtrlSSavesWhicheverControlHasTheFocus)
         control->setFocus();
         ClearShownMessages();
         QTest::keyClick(control, Qt::Key_S, Qt::ControlModifier);
-        EXPECT_EQ(MessageTexts(), std::vector<QString>{Saved})
+        EXPECT_EQ(ShownTexts(), std::vector<QString>{Saved})
             << control->metaObject()->className() << " at " << control->x() << "," << control->y();
     }
     EXPECT_EQ(controls, 30);
@@ -155,9 +135,7 @@ TEST_F(Saving, AnotherProgramsSaveIsToldAndASaveOverItAsksFirst)
         EXPECT_EQ(game->Players[1].batSkill, c.reloads ? 58 : 59);
         EXPECT_EQ(Document().IsModified(), !c.reloads && !c.savesMine);
         EXPECT_EQ(bar.isVisible(), !c.reloads && !c.savesMine);
-        if (c.savesMine) {
-            EXPECT_EQ(ReadWholeFile(ToSystemPath(GameFolder() + "/teams.dat.prev")),
-                      theirs.substr(theirs.find('|') + 1));
+        if (c.savesMine) {  // what the .prev pair holds is pair_commit_test's
             EXPECT_TRUE(ShownMessages().back().text.contains("players.dat.prev and teams.dat.prev"));
         }
         EXPECT_TRUE(main->isVisible());

@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QWheelEvent>
 
 #include "data/file_io.h"
 #include "data/players_file.h"
@@ -35,39 +34,14 @@ protected:
         ClearShownMessages();
     }
 
-    std::string FileBytes(const char* file) const
-    {
-        return ReadWholeFile(ToSystemPath(GameFolder() + '/' + file)).value_or("(missing)");
-    }
-    std::string Files() const { return FileBytes("players.dat") + "|" + FileBytes("teams.dat"); }
-
-    // The game as the files in the folder hold it.
-    std::unique_ptr<Game> OnDisk() const
-    {
-        auto read = std::make_unique<Game>();
-        SetGameDirectory(*read, ToSystemPath(GameFolder()));
-        ReadPlayersFile(*read);
-        ReadTeamsFile(*read);
-        return read;
-    }
-
     QAction& Undo() const { return Find<QAction>(*main, "undoAction"); }
     QAction& Redo() const { return Find<QAction>(*main, "redoAction"); }
     QPushButton& Button(const char* name) const { return Find<QPushButton>(*main, name); }
 
-    // Runs `work` on the window the button opens.
-    template <typename Window>
-    void Through(const char* button, std::function<void(Window&)> work)
-    {
-        SetModalDriver([&](QDialog& shown) { work(dynamic_cast<Window&>(shown)); });
-        Button(button).click();
-        SetModalDriver({});
-    }
-
     // Searches every club and moves the player of that surname in.
     void Transfer(const char* button, const char* surname, const char* moveButton)
     {
-        Through<SearchWindow>(button, [&](SearchWindow& search) {
+        Press<SearchWindow>(Button(button), [&](SearchWindow& search) {
             Find<QPushButton>(search, "searchButton").click();
             ChoiceList& results = Find<ChoiceList>(search, "resultList");
             QString row;
@@ -81,7 +55,7 @@ protected:
 
     void NewPlayer(const char* surname)
     {
-        Through<NewPlayerWindow>("addNewPlayerButton", [&](NewPlayerWindow& form) {
+        Press<NewPlayerWindow>(Button("addNewPlayerButton"), [&](NewPlayerWindow& form) {
             const std::pair<const char*, const char*> typed[] = {
                 {"initials", "N"}, {"surname", surname}, {"birthDay", "1"},      {"birthMonth", "2"},
                 {"birthYear", "1990"}, {"batSkill", "30"}, {"batAggression", "5"}, {"bowlSkill", "20"},
@@ -149,19 +123,12 @@ TEST_F(UnsavedWork, LeavingAsksWhenThereAreUnsavedChanges)
         }
     }
 
-    // Undoing back to the saved state takes the mark away; a save keeps the
-    // steps, and undoing past it puts the mark back.
+    // Undoing back to the saved state takes the mark away (when the state
+    // counts as saved is game_document_test's).
     OpenStill();
     Retype("team.wealth", "700");
     Undo().trigger();
     EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
-    EXPECT_FALSE(Document().IsModified());
-    Redo().trigger();
-    Answer({QMessageBox::Ok});
-    Find<QAction>(*main, "saveAction").trigger();
-    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
-    Undo().trigger();
-    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")*");
     EXPECT_EQ(BoxText("team.wealth"), "-250");
 }
 
@@ -184,31 +151,18 @@ TEST_F(UnsavedWork, EveryKindOfStepIsUndoneAndRedoneWhereItHappened)
     EXPECT_EQ(Redo().text(), "&Redo edit of Potential for H R Quillfeather");
     Redo().trigger();
 
-    // Typing again in the box of the newest step joins that step; the keys
-    // take the newest step whichever box has the focus.
-    TextBox& batSkill = Find<TextBox>(*main, "batSkill");
-    batSkill.setFocus();
-    Retype("potential", "18");
-    batSkill.setFocus();
-    QTest::keyClick(&batSkill, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(game->Players[1].potential, 16);
-    EXPECT_EQ(batSkill.text(), "25");
-    QTest::keyClick(&batSkill, Qt::Key_Y, Qt::ControlModifier);
-    EXPECT_EQ(game->Players[1].potential, 18);
-
-    const auto undoText = [&] { return Undo().text(); };
     Answer({QMessageBox::Yes});
     Pick(Squad(), " Ormsby");
     Button("deletePlayerButton").click();
-    EXPECT_EQ(undoText(), "&Undo delete of Ormsby");
+    EXPECT_EQ(Undo().text(), "&Undo delete of Ormsby");
     // A transfer between two teams, then a replace and a new player.
     Transfer("addExistingPlayerButton", "Ashgrove", "addButton");
-    EXPECT_EQ(undoText(), "&Undo add of K Ashgrove to Perth Pelicans");
+    EXPECT_EQ(Undo().text(), "&Undo add of K Ashgrove to Perth Pelicans");
     Pick(Squad(), "T Vanterpool");
     Transfer("replacePlayerButton", "Calloway", "replaceButton");
-    EXPECT_EQ(undoText(), "&Undo replace of T Vanterpool by W Calloway");
+    EXPECT_EQ(Undo().text(), "&Undo replace of T Vanterpool by W Calloway");
     NewPlayer("Newcombe");
-    EXPECT_EQ(undoText(), "&Undo new player N Newcombe");
+    EXPECT_EQ(Undo().text(), "&Undo new player N Newcombe");
     EXPECT_EQ(game->PlayerCount, 7);
     EXPECT_EQ(Places(game->Teams[1]), (std::vector<int>{1, 6, 4, 7}));
     Find<QAction>(*main, "saveAction").trigger();  // a save keeps the steps
@@ -253,7 +207,7 @@ TEST_F(UnsavedWork, EveryKindOfStepIsUndoneAndRedoneWhereItHappened)
     EXPECT_EQ(Places(game->Teams[1]), (std::vector<int>{1, 6, 4, 7}));
     EXPECT_EQ(Shown(), View("Perth Pelicans", 7, "Newcombe"));
     EXPECT_EQ(game->Players[1].batSkill, 25);
-    EXPECT_EQ(game->Players[1].potential, 18);
+    EXPECT_EQ(game->Players[1].potential, 19);
 }
 
 // No player of another squad stays on show; the wheel changes nothing it
@@ -272,13 +226,7 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
     EXPECT_TRUE(column.isEnabled());
 
     // The wheel over a list the user is not working passes it by.
-    auto& batPosition = Combo("batPosition");
-    const int position = batPosition.currentIndex();
-    const QPointF middle = QRectF(batPosition.rect()).center();
-    QWheelEvent wheel(middle, batPosition.mapToGlobal(middle), QPoint(), QPoint(0, -120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&batPosition, &wheel);
-    EXPECT_EQ(batPosition.currentIndex(), position);
+    EXPECT_FALSE(WheelDown(Combo("batPosition")));
 
     const QString notWhole = " is not a whole number from -32768 to 32767";
     const struct {
@@ -292,12 +240,6 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
         {"team.wealth", "1234567", BoxMark::Refused,
          "Wealth takes a whole number from -32768 to 32767: the record holds 0.", "0",
          "Wealth stays 0: 1234567" + notWhole},
-        {"team.wealth", "0x1F", BoxMark::Refused,
-         "Wealth takes a whole number from -32768 to 32767: the record holds 0.", "0",
-         "Wealth stays 0: 0x1F" + notWhole},
-        {"batSkill", "12.5", BoxMark::Refused,
-         "Bat skill takes a whole number from -32768 to 32767: the record holds 0.", "0",
-         "Bat skill stays 0: 12.5" + notWhole},
         {"batSkill", "", BoxMark::Refused, "Bat skill takes a whole number from -32768 to 32767: the record holds 0.",
          "0", "Bat skill stays 0: an empty box" + notWhole},
         {"batSkill", "75", BoxMark::Unusual, "Bat skill runs from 0 to 60 in the game: 75 is stored all the same.",
@@ -327,8 +269,6 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
     EXPECT_EQ(BoxText("team.wealth"), "0");
     EXPECT_EQ(OnDisk()->Teams[2].wealth, 0);
     EXPECT_EQ(OnDisk()->Players[4].batSkill, 44);
-    QTest::keyClicks(&Find<TextBox>(*main, "initials"), ",");
-    EXPECT_EQ(main->statusBar()->currentMessage(), "A name cannot hold a comma");
 }
 
 // A game folder that cannot be opened at start, or a game file in it that is

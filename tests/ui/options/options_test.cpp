@@ -28,22 +28,17 @@
 #include "support/qt_path.h"
 #include "support/scratch_folder.h"
 #include "support/window_parts.h"
+#include "ui/mainwindow/editor_fixture.h"
 
 namespace {
 
-class OptionsTest : public ::testing::Test {
+class OptionsTest : public EditorTest {
 protected:
     void SetUp() override
     {
-        places = {QtPath(scratch.Folder("exe") / "editor.dat"), QtPath(scratch / "config" / "editor.dat")};
-        ClearShownMessages();
-        SetMessageAnswerer([](const ShownMessage&) { return QMessageBox::Ok; });
+        places = {QtPath(scratch_.Folder("exe") / "editor.dat"), QtPath(scratch_ / "config" / "editor.dat")};
     }
-    void TearDown() override
-    {
-        SetModalDriver({});
-        SetMessageAnswerer({});
-    }
+    void TearDown() override { SetModalDriver({}); }
 
     // The chooser while it is open, driven by `drive`.
     void WhileOpen(std::function<void(OptionsWindow&)> drive)
@@ -54,9 +49,8 @@ protected:
     QString Setting() const { return FromSystemPath(ReadSettingFile(ToSystemPath(places.besideExecutable))); }
 
     // A copy of a game folder among the fixtures.
-    QString Fixture(const char* name) const { return QDir(QtPath(scratch.Fixture(name))).canonicalPath(); }
+    QString Fixture(const char* name) const { return QDir(QtPath(scratch_.Fixture(name))).canonicalPath(); }
 
-    ScratchFolder scratch;
     SettingPlaces places;
     // Sydney Sixes (Smith, Jones), Perth Pies, Hobart Hurricanes and Leeds
     // Lions, the last of another country.
@@ -70,7 +64,7 @@ TEST_F(OptionsTest, ADriveThatCannotBeReadIsReportedAndChangesNothing)
     auto& folders = Find<FolderTree>(options, "folderList");
     auto& drives = Find<DriveBox>(options, "driveList");
     ASSERT_TRUE(folders.SetPath(full));
-    const QString noDisk = QtPath(scratch / "drive-without-a-disk");
+    const QString noDisk = QtPath(scratch_ / "drive-without-a-disk");
     drives.AddDrive(noDisk);
     drives.setCurrentIndex(drives.count() - 1);
     ASSERT_EQ(ShownMessages().size(), 1u);
@@ -96,8 +90,7 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
         SCOPED_TRACE(dir.toStdString());
         const bool good = dir == full;
         ClearShownMessages();
-        Editor editor(places);
-        MainWindow& main = editor.Window();
+        MakeEditor(places);
         WhileOpen([&](OptionsWindow& options) {
             EXPECT_FALSE(Find<QPushButton>(options, "firstStartOkButton").isHidden());
             EXPECT_TRUE(Find<QPushButton>(options, "changeDirectoryOkButton").isHidden());
@@ -107,14 +100,14 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
                                                    : "Files teams.dat and players.dat NOT found in current directory.");
             QTest::mouseClick(&Find<QPushButton>(options, "firstStartOkButton"), Qt::LeftButton);
         });
-        ASSERT_EQ(editor.Start(), good);
+        ASSERT_EQ(editor->Start(), good);
         if (good) {  // what the window then shows is the start-up's test
             EXPECT_EQ(Setting(), full);
-            EXPECT_EQ(ShownTitle(main), "KOLTA editor (" + QDir::toNativeSeparators(full) + ")");
+            EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(full) + ")");
             EXPECT_TRUE(ShownMessages().empty());
             continue;
         }
-        EXPECT_TRUE(editor.Document().Folder().empty());
+        EXPECT_TRUE(Document().Folder().empty());
         EXPECT_FALSE(QFile::exists(places.besideExecutable));
         ASSERT_EQ(ShownMessages().size(), 1u);
         EXPECT_EQ(ShownMessages()[0].text, "teams.dat and players.dat not found in current directory.KOLTA ed will exit.");
@@ -128,10 +121,9 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
 TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
 {
     ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(full)).ok());
-    Editor editor(places);
-    ASSERT_TRUE(editor.Start());
-    MainWindow& window = editor.Window();
-    const Game* game = &editor.Document().Records();
+    MakeEditor(places);
+    ASSERT_TRUE(editor->Start());
+    MainWindow& window = *main;
     QAction& optionsAction = Find<QAction>(window, "optionsAction");
     ClearShownMessages();
     Find<TextBox>(window, "team.teamName").setText("Renamed but not saved");
@@ -143,12 +135,7 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
     EXPECT_EQ(ShownTitle(window), "KOLTA editor (" + QDir::toNativeSeparators(full) + ")*");
 
     const QString fewer = Fixture("game_one_team");  // Brisbane Bats (Green)
-    std::vector<QMessageBox::StandardButton> answers{QMessageBox::Cancel, QMessageBox::No};
-    SetMessageAnswerer([&](const ShownMessage&) {
-        const QMessageBox::StandardButton answer = answers.front();
-        answers.erase(answers.begin());
-        return answer;
-    });
+    Answer({QMessageBox::Cancel, QMessageBox::No});
     WhileOpen([&](OptionsWindow& options) {
         auto& folders = Find<FolderTree>(options, "folderList");
         EXPECT_EQ(folders.Path(), full);

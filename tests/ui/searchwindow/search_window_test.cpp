@@ -1,6 +1,8 @@
+#include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
+#include <QToolTip>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,12 +10,14 @@
 #include <algorithm>
 #include <functional>
 
+#include "forms/beep.h"
 #include "forms/choice_list.h"
 #include "forms/message_box.h"
 #include "forms/modal.h"
 #include "forms/text_box.h"
 #include "support/game_builder.h"
 #include "editor/editor.h"
+#include "newplayerwindow/new_player_window.h"
 #include "searchwindow/search_window.h"
 #include "support/window_parts.h"
 
@@ -21,8 +25,9 @@ using ::testing::ElementsAre;
 
 namespace {
 
-// Teams of the small game the window tests play on. Harbour and Bayside are
-// Australian, so the main window opens on Harbour with its first player chosen.
+// The windows a squad's buttons open: search (Add, Replace), Delete's
+// question and the new player's form. Harbour and Bayside are Australian, so
+// the main window opens on Harbour with its first player chosen.
 enum { Harbour = 1, Bayside, Kiwis, Newlands };
 
 void Click(QPushButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
@@ -63,31 +68,11 @@ protected:
         SetModalDriver({});
     }
 
-    // Presses `button` of the main window and gives the name of the window it
-    // opened, "" if none; `work` drives the search window if that opens.
-    QString Press(QPushButton* button, std::function<void(SearchWindow&)> work = {})
+    // Presses the main window's button `name`; `work` drives the search window if that opens.
+    QString Press(const char* name, const std::function<void(SearchWindow&)>& work = {})
     {
-        QString opened;
-        SetModalDriver([&](QDialog& form) {
-            opened = form.objectName();
-            if (auto* search = dynamic_cast<SearchWindow*>(&form); search && work)
-                work(*search);
-        });
-        Click(button);
-        SetModalDriver({});
-        return opened;
+        return ::Press<SearchWindow>(Find<QPushButton>(*main, name), work);
     }
-
-    // The texts, or the titles, of the messages shown so far, in order.
-    static std::vector<QString> Shown(QString ShownMessage::*part)
-    {
-        std::vector<QString> parts;
-        for (const ShownMessage& m : ShownMessages())
-            parts.push_back(m.*part);
-        return parts;
-    }
-    static std::vector<QString> Texts() { return Shown(&ShownMessage::text); }
-    static std::vector<QString> Titles() { return Shown(&ShownMessage::title); }
 
     GameBuilder b;
     Game& game = *b.game;   // the editor's own, changed behind its back where a test sets the scene
@@ -103,17 +88,23 @@ protected:
 TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
 {
     game.Players[7].batSkill = 30;
+    game.Players[2].batPosition = 2;
+    game.Players[30].batPosition = 7;  // a code with no entry
     game.Players[6].batSkill = 10;
     game.Teams[Newlands].squad[2] = 7;  // in two squads: the higher team is his club
     const auto teams = game.Teams;
-    Press(&Find<QPushButton>(*main, "addExistingPlayerButton"), [&](SearchWindow& form) {
+    Press("addExistingPlayerButton", [&](SearchWindow& form) {
         EXPECT_EQ(form.windowTitle(), "Add Player..");
         Click(&Find<QPushButton>(form, "addButton"));  // no candidate yet
         SearchAndPick(form, "A P0002");  // already in the squad
         Click(&Find<QPushButton>(form, "addButton"));
         EXPECT_EQ(game.Teams, teams);
 
-        SearchAndPick(form, "A P0030");
+        Pick(Find<ChoiceList>(form, "resultList"), "A P0030");
+        // The candidate's panel is read-only, and a code with no entry leaves
+        // its list on the entry before.
+        EXPECT_EQ(Find<QComboBox>(form, "batPosition").currentIndex(), 1);
+        EXPECT_FALSE(Find<TextBox>(form, "surname").isEnabled());
         Click(&Find<QPushButton>(form, "addButton"));
         Click(&Find<QPushButton>(form, "addButton"));  // him again
         // Filters and order take effect when Search is pressed, and a new
@@ -138,12 +129,12 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
         EXPECT_EQ(Squad().ChosenRow(), 0);  // the player shown stays chosen
         EXPECT_THAT(Places(game.Teams[Newlands]), ElementsAre(8));
         EXPECT_EQ(Find<TextBox>(form, "presentClub").text(), "Harbour CC");
-        EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "Player already in team",
+        EXPECT_THAT(ShownTexts(), ElementsAre("No Player Selected", "Player already in team",
                                          "A P0030 has been added to the Harbour CC squad.", "Player already in team",
                                          "No Player Selected",
                                          "A P0007 has been added to the Harbour CC squad and removed from "
                                          "Newlands squad."));
-        EXPECT_THAT(Titles(), ElementsAre("Add Player", "Error", "Add Player", "Error", "Add Player", "Add Player"));
+        EXPECT_THAT(ShownTexts(&ShownMessage::title), ElementsAre("Add Player", "Error", "Add Player", "Error", "Add Player", "Add Player"));
 
         // Players without a team, up to the twentieth; then the limit comes
         // first, also for a candidate who is in the squad.
@@ -152,7 +143,7 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
             SearchAndPick(form, QStringLiteral("A P00%1").arg(number, 2, 10, QLatin1Char('0')));
             Click(&Find<QPushButton>(form, "addButton"));
         }
-        EXPECT_EQ(Texts().back(), "A P0023 has been added to the Harbour CC squad.");
+        EXPECT_EQ(ShownTexts().back(), "A P0023 has been added to the Harbour CC squad.");
         EXPECT_EQ(Squad().count(), 20);
         ClearShownMessages();
         SearchAndPick(form, "A P0025");
@@ -162,10 +153,10 @@ TEST_F(SearchWindowTest, AddWalksFromTheFirstRefusalToAFullSquad)
     });
     EXPECT_EQ(game.Teams[Harbour].squad[20], 23);
     // A full squad refuses both adds before any window opens.
-    EXPECT_EQ(Press(&Find<QPushButton>(*main, "addExistingPlayerButton")), "");
-    EXPECT_EQ(Press(&Find<QPushButton>(*main, "addNewPlayerButton")), "");
-    EXPECT_THAT(Titles(), ElementsAre("Maximum Players", "Maximum Players", "Maximum Players", "Maximum Players"));
-    EXPECT_EQ(Texts().back(), "You already have the maximum of 20 players in the squad.");
+    EXPECT_EQ(Press("addExistingPlayerButton"), "");
+    EXPECT_EQ(Press("addNewPlayerButton"), "");
+    EXPECT_THAT(ShownTexts(&ShownMessage::title), ElementsAre("Maximum Players", "Maximum Players", "Maximum Players", "Maximum Players"));
+    EXPECT_EQ(ShownTexts().back(), "You already have the maximum of 20 players in the squad.");
 }
 
 // Replace mode twice: the last row, then the first; refusals keep the window
@@ -175,7 +166,7 @@ TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
     ClickRow(Squad(), 2);
     const auto teams = game.Teams;
     bool closed = false;
-    ASSERT_EQ(Press(&Find<QPushButton>(*main, "replacePlayerButton"), [&](SearchWindow& form) {
+    ASSERT_EQ(Press("replacePlayerButton", [&](SearchWindow& form) {
                   EXPECT_EQ(form.windowTitle(), "Replace player..");
                   EXPECT_FALSE(Find<QPushButton>(form, "addButton").isVisible()) << "no Add in this mode";
                   Click(&Find<QPushButton>(form, "replaceButton"));         // no candidate
@@ -192,10 +183,10 @@ TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
     EXPECT_TRUE(closed);
     EXPECT_THAT(Rows(Squad()), ElementsAre("K Venn", "A P0002", "S T Quill"));
     EXPECT_EQ(Squad().ChosenRow(), -1);
-    EXPECT_EQ(Press(&Find<QPushButton>(*main, "replacePlayerButton")), "");  // no row chosen
+    EXPECT_EQ(Press("replacePlayerButton"), "");  // no row chosen
 
     ClickRow(Squad(), 0);
-    Press(&Find<QPushButton>(*main, "replacePlayerButton"), [&](SearchWindow& form) {
+    Press("replacePlayerButton", [&](SearchWindow& form) {
         ASSERT_EQ(Find<QComboBox>(form, "clubFilter").count(), 5);  // no double rows from the earlier opening
         EXPECT_EQ(Find<QComboBox>(form, "nationalityFilter").currentIndex(), 0);
         EXPECT_EQ(Find<QComboBox>(form, "sortKeyList").currentIndex(), 0);
@@ -204,10 +195,10 @@ TEST_F(SearchWindowTest, ReplaceWalksThroughBothEndsOfTheSquad)
         SearchAndPick(form, "A P0003");
         Click(&Find<QPushButton>(form, "replaceButton"));
     });
-    EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "Player already in team",
+    EXPECT_THAT(ShownTexts(), ElementsAre("No Player Selected", "Player already in team",
                                      "S T Quill from Bayside has replaced A P0003 in the Harbour CC squad.",
                                      "No Player Selected", "A P0003 has replaced K Venn in the Harbour CC squad."));
-    EXPECT_THAT(Titles(), ElementsAre("Replace Player", "Error", "Replace Player", "Replace Player",
+    EXPECT_THAT(ShownTexts(&ShownMessage::title), ElementsAre("Replace Player", "Error", "Replace Player", "Replace Player",
                                       "Replace Player"));
     EXPECT_THAT(Rows(Squad()), ElementsAre("A P0003", "A P0002", "S T Quill"));
 }
@@ -216,8 +207,8 @@ TEST_F(SearchWindowTest, DeleteAsksFirstAndShowsThePlayerWhoFollowed)
 {
     answer = QMessageBox::No;
     Click(&Find<QPushButton>(*main, "deletePlayerButton"));
-    EXPECT_THAT(Texts(), ElementsAre("Are you sure you want to delete K Venn from Harbour CC Squad ?"));
-    EXPECT_THAT(Titles(), ElementsAre("Delete Player"));
+    EXPECT_THAT(ShownTexts(), ElementsAre("Are you sure you want to delete K Venn from Harbour CC Squad ?"));
+    EXPECT_THAT(ShownTexts(&ShownMessage::title), ElementsAre("Delete Player"));
     EXPECT_EQ(Look(ShownMessages()[0]), Look(QMessageBox::Critical, QMessageBox::Yes | QMessageBox::No));
     EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(1, 2, 3));
     EXPECT_EQ(Squad().ChosenRow(), 0);
@@ -239,9 +230,96 @@ TEST_F(SearchWindowTest, DeleteAsksFirstAndShowsThePlayerWhoFollowed)
     EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(2));
     // A full game refuses a new player before his window opens.
     game.PlayerCount = MaxPlayers;
-    EXPECT_EQ(Press(&Find<QPushButton>(*main, "addNewPlayerButton")), "");
-    EXPECT_THAT(Texts(), ElementsAre("No Player Selected", "The game already holds its maximum of 2000 players."));
-    EXPECT_THAT(Titles(), ElementsAre("Delete Player", "Maximum Players"));
+    EXPECT_EQ(Press("addNewPlayerButton"), "");
+    EXPECT_THAT(ShownTexts(), ElementsAre("No Player Selected", "The game already holds its maximum of 2000 players."));
+    EXPECT_THAT(ShownTexts(&ShownMessage::title), ElementsAre("Delete Player", "Maximum Players"));
+}
+
+void Paste(TextBox* box, const QString& text)
+{
+    box->clear();
+    QApplication::clipboard()->setText(text);
+    box->paste();
+}
+
+// The key filter beeps at what a box cannot take. Pasting skips it, but not
+// the length limit; OK judges what was pasted like anything typed, and a
+// refusal keeps the window and its entries. Once the entries are good, OK
+// stores the player, silently, and closes.
+TEST_F(SearchWindowTest, NewPlayerFromTheKeyFilterToTheSquad)
+{
+    auto& squad = Squad();
+    ClickRow(squad, 1);
+    ASSERT_EQ(main->CurrentPlayer(), 2);
+
+    bool closed = false;
+    ::Press<NewPlayerWindow>(Find<QPushButton>(*main, "addNewPlayerButton"), [&](NewPlayerWindow& form) {
+        const auto box = [&](const char* name) { return &Find<TextBox>(form, name); };
+        EXPECT_EQ(form.parentWidget(), main);
+        TextBox* skill = box("batSkill");
+        const int beeps = BeepCount();
+        QTest::keyClicks(skill, "a-.");
+        QTest::keyClick(skill, Qt::Key_Return);
+        EXPECT_EQ(skill->text(), "");
+        EXPECT_EQ(BeepCount() - beeps, 4);
+        EXPECT_TRUE(form.isVisible()) << "Enter in a number box presses no button";
+        QTest::keyClicks(skill, "456");
+        EXPECT_EQ(skill->text(), "45") << "two digits at most";
+        QTest::keyClick(skill, Qt::Key_Backspace);
+        EXPECT_EQ(skill->text(), "4");
+        // The names take any key the files can store, but no comma, nor a
+        // quote to begin with.
+        QTest::keyClicks(box("surname"), "O'Neil-Smith 2nd,");
+        QTest::keyClicks(box("initials"), "\"a.b");
+        EXPECT_EQ(box("surname")->text(), "O'Neil-Smith 2nd");
+        EXPECT_EQ(box("initials")->text(), "a.b");
+        EXPECT_EQ(QToolTip::text(), "A name cannot begin with a double quote") << "the refusal says why";
+        EXPECT_EQ(BeepCount() - beeps, 6);
+
+        Find<QPushButton>(form, "okButton").click();  // the date and most skills are still empty
+        const std::pair<const char*, const char*> typed[] = {
+            {"initials", "T"},     {"surname", "Newcombe"}, {"birthDay", "9"},           {"birthMonth", "11"},
+            {"birthYear", "1982"},      {"batSkill", "33"},      {"batAggression", "5"}, {"bowlSkill", "48"},
+            {"bowlEconomy", "16"}, {"fieldAbility", "22"},  {"potential", "14"},
+        };
+        for (const auto& [name, text] : typed) {
+            box(name)->clear();
+            QTest::keyClicks(box(name), text);
+        }
+        Paste(skill, "-5");
+        EXPECT_EQ(BeepCount() - beeps, 6);
+        Find<QPushButton>(form, "okButton").click();
+        EXPECT_TRUE(form.isVisible());
+        EXPECT_EQ(box("surname")->text(), "Newcombe");
+        EXPECT_EQ(skill->text(), "-5");
+        EXPECT_EQ(game.PlayerCount, 40);
+        EXPECT_EQ(game.Teams[Harbour].squad[4], 0);
+        Paste(box("birthYear"), "19821");
+        EXPECT_EQ(box("birthYear")->text(), "1982");
+
+        Paste(skill, "33");
+        Find<QComboBox>(form, "homeCountry").setCurrentIndex(1);
+        Find<QPushButton>(form, "okButton").click();
+        closed = !form.isVisible();
+    });
+    ASSERT_EQ(ShownMessages().size(), 2u) << "success is not announced";
+    // Each refusal names the first box at fault (which one is the core's FirstBadEntry).
+    const QString refusal = "Data not in correct range.Please see help for correct range of data values.\n\n";
+    const char* said[] = {"Date of birth is empty.", "Bat skill must lie from 0 to 60, not -5."};
+    for (std::size_t i = 0; i < std::size(said); ++i)
+        EXPECT_EQ(ShownMessages()[i].text, refusal + said[i]);
+    for (const ShownMessage& message : ShownMessages()) {
+        EXPECT_EQ(message.title, "Error");
+        EXPECT_EQ(Look(message), Look(QMessageBox::Information));
+    }
+    EXPECT_TRUE(closed);
+    EXPECT_EQ(game.Players[41].surname, "Newcombe");
+    EXPECT_EQ(game.Players[41].homeCountry, 2);
+    EXPECT_THAT(Places(game.Teams[Harbour]), ElementsAre(1, 2, 3, 41));
+    ASSERT_EQ(squad.count(), 4);
+    EXPECT_EQ(squad.NumberAt(3), 41);
+    EXPECT_EQ(squad.ChosenRow(), 1);
+    EXPECT_EQ(main->CurrentPlayer(), 2) << "the player shown before stays shown and chosen";
 }
 
 }  // namespace
