@@ -19,19 +19,7 @@ fuzz_one() {
 }
 
 failed=0
-running=0
-for name in $(kolta_fuzz_targets); do
-  if [ "$running" -ge "$(nproc)" ]; then
-    wait -n || failed=1
-    running=$((running - 1))
-  fi
-  fuzz_one "$name" &
-  running=$((running + 1))
-done
-while [ "$running" -gt 0 ]; do
-  wait -n || failed=1
-  running=$((running - 1))
-done
+kolta_each_fuzz_target fuzz_one || failed=1
 
 total=0
 printf '%-16s %14s %12s\n' target executions "per second"

@@ -69,26 +69,13 @@ fuzz_one() {
 
 # Every fuzz target, as many at once as there are cores.
 run_fuzz_targets() {
-  local name failed=0 running=0
   if ! kolta_fuzz_available; then
     echo "clang is not available: the fuzz targets are not run."
     return 0
   fi
   fuzz_build="${KOLTA_FUZZ_BUILD:-$KOLTA_ROOT/build-fuzz}"
   kolta_build_fuzz "$fuzz_build"
-  for name in $(kolta_fuzz_targets); do
-    if [ "$running" -ge "$(nproc)" ]; then
-      wait -n || failed=1
-      running=$((running - 1))
-    fi
-    fuzz_one "$name" &
-    running=$((running + 1))
-  done
-  while [ "$running" -gt 0 ]; do
-    wait -n || failed=1
-    running=$((running - 1))
-  done
-  return "$failed"
+  kolta_each_fuzz_target fuzz_one
 }
 stage "fuzz build and replay" run_fuzz_targets
 

@@ -47,6 +47,25 @@ kolta_fuzz_targets() {
   done
 }
 
+# Runs `$1 NAME` for every fuzz target, as many at once as there are cores;
+# fails when any of them failed.
+kolta_each_fuzz_target() {
+  local run="$1" name failed=0 running=0
+  for name in $(kolta_fuzz_targets); do
+    if [ "$running" -ge "$(nproc)" ]; then
+      wait -n || failed=1
+      running=$((running - 1))
+    fi
+    "$run" "$name" &
+    running=$((running + 1))
+  done
+  while [ "$running" -gt 0 ]; do
+    wait -n || failed=1
+    running=$((running - 1))
+  done
+  return "$failed"
+}
+
 # Whether clang and its fuzzer runtime are here, installing them if they can be.
 kolta_fuzz_available() {
   local missing=0
