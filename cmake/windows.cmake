@@ -16,8 +16,8 @@ endif()
 set(kolta_qt_dlls)
 
 # The plugin folders and the Qt plugins in each. The offscreen platform runs
-# the editor without a screen, as the installer's test does; the JPEG and
-# GIF plugins read the main window's two pictures.
+# the editor without a screen, as the installer's test does. The pictures are
+# PNG, which Qt reads itself, so no image plugin goes along.
 set(kolta_qt_plugin_folders)
 if(KOLTA_BUILD_GUI)
   foreach(target Qt6::Core Qt6::Gui Qt6::Widgets)
@@ -25,8 +25,7 @@ if(KOLTA_BUILD_GUI)
   endforeach()
   set(kolta_qt_plugins_platforms Qt6::QWindowsIntegrationPlugin Qt6::QOffscreenIntegrationPlugin)
   set(kolta_qt_plugins_styles Qt6::QWindowsVistaStylePlugin)
-  set(kolta_qt_plugins_imageformats Qt6::QJpegPlugin Qt6::QGifPlugin)
-  set(kolta_qt_plugin_folders platforms styles imageformats)
+  set(kolta_qt_plugin_folders platforms styles)
   # The Qt that tools/windows_qt.sh builds carries its licence texts and
   # where its source comes from.
   if(IS_DIRECTORY ${QT6_INSTALL_PREFIX}/licenses)

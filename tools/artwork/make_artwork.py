@@ -4,10 +4,11 @@
     python3 tools/artwork/make_artwork.py [output-folder]
 
 Writes icon.png (32x32, stumps and a ball) with the same drawing at the icon
-theme's sizes and as a Windows .ico under icons/, image1.jpg (400x100, the banner
-that leads to the user guide) and image2.gif (270x135, a scorecard that leads
-to the file format reference). Everything is drawn from shapes and the DejaVu
-fonts, so the pictures can be made again on any machine with ImageMagick 6.
+theme's sizes and as a Windows .ico under icons/, banner.png (400x100, the banner
+that leads to the user guide) and scorecard.png (270x135, a scorecard that leads
+to the file format reference). All are PNG, which Qt reads without a plugin.
+Everything is drawn from shapes and the DejaVu fonts, so the pictures can be
+made again on any machine with ImageMagick 6.
 """
 import os
 import subprocess
@@ -96,7 +97,7 @@ def banner(out):
              "-annotate", "+150+76", "New here? Read the user guide \u25b8",
              "-fill", "none", "-stroke", "#0d3310", "-strokewidth", "2",
              "-draw", f"rectangle 1,1 {w-2},{h-2}"]
-    convert([*draw, "-quality", "92"], out)
+    convert([*draw, "-colors", "256", "-depth", "8"], out)
 
 
 def scorecard(out):
@@ -130,7 +131,7 @@ def scorecard(out):
              "-draw", f"arc {w-27},{h-22} {w-13},{h-8} 120,240",
              "-stroke", "#5a3d1a", "-strokewidth", "2",
              "-draw", f"rectangle 1,1 {w-2},{h-2}"]
-    convert([*draw, "-colors", "64"], out)
+    convert([*draw, "-colors", "64", "-depth", "8"], out)
 
 
 def main():
@@ -142,8 +143,8 @@ def main():
     os.makedirs(icons, exist_ok=True)
     theme_icons(icons)
     windows_icon(os.path.join(icons, "kolta-editor.ico"))
-    banner(os.path.join(folder, "image1.jpg"))
-    scorecard(os.path.join(folder, "image2.gif"))
+    banner(os.path.join(folder, "banner.png"))
+    scorecard(os.path.join(folder, "scorecard.png"))
 
 
 if __name__ == "__main__":

@@ -63,7 +63,7 @@ MainWindow::MainWindow(GameDocument& document, GameFiles& files, GameTools& tool
     : QMainWindow(parent), document_(document), files_(files), tools_(tools)
 {
     setWindowTitle(caption_);
-    setWindowIcon(QIcon(QString::fromLatin1(kolta::artwork::Icon)));
+    setWindowIcon(QIcon(kolta::artwork::Picture(kolta::artwork::Icon)));
     // A fixed layout: the window can be minimised and closed, not resized.
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
@@ -106,11 +106,12 @@ void MainWindow::BuildLeftColumn(FittedLayout& at, QWidget* area)
     MakeBold(*teamList_);
     teamColumn_ = new TeamColumn(at, area);
 
+    namespace artwork = kolta::artwork;
     userGuidePicture_ =
-        Named(at.Put(new ClickablePicture(QPixmap(kolta::artwork::Banner), area), QRect(240, 3600, 2535, 615)),
+        Named(at.Put(new ClickablePicture(artwork::Picture(artwork::Banner), area), QRect(240, 3600, 2535, 615)),
               "userGuidePicture");
     fileFormatsPicture_ =
-        Named(at.Put(new ClickablePicture(QPixmap(kolta::artwork::Scorecard), area), QRect(240, 4320, 2535, 1575)),
+        Named(at.Put(new ClickablePicture(artwork::Picture(artwork::Scorecard), area), QRect(240, 4320, 2535, 1575)),
               "fileFormatsPicture");
 }
 

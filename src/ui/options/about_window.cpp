@@ -30,7 +30,7 @@ AboutWindow::AboutWindow(QWidget* parent)
     FittedLayout at(this, {AreaWidth, AreaHeight});
 
     auto* icon = at.Put(new QLabel(this), QRect(120, 240, 765, 705));
-    icon->setPixmap(QPixmap(QString::fromLatin1(kolta::artwork::Icon)));
+    icon->setPixmap(kolta::artwork::Picture(kolta::artwork::Icon));
     icon->setObjectName(QStringLiteral("icon"));
     icon->setScaledContents(true);
 
