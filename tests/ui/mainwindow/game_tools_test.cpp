@@ -115,6 +115,8 @@ TEST_F(GameToolsTest, FindPlayerGoesToHisCountryTeamAndRow)
     EXPECT_EQ(game->Teams[3], kites) << "the team shown before takes no typing";
 }
 
+// The list names each problem where it is, goes to its record on a double
+// click or Enter, and follows the checks the bar makes after every step.
 TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
 {
     Open(FromFixture("game_with_problems"));
@@ -125,9 +127,19 @@ TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
 
     auto& problems = Find<ProblemsWindow>(*main, "problemsWindow");
     ASSERT_TRUE(problems.isVisible());
+    EXPECT_EQ(problems.summary->text(), "3 errors, 1 warning");
     QTableWidget& table = *problems.problemTable;
     ASSERT_EQ(table.rowCount(), 4);
-    DoubleClick(table, table.visualItemRect(table.item(2, 4)));  // teams.dat 3: a squad names player 9
+    const auto row = [&table](int row) {
+        QStringList cells;
+        for (int column = 0; column < table.columnCount(); ++column)
+            cells << table.item(row, column)->text();
+        return cells.join(" | ");
+    };
+    EXPECT_THAT(row(0).toStdString(), ::testing::StartsWith("teams.dat | 1 | squad2 | error | "));
+    EXPECT_EQ(row(2), "teams.dat | 3 | squad2 | error | names player 9, who is not in players.dat (1 to PlayerCount 6)");
+    EXPECT_THAT(row(3).toStdString(), ::testing::StartsWith("players.dat | 5 | batSkill | warning | "));
+    DoubleClick(table, table.visualItemRect(table.item(2, 4)));
     EXPECT_EQ(main->CurrentTeam(), 3);
     EXPECT_EQ(Combo("teamList").currentText(), "Kentish Town");
     table.setFocus();
@@ -151,6 +163,10 @@ TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
     EXPECT_FALSE(bar.isVisible());
     Trigger("checkGameAction");
     EXPECT_EQ(table.rowCount(), 0);
+    EXPECT_EQ(problems.summary->text(), "No problems found.");
+    table.setFocus();
+    QTest::keyClick(&table, Qt::Key_Escape);
+    EXPECT_FALSE(problems.isVisible());
 }
 
 // The changes are grouped into players, teams and squad moves; a double click
