@@ -7,6 +7,7 @@
 #include "diff/game_files.h"
 #include "data/setting_file.h"
 #include "data/teams_file.h"
+#include "newplayerwindow/new_player_window.h"
 #include "options/options_window.h"
 
 EditorTest::EditorTest()
@@ -98,4 +99,15 @@ void EditorTest::Retype(const char* box, const QString& text)
     if (text.isEmpty())
         QTest::keyClick(edit, Qt::Key_Delete);
     QTest::keyClicks(edit, text);
+}
+
+void EditorTest::FillNewPlayer(NewPlayerWindow& form, const char* surname)
+{
+    const std::pair<const char*, const char*> entries[] = {
+        {"initials", "N"},     {"surname", surname},   {"birthDay", "1"},      {"birthMonth", "2"},
+        {"birthYear", "1990"}, {"batSkill", "30"},     {"batAggression", "5"}, {"bowlSkill", "20"},
+        {"bowlEconomy", "9"},  {"fieldAbility", "20"}, {"potential", "10"},
+    };
+    for (const auto& [box, text] : entries)
+        Find<TextBox>(form, box).setText(text);
 }

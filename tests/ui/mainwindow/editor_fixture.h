@@ -21,6 +21,8 @@
 #include "support/scratch_folder.h"
 #include "support/window_parts.h"
 
+class NewPlayerWindow;
+
 class EditorTest : public ::testing::Test {
 protected:
     EditorTest();
@@ -48,6 +50,8 @@ protected:
     // Types into a box as a person would, over its whole text chosen with the keys.
     void Retype(const char* box, const QString& text);
     QString BoxText(const char* box) const { return Find<TextBox>(*main, box).text(); }
+    // Gives every box of the new player's form a good entry, `surname` his name.
+    static void FillNewPlayer(NewPlayerWindow& form, const char* surname);
 
     // The window's controls by the names of their jobs.
     QComboBox& Combo(const char* name) const { return Find<QComboBox>(*main, name); }

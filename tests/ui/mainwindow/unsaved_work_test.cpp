@@ -56,13 +56,7 @@ protected:
     void NewPlayer(const char* surname)
     {
         Press<NewPlayerWindow>(Button("addNewPlayerButton"), [&](NewPlayerWindow& form) {
-            const std::pair<const char*, const char*> typed[] = {
-                {"initials", "N"}, {"surname", surname}, {"birthDay", "1"},      {"birthMonth", "2"},
-                {"birthYear", "1990"}, {"batSkill", "30"}, {"batAggression", "5"}, {"bowlSkill", "20"},
-                {"bowlEconomy", "9"},  {"fieldAbility", "20"}, {"potential", "10"},
-            };
-            for (const auto& [box, text] : typed)
-                Find<TextBox>(form, box).setText(text);
+            FillNewPlayer(form, surname);
             Find<QPushButton>(form, "okButton").click();
         });
     }
