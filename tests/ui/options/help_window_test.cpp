@@ -17,26 +17,18 @@
 
 #include "editor/editor.h"
 #include "options/help_window.h"
-#include "support/game_builder.h"
 
 using ::testing::ElementsAre;
 using ::testing::Pair;
 
 namespace {
 
-using Row = std::pair<QString, QString>;
-
-std::vector<Row> ShownRows(const HelpWindow& help)
-{
-    std::vector<Row> rows;
-    for (int row = 0; const auto* skill = help.findChild<QLabel*>(QStringLiteral("skill%1").arg(row)); ++row)
-        rows.emplace_back(skill->text(), help.findChild<QLabel*>(QStringLiteral("range%1").arg(row))->text());
-    return rows;
-}
-
 TEST(HelpWindow, ShowsTheRangesOfTheFieldTable)
 {
-    const std::vector<Row> rows = ShownRows(HelpWindow());
+    const HelpWindow help;
+    std::vector<std::pair<QString, QString>> rows;
+    for (int row = 0; const auto* skill = help.findChild<QLabel*>(QStringLiteral("skill%1").arg(row)); ++row)
+        rows.emplace_back(skill->text(), help.findChild<QLabel*>(QStringLiteral("range%1").arg(row))->text());
     EXPECT_THAT(rows, ElementsAre(Pair("Bat Skill", "0 - 60"), Pair("Bat Aggression", "0 - 20"),
                                   Pair("Bowl Skill", "0 - 60"), Pair("Bowl Econ.", "0 - 20"),
                                   Pair("Field Skill", "10 - 40"), Pair("Potential", "0 - 20")));
@@ -75,9 +67,7 @@ QString Shipped(const char* name)
 // does a guide that names a command the menus no longer have.
 TEST(Guides, ListEveryMenuCommandAndNoOther)
 {
-    GameBuilder b;
-    b.Player(1, "Oakes");
-    Editor editor{SettingPlaces{}, std::move(b.game)};
+    Editor editor{SettingPlaces{}};
     const std::set<QString> commands = MenuCommands(editor.Window());
     ASSERT_GE(commands.size(), 10u);
 

@@ -1,33 +1,18 @@
 // The game directory chooser on a first start and from the menu of a
 // running editor; About, and the two pictures' pages.
 
-#include <QAction>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QLabel>
 #include <QPushButton>
-#include <QTest>
 #include <QUrl>
-#include <memory>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "data/setting_file.h"
-#include "forms/choice_list.h"
-#include "forms/message_box.h"
-#include "forms/modal.h"
 #include "forms/clickable_picture.h"
-#include "forms/text_box.h"
-#include "editor/editor.h"
 #include "options/about_window.h"
 #include "options/folder_lists.h"
 #include "options/options_window.h"
 #include "options/web_pages.h"
-#include "support/qt_path.h"
-#include "support/scratch_folder.h"
-#include "support/window_parts.h"
 #include "ui/mainwindow/editor_fixture.h"
 
 namespace {
@@ -123,16 +108,15 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
     ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(full)).ok());
     MakeEditor(places);
     ASSERT_TRUE(editor->Start());
-    MainWindow& window = *main;
-    QAction& optionsAction = Find<QAction>(window, "optionsAction");
+    QAction& optionsAction = Find<QAction>(*main, "optionsAction");
     ClearShownMessages();
-    Find<TextBox>(window, "team.teamName").setText("Renamed but not saved");
-    Find<TextBox>(window, "batSkill").setText("99");
+    Find<TextBox>(*main, "team.teamName").setText("Renamed but not saved");
+    Find<TextBox>(*main, "batSkill").setText("99");
 
     WhileOpen([&](OptionsWindow& options) { Find<FolderTree>(options, "folderList").SetPath(teamsOnly); });
     optionsAction.trigger();
     EXPECT_EQ(game->Teams[1].teamName, "Renamed but not saved");
-    EXPECT_EQ(ShownTitle(window), "KOLTA editor (" + QDir::toNativeSeparators(full) + ")*");
+    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(full) + ")*");
 
     const QString fewer = Fixture("game_one_team");  // Brisbane Bats (Green)
     Answer({QMessageBox::Cancel, QMessageBox::No});
@@ -150,24 +134,18 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
     });
     optionsAction.trigger();
 
-    ASSERT_EQ(ShownMessages().size(), 2u);
-    for (const ShownMessage& asked : ShownMessages()) {
-        EXPECT_EQ(asked.text, "Do you want to update the files teams.dat and players.dat?");
-        EXPECT_EQ(asked.title, "Saving..");
-    }
+    EXPECT_EQ(ShownTexts(), std::vector<QString>(2, "Do you want to update the files teams.dat and players.dat?"));
+    EXPECT_EQ(ShownTexts(&ShownMessage::title), std::vector<QString>(2, "Saving.."));
     EXPECT_EQ(Setting(), fewer);
-    EXPECT_EQ(ShownTitle(window), "KOLTA Editor (" + QDir::toNativeSeparators(fewer) + ")");
+    EXPECT_EQ(ShownTitle(*main), "KOLTA Editor (" + QDir::toNativeSeparators(fewer) + ")");
     EXPECT_EQ(game->Teams[1].teamName, "Brisbane Bats");
     EXPECT_EQ(game->Players[1].batSkill, 0);
-    EXPECT_EQ(Rows(Find<QComboBox>(window, "teamList")), std::vector<QString>{"Brisbane Bats"});
-    const auto& squad = Find<ChoiceList>(window, "squadList");
-    EXPECT_EQ(squad.item(squad.ChosenRow())->text(), "A Green");
-    EXPECT_FALSE(Find<QAction>(window, "undoAction").isEnabled()) << "the old game's steps are gone";
+    EXPECT_EQ(Rows(Combo("teamList")), std::vector<QString>{"Brisbane Bats"});
+    EXPECT_EQ(Squad().item(Squad().ChosenRow())->text(), "A Green");
+    EXPECT_FALSE(Find<QAction>(*main, "undoAction").isEnabled()) << "the old game's steps are gone";
     // Slot 2 is where the reader's pass over the closing empty lines went:
     // blank but for its number.
-    TeamRecord endOfFile;
-    endOfFile.teamNumber = 2;
-    EXPECT_EQ(game->Teams[2], endOfFile);
+    EXPECT_EQ(game->Teams[2], TeamRecord{.teamNumber = 2});
     EXPECT_EQ(game->Teams[4], TeamRecord{});
     EXPECT_EQ(game->Players[4], PlayerRecord{});
     EXPECT_EQ(game->PlayerCount, 1);
