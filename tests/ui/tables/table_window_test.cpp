@@ -170,6 +170,14 @@ TEST_F(TableWindowTest, ShowsTheDocumentsRecordsAndFollowsItsSteps)
 // value go last.
 TEST_F(TableWindowTest, SortsStablyByEachHeaderClicked)
 {
+    // Nineteen more players, all alike and filtered out: among this many
+    // records an order that is not kept would show.
+    document.Change(QStringLiteral("fillers"), {}, [](Game& more) {
+        for (int number = 7; number <= 25; ++number)
+            more.Players[number].surname = "Filler";
+        more.PlayerCount = 25;
+    });
+    players->filterBox->setText(QStringLiteral("surname!=Filler"));
     const struct {
         const char* column;
         Qt::SortOrder order;
@@ -259,8 +267,6 @@ TEST_F(TableWindowTest, SetValueByKeyboardIsOneStepOrTheReason)
         EXPECT_EQ(game.Players[number].potential, potentials[number]) << number;
     EXPECT_EQ(document.History().count(), 1);
     EXPECT_EQ(document.History().undoText(), "set potential on 4 players");
-    document.Undo();
-    EXPECT_EQ(game.Players[3].potential, 0);
 }
 
 // Paste and Move Selected to Team: all or nothing, one step each.
