@@ -87,18 +87,12 @@ inline void DoubleClick(QAbstractItemView& view, const QRect& at)
 }
 
 // The rows of a list or the entries of a drop-down, as the user reads them.
-inline std::vector<QString> Rows(const QListWidget& list)
+template <typename List>
+std::vector<QString> Rows(const List& list)
 {
     std::vector<QString> rows;
     for (int row = 0; row < list.count(); ++row)
-        rows.push_back(list.item(row)->text());
-    return rows;
-}
-inline std::vector<QString> Rows(const QComboBox& box)
-{
-    std::vector<QString> rows;
-    for (int row = 0; row < box.count(); ++row)
-        rows.push_back(box.itemText(row));
+        rows.push_back(list.model()->index(row, 0).data().toString());
     return rows;
 }
 

@@ -33,7 +33,8 @@ TEST(FindWindow, ListsTheMatchesAndEnterOrADoubleClickChoosesOne)
     QTest::keyClicks(window.findBox, QStringLiteral("bisk"));
     EXPECT_GT(list.topLevelItemCount(), 4);
     QTest::keyClicks(window.findBox, QStringLiteral("DENE"));
-    EXPECT_THAT(Texts(*list.invisibleRootItem(), 1), ElementsAre("C Biskdene", "E G Biskdene", "I Biskdene", "S Biskdene"));
+    EXPECT_THAT(Texts(*list.invisibleRootItem(), 1),
+                ElementsAre("C Biskdene", "E G Biskdene", "I Biskdene", "S Biskdene"));
     EXPECT_THAT(Texts(*list.invisibleRootItem()), ElementsAre("387", "538", "397", "466"));
     EXPECT_EQ(list.topLevelItem(0)->text(3), "New Zealand");
     EXPECT_EQ(list.topLevelItem(0)->text(4), "20");  // born 18/3/1979

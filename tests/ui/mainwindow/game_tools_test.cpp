@@ -137,7 +137,8 @@ TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
         return cells.join(" | ");
     };
     EXPECT_THAT(row(0).toStdString(), ::testing::StartsWith("teams.dat | 1 | squad2 | error | "));
-    EXPECT_EQ(row(2), "teams.dat | 3 | squad2 | error | names player 9, who is not in players.dat (1 to PlayerCount 6)");
+    EXPECT_EQ(row(2),
+              "teams.dat | 3 | squad2 | error | names player 9, who is not in players.dat (1 to PlayerCount 6)");
     EXPECT_THAT(row(3).toStdString(), ::testing::StartsWith("players.dat | 5 | batSkill | warning | "));
     DoubleClick(table, table.visualItemRect(table.item(2, 4)));
     EXPECT_EQ(main->CurrentTeam(), 3);
