@@ -1,6 +1,8 @@
 #include "editor_fixture.h"
 
 #include <QDir>
+#include <QPushButton>
+#include <algorithm>
 
 #include "data/file_io.h"
 #include "data/players_file.h"
@@ -9,6 +11,7 @@
 #include "data/teams_file.h"
 #include "newplayerwindow/new_player_window.h"
 #include "options/options_window.h"
+#include "searchwindow/search_window.h"
 
 EditorTest::EditorTest()
 {
@@ -110,4 +113,14 @@ void EditorTest::FillNewPlayer(NewPlayerWindow& form, const char* surname)
     };
     for (const auto& [box, text] : entries)
         Find<TextBox>(form, box).setText(text);
+}
+
+void EditorTest::SearchAndPick(SearchWindow& form, const QString& name)
+{
+    QTest::mouseClick(&Find<QPushButton>(form, "searchButton"), Qt::LeftButton);
+    ChoiceList& results = Find<ChoiceList>(form, "resultList");
+    const auto rows = Rows(results);
+    const auto at = std::find(rows.begin(), rows.end(), name);
+    ASSERT_NE(at, rows.end()) << name.toStdString();
+    ClickRow(results, int(at - rows.begin()));
 }

@@ -22,6 +22,7 @@
 #include "support/window_parts.h"
 
 class NewPlayerWindow;
+class SearchWindow;
 
 class EditorTest : public ::testing::Test {
 protected:
@@ -52,6 +53,9 @@ protected:
     QString BoxText(const char* box) const { return Find<TextBox>(*main, box).text(); }
     // Gives every box of the new player's form a good entry, `surname` his name.
     static void FillNewPlayer(NewPlayerWindow& form, const char* surname);
+    // Searches with the search window's filters as they stand and picks the
+    // candidate listed as `name`: his initials and surname.
+    static void SearchAndPick(SearchWindow& form, const QString& name);
 
     // The window's controls by the names of their jobs.
     QComboBox& Combo(const char* name) const { return Find<QComboBox>(*main, name); }

@@ -1,20 +1,16 @@
 // Nothing typed is lost or changed behind the user's back: leaving with
 // unsaved changes asks first, every step can be undone and redone, and what a
 // box does not take as typed is shown. (That each key is in the record at
-// once is the typing test's.)
+// once is detail_display_test's.)
 
 #include <QDir>
 #include <QFile>
 #include <QPushButton>
 #include <QStatusBar>
 
-#include "data/file_io.h"
-#include "data/players_file.h"
 #include "data/setting_file.h"
-#include "data/teams_file.h"
 #include "editor_fixture.h"
 #include "forms/box_marks.h"
-#include "forms/modal.h"
 #include "newplayerwindow/new_player_window.h"
 #include "options/options_window.h"
 #include "searchwindow/search_window.h"
@@ -22,42 +18,22 @@
 namespace {
 
 const QString SaveQuestion = QStringLiteral("Do you want to update the files teams.dat and players.dat?");
+const QString Saved = QStringLiteral("Updated Player and Team data successfully");
 
 class UnsavedWork : public EditorTest {
 protected:
     ~UnsavedWork() override { SetModalDriver({}); }
 
-    // Opens the small game, no message shown yet.
-    void OpenStill()
-    {
-        Open();
-        ClearShownMessages();
-    }
-
     QAction& Undo() const { return Find<QAction>(*main, "undoAction"); }
     QAction& Redo() const { return Find<QAction>(*main, "redoAction"); }
     QPushButton& Button(const char* name) const { return Find<QPushButton>(*main, name); }
 
-    // Searches every club and moves the player of that surname in.
-    void Transfer(const char* button, const char* surname, const char* moveButton)
+    // Searches every club and moves the player listed as `name` in.
+    void Transfer(const char* button, const char* name, const char* moveButton)
     {
         Press<SearchWindow>(Button(button), [&](SearchWindow& search) {
-            Find<QPushButton>(search, "searchButton").click();
-            ChoiceList& results = Find<ChoiceList>(search, "resultList");
-            QString row;
-            for (const QString& listed : Rows(results))
-                if (listed.endsWith(QLatin1Char(' ') + QLatin1String(surname)))
-                    row = listed;
-            ASSERT_TRUE(Pick(results, row)) << surname;
+            SearchAndPick(search, name);
             Find<QPushButton>(search, moveButton).click();
-        });
-    }
-
-    void NewPlayer(const char* surname)
-    {
-        Press<NewPlayerWindow>(Button("addNewPlayerButton"), [&](NewPlayerWindow& form) {
-            FillNewPlayer(form, surname);
-            Find<QPushButton>(form, "okButton").click();
         });
     }
 
@@ -74,55 +50,57 @@ protected:
 // the saved state.
 TEST_F(UnsavedWork, LeavingAsksWhenThereAreUnsavedChanges)
 {
+    const QString title = "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")";
     const struct {
         bool edited;
         QMessageBox::StandardButton answer;
         bool closes;
-        bool saves;
+        std::vector<QString> said;
     } cases[] = {
-        {false, QMessageBox::Cancel, true, false},  // not asked at all
-        {true, QMessageBox::Cancel, false, false},
-        {true, QMessageBox::No, true, false},
-        {true, QMessageBox::Yes, true, true},
+        {false, QMessageBox::Cancel, true, {}},  // not asked at all
+        {true, QMessageBox::Cancel, false, {SaveQuestion}},
+        {true, QMessageBox::No, true, {SaveQuestion}},
+        {true, QMessageBox::Yes, true, {SaveQuestion, Saved}},
     };
     for (const bool throughMenu : {false, true}) {
         for (const auto& c : cases) {
             if (throughMenu && !c.edited)
                 continue;
             SCOPED_TRACE(testing::Message() << throughMenu << " " << c.edited << " " << c.answer);
-            OpenStill();
+            Open();
+            ClearShownMessages();
             const std::string before = Files();
-            EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
+            EXPECT_EQ(ShownTitle(*main), title);
             if (c.edited) {
                 Retype("team.wealth", "700");
-                EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")*");
+                EXPECT_EQ(ShownTitle(*main), title + "*");
             }
-            Answer({c.answer, QMessageBox::Ok});
+            Answer({c.answer});
             if (throughMenu)
                 Find<QAction>(*main, "exitAction").trigger();
             else
                 main->close();
             EXPECT_EQ(main->isVisible(), !c.closes);
-            ASSERT_EQ(ShownMessages().size(), c.edited ? 1u + c.saves : 0u);
-            if (c.edited) {
-                EXPECT_EQ(ShownMessages()[0].text, SaveQuestion);
-                EXPECT_EQ(ShownMessages()[0].title, "Saving..");
-                EXPECT_EQ(Look(ShownMessages()[0]),
-                          Look(QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel));
-            }
-            EXPECT_EQ(Files() == before, !c.saves);
-            if (c.saves) {
+            EXPECT_EQ(ShownTexts(), c.said);
+            const bool saves = c.said.size() == 2;
+            EXPECT_EQ(Files() == before, !saves);
+            if (saves) {
                 EXPECT_EQ(OnDisk()->Teams[1].wealth, 700);
             }
         }
     }
+    // The question, as the last leave asked it.
+    ASSERT_FALSE(ShownMessages().empty());
+    EXPECT_EQ(ShownMessages()[0].title, "Saving..");
+    EXPECT_EQ(Look(ShownMessages()[0]),
+              Look(QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel));
 
     // Undoing back to the saved state takes the mark away (when the state
     // counts as saved is game_document_test's).
-    OpenStill();
+    Open();
     Retype("team.wealth", "700");
     Undo().trigger();
-    EXPECT_EQ(ShownTitle(*main), "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")");
+    EXPECT_EQ(ShownTitle(*main), title);
     EXPECT_EQ(BoxText("team.wealth"), "-250");
 }
 
@@ -131,7 +109,7 @@ TEST_F(UnsavedWork, LeavingAsksWhenThereAreUnsavedChanges)
 // touched, and the undone session saves the files byte for byte as loaded.
 TEST_F(UnsavedWork, EveryKindOfStepIsUndoneAndRedoneWhereItHappened)
 {
-    OpenStill();
+    Open();
     const std::string loaded = Files();
     EXPECT_FALSE(Undo().isEnabled());
 
@@ -150,12 +128,15 @@ TEST_F(UnsavedWork, EveryKindOfStepIsUndoneAndRedoneWhereItHappened)
     Button("deletePlayerButton").click();
     EXPECT_EQ(Undo().text(), "&Undo delete of Ormsby");
     // A transfer between two teams, then a replace and a new player.
-    Transfer("addExistingPlayerButton", "Ashgrove", "addButton");
+    Transfer("addExistingPlayerButton", "K Ashgrove", "addButton");
     EXPECT_EQ(Undo().text(), "&Undo add of K Ashgrove to Perth Pelicans");
     Pick(Squad(), "T Vanterpool");
-    Transfer("replacePlayerButton", "Calloway", "replaceButton");
+    Transfer("replacePlayerButton", "W Calloway", "replaceButton");
     EXPECT_EQ(Undo().text(), "&Undo replace of T Vanterpool by W Calloway");
-    NewPlayer("Newcombe");
+    Press<NewPlayerWindow>(Button("addNewPlayerButton"), [](NewPlayerWindow& form) {
+        FillNewPlayer(form, "Newcombe");
+        Find<QPushButton>(form, "okButton").click();
+    });
     EXPECT_EQ(Undo().text(), "&Undo new player N Newcombe");
     EXPECT_EQ(game->PlayerCount, 7);
     EXPECT_EQ(Places(game->Teams[1]), (std::vector<int>{1, 6, 4, 7}));
@@ -209,7 +190,7 @@ TEST_F(UnsavedWork, EveryKindOfStepIsUndoneAndRedoneWhereItHappened)
 // is left, by Tab or by a command, its whole edit is taken back.
 TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
 {
-    OpenStill();
+    Open();
     const QWidget& column = Find<QWidget>(*main, "playerColumn");
     Pick(Combo("teamList"), "Darwin Dingoes");
     EXPECT_EQ(main->CurrentPlayer(), std::nullopt);
@@ -290,9 +271,8 @@ TEST_F(UnsavedWork, AGameFolderThatCannotBeOpenedAtStartIsToldAndOptionsOffered)
         SetModalDriver([&](QDialog& shown) { optionsShown = dynamic_cast<OptionsWindow*>(&shown) != nullptr; });
         MakeEditor(places);
         ASSERT_TRUE(editor->Start());
-        ASSERT_EQ(ShownMessages().size(), 1u) << c.told.toStdString();
-        EXPECT_EQ(ShownMessages()[0].text,
-                  c.told + "\n\nDo you want to choose the game's folder now (File > Options)?");
+        const QString offer = "\n\nDo you want to choose the game's folder now (File > Options)?";
+        EXPECT_EQ(ShownTexts(), std::vector<QString>{c.told + offer});
         EXPECT_EQ(optionsShown, c.answer == QMessageBox::Yes);
     }
 }
