@@ -1,7 +1,11 @@
-// How each field of a player and a team reaches its box and comes back, and
-// that showing a record changes nothing the user did not.
+// How each field of a player and a team reaches its box and comes back,
+// that showing a record changes nothing the user did not, and that what is
+// typed into a box goes into the current player's or team's record.
+
+#include <QStatusBar>
 
 #include "editor_fixture.h"
+#include "forms/beep.h"
 
 namespace {
 
@@ -61,12 +65,10 @@ TEST_F(DetailDisplay, EveryBoxShowsAndWritesItsOwnField)
         EXPECT_EQ(BoxText(b.box), b.shown) << b.box;
         Retype(b.box, b.typed);
     }
-    Combo("homeCountry").setCurrentIndex(2);
-    Combo("batPosition").setCurrentIndex(5);
-    Combo("bats").setCurrentIndex(0);
-    Combo("bowlType").setCurrentIndex(0);
-    Combo("bowls").setCurrentIndex(1);
-    Combo("fieldsAt").setCurrentIndex(3);
+    const std::pair<const char*, int> picks[] = {{"homeCountry", 2}, {"batPosition", 5}, {"bats", 0},
+                                                 {"bowlType", 0},    {"bowls", 1},       {"fieldsAt", 3}};
+    for (const auto& [list, entry] : picks)
+        Combo(list).setCurrentIndex(entry);
     QTest::keyClick(&Combo("team.homeCountry"), Qt::Key_Down);
     // Number, team and the game's hidden value are never written.
     const PlayerRecord player{.playerNumber = 1, .initials = "J", .surname = "Quill", .birthDay = 28,
@@ -81,6 +83,57 @@ TEST_F(DetailDisplay, EveryBoxShowsAndWritesItsOwnField)
     // The team now stands under its new country, with its new name.
     Pick(Combo("countryList"), "England");
     EXPECT_EQ(Rows(Combo("teamList")), std::vector<QString>{"Perth Pelicans II"});
+}
+
+TEST_F(DetailDisplay, ANewNameShowsInTheSquadListAndKeepsThePlayer)
+{
+    Open();
+    TextBox& surname = Find<TextBox>(*main, "surname");
+    surname.setFocus();
+    surname.end(false);
+    QTest::keyClicks(&surname, "s");
+    const int caret = surname.cursorPosition();
+    EXPECT_EQ(game->Players[1].surname, "Quillfeathers");
+    EXPECT_EQ(Rows(Squad()), (std::vector<QString>{"H R Quillfeathers", " Ormsby", "T Vanterpool"}));
+    EXPECT_EQ(Squad().ChosenRow(), 0);  // his row stays chosen, so Delete and Replace still find him
+    EXPECT_EQ(main->CurrentPlayer(), 1);
+    // The box being typed in is left alone.
+    EXPECT_EQ(QApplication::focusWidget(), &surname);
+    EXPECT_EQ(surname.cursorPosition(), caret);
+
+    // Another field of his leaves the list and its choice.
+    Pick(Squad(), " Ormsby");
+    Retype("batSkill", "13");
+    EXPECT_EQ(Squad().ChosenRow(), 1);
+}
+
+// Every name box turns away a key the files cannot carry, with a beep and
+// the reason in the status bar (what each name refuses is the core's
+// NameRefusal); only the surname refuses to become empty, as the search
+// lists players by it. (How a number box takes a text is unsaved_work_test's.)
+TEST_F(DetailDisplay, NameBoxesRefuseWhatTheFilesCannotCarryAndSayWhy)
+{
+    Open();
+    const QStatusBar& status = *main->statusBar();
+    for (const char* box : {"initials", "surname", "team.teamName", "team.abbreviation"}) {
+        const int beeps = BeepCount();
+        Retype(box, "O");
+        QTest::keyClicks(&Find<TextBox>(*main, box), ",\"");
+        EXPECT_EQ(status.currentMessage(), "A name cannot hold a comma") << box;
+        EXPECT_EQ(BoxText(box), "O\"") << box;
+        EXPECT_EQ(BeepCount(), beeps + 1) << box;
+    }
+    TextBox& surname = Find<TextBox>(*main, "surname");
+    surname.setFocus();
+    surname.end(false);
+    for (int key = 0; key < 3; ++key)
+        QTest::keyClick(&surname, Qt::Key_Backspace);
+    EXPECT_EQ(surname.text(), "O");
+    EXPECT_EQ(game->Players[1].surname, "O");
+    EXPECT_EQ(status.currentMessage(),
+              "A player needs a surname: type the new one before deleting the last letter");
+    Retype("initials", "");
+    EXPECT_EQ(game->Players[1].initials, "");
 }
 
 }  // namespace

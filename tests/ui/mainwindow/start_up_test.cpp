@@ -24,9 +24,6 @@ TEST_F(StartUp, OpensOnTheFirstTeamAndPlayerOfTheFirstCountry)
     EXPECT_EQ(QApplication::focusWidget(), &Squad());
     EXPECT_TRUE(ShownMessages().empty());
     EXPECT_FALSE(Find<QWidget>(*main, "problemsBar").isVisible()) << "a game without errors shows no bar";
-    // An edit reaches the record without help.
-    Retype("potential", "19");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return game->Players[1].potential == 19; }, 2000));
 
     // The West Indies entry gathers the teams of code 8; a picked team shows
     // its squad, the empty place in it taking no row.
