@@ -1,11 +1,15 @@
-// The lists and drop-downs the windows are built from: a pick is told once
-// for each key or click, and the wheel passes over a drop-down that is not
-// being worked.
+// The controls the windows are built from: a pick in a list is told once for
+// each key or click, the wheel passes over a drop-down that is not being
+// worked, and a box of the game's text turns away what the files could not
+// carry, with the code page between the box and the game.
+#include "forms/beep.h"
 #include "forms/choice_list.h"
 #include "forms/drop_down.h"
+#include "forms/game_text.h"
 #include "forms/text_box.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -14,18 +18,6 @@
 #include "support/window_parts.h"
 
 namespace {
-
-// The chosen row as each rowChosen came, one entry a pick.
-struct Picks {
-    std::vector<int> rows;
-    explicit Picks(ChoiceList& list)
-    {
-        QObject::connect(&list, &ChoiceList::rowChosen, [this, &list](int row) {
-            EXPECT_EQ(row, list.ChosenRow());
-            rows.push_back(row);
-        });
-    }
-};
 
 TEST(WheelGuard, TheWheelChangesAComboOnlyWhileItHasTheFocus)
 {
@@ -64,7 +56,11 @@ TEST(ChoiceList, KeysAndClicksChooseOnceEachEvenOnTheChosenRow)
     const std::pair<const char*, int> rows[] = {{"Atherton", 7}, {"Gooch", 8}, {"Gower", 9}, {"Atherton", 7}};
     for (const auto& [name, number] : rows)
         list.AddRow(name, number);
-    Picks picks(list);
+    std::vector<int> picks;  // the chosen row as each rowChosen came
+    QObject::connect(&list, &ChoiceList::rowChosen, [&list, &picks](int row) {
+        EXPECT_EQ(row, list.ChosenRow());
+        picks.push_back(row);
+    });
     ClickRow(list, 1);
     ClickRow(list, 1);
     QTest::keyClick(&list, Qt::Key_Down);
@@ -74,5 +70,71 @@ TEST(ChoiceList, KeysAndClicksChooseOnceEachEvenOnTheChosenRow)
     list.setCurrentRow(0);
     list.clear();
     EXPECT_EQ(list.ChosenRow(), -1);
-    EXPECT_EQ(picks.rows, (std::vector<int>{1, 1, 2, 3}));
+    EXPECT_EQ(picks, (std::vector<int>{1, 1, 2, 3}));
+}
+
+TEST(TextBox, TextRuleJudgesTypingPastingAndTypingOverASelection)
+{
+    TextBox box;
+    box.show();
+    box.setFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&box));
+    const auto paste = [&box](const QString& text) {
+        QApplication::clipboard()->setText(text);
+        QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    };
+    box.SetTextRule(
+        [](const QString& text) { return text.contains(',') ? std::optional<QString>("no comma") : std::nullopt; });
+    box.setText("Smith");
+    const int before = BeepCount();
+
+    QTest::keyClick(&box, Qt::Key_Home);
+    QTest::keyClick(&box, Qt::Key_Right);
+    QTest::keyClicks(&box, ",");
+    EXPECT_EQ(box.text(), "Smith");
+    EXPECT_EQ(box.cursorPosition(), 1);   // the caret stays where the user was typing
+    QTest::keyClicks(&box, "x");
+    EXPECT_EQ(box.text(), "Sxmith");
+
+    paste("a,b");
+    EXPECT_EQ(box.text(), "Sxmith");
+    paste("ab");
+    EXPECT_EQ(box.text(), "Sxabmith");
+    EXPECT_EQ(BeepCount() - before, 2);
+
+    // Selecting and typing over cannot dodge the rule.
+    box.SetTextRule(
+        [](const QString& text) { return text.size() == 1 ? std::optional<QString>("not one letter") : std::nullopt; });
+    box.setText("abc");
+    box.selectAll();
+    QTest::keyClicks(&box, "z");
+    EXPECT_EQ(box.text(), "abc");
+    QTest::keyClick(&box, Qt::Key_End);
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    EXPECT_EQ(box.text(), "ab");
+
+    // A locked box takes no keys at all.
+    box.setReadOnly(true);
+    QTest::keyClicks(&box, "xy");
+    paste("z");
+    EXPECT_EQ(box.text(), "ab");
+}
+
+TEST(GameText, RoundTripsEveryByteOfTheCodePageAndNamesOnlyWhatItCanHold)
+{
+    std::string all;
+    for (int byte = 1; byte < 256; ++byte)
+        all.push_back(static_cast<char>(byte));
+    EXPECT_EQ(ToGame(FromGame(all)), all);
+    EXPECT_EQ(FromGame("Zo\xEB\x80"), QString::fromUtf8("Zoë€"));
+    EXPECT_EQ(ToGame(QString::fromUtf8("Łukasz")), "ukasz");
+
+    // What the files cannot carry is refused in the core's tests; here, what
+    // the code page cannot: "ŁQ" would be shortened to a storable "Q", but the
+    // box must not let the user believe the whole name was kept.
+    for (const char* name : {"Zoë", "Šimonek"})
+        EXPECT_EQ(NameRefusalOf(QString::fromUtf8(name)), std::nullopt) << name;
+    EXPECT_EQ(NameRefusalOf(QString::fromUtf8("ŁQ")).value_or(QString()), QString::fromUtf8("A name cannot hold the character Ł"));
+    EXPECT_EQ(NameRefusalOf(QStringLiteral("O,Neil")).value_or(QString()), "A name cannot hold a comma");
 }
