@@ -1,5 +1,6 @@
-// How each field of a player and a team reaches its box and comes back,
-// that showing a record changes nothing the user did not, and that what is
+// The editor comes up on the first country, team and player of the game that
+// editor.dat names. Each field of a player and a team reaches its box and
+// comes back, showing a record changes nothing the user did not, and what is
 // typed into a box goes into the current player's or team's record.
 
 #include <QStatusBar>
@@ -9,6 +10,7 @@
 
 namespace {
 
+using StartUp = EditorTest;
 using DetailDisplay = EditorTest;
 using Entry = std::pair<int, QString>;
 
@@ -16,6 +18,61 @@ using Entry = std::pair<int, QString>;
 Entry Chosen(const QComboBox& box)
 {
     return {box.currentIndex(), box.currentText()};
+}
+
+TEST_F(StartUp, OpensOnTheFirstTeamAndPlayerOfTheFirstCountry)
+{
+    Open();
+    EXPECT_EQ(Combo("countryList").currentText(), "Australia");
+    EXPECT_EQ(Rows(Combo("teamList")), (std::vector<QString>{"Perth Pelicans", "Darwin Dingoes"}));
+    EXPECT_EQ(Combo("teamList").currentIndex(), 0);
+    EXPECT_EQ(TeamNumber(), "1");
+    // Empty initials leave a leading blank in the row.
+    EXPECT_EQ(Rows(Squad()), (std::vector<QString>{"H R Quillfeather", " Ormsby", "T Vanterpool"}));
+    EXPECT_EQ(Squad().ChosenRow(), 0);
+    EXPECT_EQ(main->CurrentPlayer(), 1);
+    EXPECT_EQ(QApplication::focusWidget(), &Squad());
+    EXPECT_TRUE(ShownMessages().empty());
+    EXPECT_FALSE(Find<QWidget>(*main, "problemsBar").isVisible()) << "a game without errors shows no bar";
+
+    // The West Indies entry gathers the teams of code 8; a picked team shows
+    // its squad, the empty place in it taking no row.
+    ASSERT_TRUE(Pick(Combo("countryList"), "West Indies and Mics."));
+    EXPECT_EQ(Rows(Combo("teamList")), std::vector<QString>{"Kingston Kites"});
+    EXPECT_EQ(Rows(Squad()), std::vector<QString>{"W Calloway"});
+    Pick(Combo("countryList"), "Australia");
+    QTest::keyClick(&Combo("teamList"), Qt::Key_Down);
+    EXPECT_EQ(TeamNumber(), "2");
+    EXPECT_EQ(Rows(Squad()), (std::vector<QString>{"K Ashgrove", "P J Brindle"}));
+    EXPECT_EQ(Squad().NumberAt(1), 5);
+}
+
+TEST_F(StartUp, AFirstCountryWithoutTeamsLeavesNoCurrentTeam)
+{
+    // 130 English teams, so that a team numbered 123 exists for the form's
+    // made-up caption to hit.
+    GameBuilder b;
+    b.Player(1, "Oakes", "J");
+    for (int number = 1; number <= 130; ++number) {
+        TeamRecord& team = b.Team(number, "Club " + std::to_string(number));
+        team.homeCountry = 2;
+        team.reputation = 50;
+    }
+    b.game->Teams[1].squad[1] = 1;
+    Open(std::move(b));
+    EXPECT_EQ(Combo("teamList").count(), 0);
+    EXPECT_EQ(Squad().count(), 0);
+    EXPECT_EQ(TeamNumber(), "");
+    EXPECT_EQ(main->CurrentPlayer(), std::nullopt);
+    Retype("team.teamName", "Renamed");
+    EXPECT_EQ(game->Teams[123].teamName, "Club 123");
+
+    // Once a team is shown, it is the one that edits go to.
+    Pick(Combo("countryList"), "England");
+    EXPECT_EQ(main->CurrentPlayer(), 1);
+    Retype("team.reputation", "61");
+    EXPECT_EQ(game->Teams[1].reputation, 61);
+    EXPECT_EQ(game->Teams[123].reputation, 50);
 }
 
 TEST_F(DetailDisplay, CodesShowAsTheirEntriesAndTickBackUnchanged)

@@ -1,9 +1,11 @@
 // Saving with the shortcut from any control, a save that the disk refuses,
-// also on the way out, and files another program saved meanwhile.
+// also on the way out, and files another program saved meanwhile; what the
+// message of a failed save says became of the files.
 
 #include <QDir>
 #include <QFile>
 
+#include "commands/save_failure.h"
 #include "data/load_game.h"
 #include "data/save.h"
 #include "editor_fixture.h"
@@ -133,6 +135,45 @@ TEST_F(Saving, AnotherProgramsSaveIsToldAndASaveOverItAsksFirst)
             EXPECT_TRUE(ShownMessages().back().text.contains("players.dat.prev and teams.dat.prev"));
         }
         EXPECT_TRUE(main->isVisible());
+    }
+}
+
+void Write(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+TEST(SaveFailure, TheMessageSaysWhichFilesTheFailedSaveChanged)
+{
+    const ScratchFolder root;
+    const auto filePath = [&](const char* name) { return QtPath(root / name); };
+    auto game = std::make_unique<Game>();
+    SetGameDirectory(*game, QFile::encodeName(QtPath(root.Path())).toStdString());
+    const FileResult failure{game->TeamsPath, "the disk is full"};
+    const struct {
+        bool playersWritten;
+        bool teamsWritten;
+        QString outcome;
+    } cases[] = {
+        {false, false, "Neither players.dat nor teams.dat was changed."},
+        {true, false, "players.dat was written but teams.dat was not"},
+        {false, true, "teams.dat was written but players.dat was not"},
+    };
+    for (const auto& c : cases) {
+        Write(filePath("players.dat"), "old players");
+        Write(filePath("teams.dat"), "old teams");
+        const FilesBeforeSave before(*game);
+        if (c.playersWritten)
+            Write(filePath("players.dat"), "new players");
+        if (c.teamsWritten)
+            Write(filePath("teams.dat"), "new teams");
+        const QString said = before.FailureText(failure);
+        EXPECT_TRUE(said.startsWith("Could not save " + QDir::toNativeSeparators(filePath("teams.dat")) + ":\nthe disk is full\n\n"))
+            << said.toStdString();
+        EXPECT_TRUE(said.contains(c.outcome)) << said.toStdString();
+        EXPECT_TRUE(said.endsWith("Your changes are still in the editor.")) << said.toStdString();
     }
 }
 

@@ -4,15 +4,12 @@
 // once is detail_display_test's.)
 
 #include <QDir>
-#include <QFile>
 #include <QPushButton>
 #include <QStatusBar>
 
-#include "data/setting_file.h"
 #include "editor_fixture.h"
 #include "forms/box_marks.h"
 #include "newplayerwindow/new_player_window.h"
-#include "options/options_window.h"
 #include "searchwindow/search_window.h"
 
 namespace {
@@ -215,8 +212,6 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
         {"team.wealth", "1234567", BoxMark::Refused,
          "Wealth takes a whole number from -32768 to 32767: the record holds 0.", "0",
          "Wealth stays 0: 1234567" + notWhole},
-        {"batSkill", "", BoxMark::Refused, "Bat skill takes a whole number from -32768 to 32767: the record holds 0.",
-         "0", "Bat skill stays 0: an empty box" + notWhole},
         {"batSkill", "75", BoxMark::Unusual, "Bat skill runs from 0 to 60 in the game: 75 is stored all the same.",
          "75", ""},
         {"batSkill", "44", BoxMark::Plain, "", "44", ""},
@@ -244,37 +239,6 @@ TEST_F(UnsavedWork, NoStaleStateNoWheelEditsAndVisibleRefusals)
     EXPECT_EQ(BoxText("team.wealth"), "0");
     EXPECT_EQ(OnDisk()->Teams[2].wealth, 0);
     EXPECT_EQ(OnDisk()->Players[4].batSkill, 44);
-}
-
-// A game folder that cannot be opened at start, or a game file in it that is
-// no file at all, is named with the reason, and File > Options is offered.
-TEST_F(UnsavedWork, AGameFolderThatCannotBeOpenedAtStartIsToldAndOptionsOffered)
-{
-    const QString missing = QtPath(scratch_ / "gone");
-    const QString refusing = QtPath(scratch_ / "refusing");
-    ASSERT_TRUE(QDir().mkpath(refusing + "/players.dat"));
-    ASSERT_TRUE(QFile::copy(QtPath(scratch_.Sample() / "teams.dat"), refusing + "/teams.dat"));
-    const SettingPlaces places{QtPath(scratch_ / "editor.dat"), QtPath(scratch_ / "config" / "editor.dat")};
-    const struct {
-        QString folder;
-        QString told;
-        QMessageBox::StandardButton answer;
-    } cases[] = {
-        {missing, "The game folder " + QDir::toNativeSeparators(missing) + " does not exist.", QMessageBox::No},
-        {refusing, "players.dat was not read: it is a folder, not a file", QMessageBox::Yes},
-    };
-    for (const auto& c : cases) {
-        ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(c.folder)).ok());
-        ClearShownMessages();
-        Answer({c.answer});
-        bool optionsShown = false;
-        SetModalDriver([&](QDialog& shown) { optionsShown = dynamic_cast<OptionsWindow*>(&shown) != nullptr; });
-        MakeEditor(places);
-        ASSERT_TRUE(editor->Start());
-        const QString offer = "\n\nDo you want to choose the game's folder now (File > Options)?";
-        EXPECT_EQ(ShownTexts(), std::vector<QString>{c.told + offer});
-        EXPECT_EQ(optionsShown, c.answer == QMessageBox::Yes);
-    }
 }
 
 }  // namespace
