@@ -1,9 +1,13 @@
+// The game's tools over the open game: Find Player and its window, the
+// problems bar and list, the changes since the original and since the save,
+// and the CSV import and export.
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTableWidget>
 #include <QTreeWidget>
 
@@ -49,9 +53,9 @@ protected:
                 row >= 0 ? squad.item(row)->text() : QString(), BoxText("surname")};
     }
 
-    // Answers the CSV folder chooser with `folder` and the import window
-    // with OK or Cancel, noting what the import window listed.
-    void DriveImport(const QString& folder, QDialogButtonBox::StandardButton press)
+    // Triggers the CSV command `action`, answering its folder chooser with
+    // `folder` and the import window with `press`, noting what that listed.
+    void RunCsv(const char* action, const QString& folder, QDialogButtonBox::StandardButton press)
     {
         SetModalDriver([=, this](QDialog& window) {
             if (auto* chooser = qobject_cast<QFileDialog*>(&window)) {
@@ -66,6 +70,7 @@ protected:
                     button->click();
             }
         });
+        Trigger(action);
     }
 
     std::vector<QString> listed_;
@@ -113,6 +118,51 @@ TEST_F(GameToolsTest, FindPlayerGoesToHisCountryTeamAndRow)
         Retype(box, "5");
     }
     EXPECT_EQ(game->Teams[3], kites) << "the team shown before takes no typing";
+}
+
+// Four players of the sample share a surname; the list tells them apart.
+// The arrow keys walk it from the box, Enter or a double click chooses, and
+// Enter with nothing listed chooses nobody. The matching and its order are
+// the core's.
+TEST(FindWindow, ListsTheMatchesAndEnterOrADoubleClickChoosesOne)
+{
+    const ScratchFolder scratch;
+    const auto game = ReadGameFiles(scratch.Sample().string());
+    FindWindow window(*game, QDate(2000, 1, 1));
+    QSignalSpy chosen(&window, &FindWindow::playerChosen);
+    QTreeWidget& list = *window.matchList;
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    EXPECT_TRUE(window.findBox->hasFocus());
+
+    QTest::keyClicks(window.findBox, QStringLiteral("bisk"));
+    EXPECT_GT(list.topLevelItemCount(), 4);
+    QTest::keyClicks(window.findBox, QStringLiteral("DENE"));
+    EXPECT_THAT(Texts(*list.invisibleRootItem(), 1),
+                ElementsAre("C Biskdene", "E G Biskdene", "I Biskdene", "S Biskdene"));
+    EXPECT_THAT(Texts(*list.invisibleRootItem()), ElementsAre("387", "538", "397", "466"));
+    EXPECT_EQ(list.topLevelItem(0)->text(3), "New Zealand");
+    EXPECT_EQ(list.topLevelItem(0)->text(4), "20");  // born 18/3/1979
+    QTest::keyClick(window.findBox, Qt::Key_Down);
+    QTest::keyClick(&list, Qt::Key_Down);
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(window.result(), QDialog::Accepted);
+
+    window.show();
+    window.findBox->setText(QStringLiteral("845"));
+    ASSERT_EQ(list.topLevelItemCount(), 1);
+    EXPECT_EQ(list.topLevelItem(0)->text(2), "no club");
+    DoubleClick(list, list.visualItemRect(list.topLevelItem(0)));
+
+    window.show();
+    window.findBox->setText(QStringLiteral("bisk"));
+    window.findBox->insert(QStringLiteral("\u03A9"));  // no Windows-1252 character
+    QTest::keyClick(window.findBox, Qt::Key_Return);
+    EXPECT_EQ(list.topLevelItemCount(), 0);
+    ASSERT_EQ(chosen.count(), 2);
+    EXPECT_EQ(chosen.at(0).at(0).toInt(), 397);
+    EXPECT_EQ(chosen.at(1).at(0).toInt(), 845);
 }
 
 // The list names each problem where it is, goes to its record on a double
@@ -213,37 +263,30 @@ TEST_F(GameToolsTest, AFaultyImportChangesNothingAndAGoodOneChangesOnlyTheOpenGa
     Open(FromFixture("game_with_changes"));
     const auto before = std::make_unique<Game>(*game);
 
-    DriveImport(Fixture("csv_faulty"), QDialogButtonBox::Close);
-    Trigger("importCsvAction");
+    RunCsv("importCsvAction", Fixture("csv_faulty"), QDialogButtonBox::Close);
     EXPECT_THAT(listed_, ElementsAre("players.csv:2: batAggression \"fast\" is not a whole number from -32768 to 32767",
                                      "players.csv:3: player numbers run from 1 to 2000, not 2001"));
     EXPECT_EQ(offered_, QDialogButtonBox::Close);
     EXPECT_EQ(game->Players, before->Players);
 
-    DriveImport(Fixture("csv_changes"), QDialogButtonBox::Cancel);
-    Trigger("importCsvAction");
+    RunCsv("importCsvAction", Fixture("csv_changes"), QDialogButtonBox::Cancel);
     EXPECT_EQ(listed_.size(), 3u);
     EXPECT_EQ(game->Players, before->Players);
 
-    DriveImport(Fixture("csv_changes"), QDialogButtonBox::Ok);
-    Trigger("importCsvAction");
+    RunCsv("importCsvAction", Fixture("csv_changes"), QDialogButtonBox::Ok);
     EXPECT_EQ(game->Players[5].surname, "Ellerby");
     EXPECT_EQ(game->Teams[3].wealth, 99);
     EXPECT_EQ(ReadGameFiles(ToSystemPath(GameFolder()))->Players[5].surname, "Ellery") << "nothing is saved";
 
     // The whole import is one step of the history.
-    QAction& undo = Find<QAction>(*main, "undoAction");
-    EXPECT_EQ(undo.text(), "&Undo import from CSV");
-    undo.trigger();
+    EXPECT_EQ(Find<QAction>(*main, "undoAction").text(), "&Undo import from CSV");
+    Trigger("undoAction");
     EXPECT_EQ(game->Players, before->Players);
     EXPECT_EQ(game->Teams, before->Teams);
-    Find<QAction>(*main, "redoAction").trigger();
-    EXPECT_EQ(game->Players[5].surname, "Ellerby");
 
     // Export writes both files where the user points.
     const QString sheets = QtPath(scratch_.Folder("sheets"));
-    DriveImport(sheets, QDialogButtonBox::Ok);
-    Trigger("exportCsvAction");
+    RunCsv("exportCsvAction", sheets, QDialogButtonBox::Ok);
     const auto exported = ImportCsvFolder(*game, ToSystemPath(sheets));
     EXPECT_TRUE(exported.read);
     EXPECT_THAT(exported.changes, IsEmpty());
