@@ -93,6 +93,13 @@ std::unique_ptr<Game> EditorTest::OnDisk() const
     return ReadGameFiles(ToSystemPath(GameFolder()));
 }
 
+std::vector<QString> EditorTest::Place() const
+{
+    const int row = Squad().ChosenRow();
+    return {Combo("countryList").currentText(), Combo("teamList").currentText(),
+            row >= 0 ? Squad().item(row)->text() : QString(), BoxText("surname")};
+}
+
 void EditorTest::Retype(const char* box, const QString& text)
 {
     TextBox* edit = &Find<TextBox>(*main, box);

@@ -61,6 +61,8 @@ protected:
     QComboBox& Combo(const char* name) const { return Find<QComboBox>(*main, name); }
     ChoiceList& Squad() const { return Find<ChoiceList>(*main, "squadList"); }
     QString TeamNumber() const { return Find<QLabel>(*main, "teamNumber").text(); }
+    // Where the window stands: country, team entry, chosen squad row and surname box.
+    std::vector<QString> Place() const;
 
     ScratchFolder scratch_;
     std::unique_ptr<Editor> editor;

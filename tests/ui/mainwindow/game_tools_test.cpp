@@ -44,15 +44,6 @@ protected:
         return built;
     }
 
-    // Where the main window stands: country, team entry, squad row, shown player.
-    std::vector<QString> Place() const
-    {
-        const ChoiceList& squad = Squad();
-        const int row = squad.ChosenRow();
-        return {Combo("countryList").currentText(), Combo("teamList").currentText(),
-                row >= 0 ? squad.item(row)->text() : QString(), BoxText("surname")};
-    }
-
     // Triggers the CSV command `action`, answering its folder chooser with
     // `folder` and the import window with `press`, noting what that listed.
     void RunCsv(const char* action, const QString& folder, QDialogButtonBox::StandardButton press)
