@@ -15,7 +15,7 @@
 #include <ostream>
 #include <stdexcept>
 #include <string>
-#include <utility>
+#include <tuple>
 #include <vector>
 
 #include "forms/message_box.h"
@@ -141,13 +141,14 @@ inline std::vector<QString> Texts(const QTreeWidgetItem& parent, int column = 0)
     return texts;
 }
 
-// How a message box looks: its icon and its buttons.
-using BoxLook = std::pair<QMessageBox::Icon, QMessageBox::StandardButtons::Int>;
+// How a message box looks: its title, icon and buttons.
+using BoxLook = std::tuple<QString, QMessageBox::Icon, QMessageBox::StandardButtons::Int>;
 inline BoxLook Look(const ShownMessage& message)
 {
-    return {message.icon, message.buttons.toInt()};
+    return {message.title, message.icon, message.buttons.toInt()};
 }
-inline BoxLook Look(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons = QMessageBox::Ok)
+inline BoxLook Look(const QString& title, QMessageBox::Icon icon,
+                    QMessageBox::StandardButtons buttons = QMessageBox::Ok)
 {
-    return {icon, buttons.toInt()};
+    return {title, icon, buttons.toInt()};
 }

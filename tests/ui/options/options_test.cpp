@@ -122,8 +122,7 @@ TEST_F(OptionsTest, ADriveThatCannotBeReadIsReportedAndChangesNothing)
     drives.setCurrentIndex(drives.count() - 1);
     ASSERT_EQ(ShownMessages().size(), 1u);
     EXPECT_EQ(ShownMessages()[0].text, "Error reading Drive");
-    EXPECT_EQ(ShownMessages()[0].title, "Error");
-    EXPECT_EQ(Look(ShownMessages()[0]), Look(QMessageBox::Critical));
+    EXPECT_EQ(Look(ShownMessages()[0]), Look("Error", QMessageBox::Critical));
     EXPECT_EQ(folders.Path(), full);
     EXPECT_EQ(Find<FileNameList>(options, "fileList").Path(), full);
     EXPECT_EQ(drives.Drive(), noDisk);
@@ -164,7 +163,7 @@ TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
         EXPECT_FALSE(QFile::exists(places.besideExecutable));
         ASSERT_EQ(ShownMessages().size(), 1u);
         EXPECT_EQ(ShownMessages()[0].text, "teams.dat and players.dat not found in current directory.KOLTA ed will exit.");
-        EXPECT_EQ(Look(ShownMessages()[0]), Look(QMessageBox::Critical));
+        EXPECT_EQ(Look(ShownMessages()[0]), Look("Error", QMessageBox::Critical));
     }
 }
 
