@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QPushButton>
-#include <algorithm>
 
 #include "data/file_io.h"
 #include "data/players_file.h"
@@ -125,9 +124,5 @@ void EditorTest::FillNewPlayer(NewPlayerWindow& form, const char* surname)
 void EditorTest::SearchAndPick(SearchWindow& form, const QString& name)
 {
     QTest::mouseClick(&Find<QPushButton>(form, "searchButton"), Qt::LeftButton);
-    ChoiceList& results = Find<ChoiceList>(form, "resultList");
-    const auto rows = Rows(results);
-    const auto at = std::find(rows.begin(), rows.end(), name);
-    ASSERT_NE(at, rows.end()) << name.toStdString();
-    ClickRow(results, int(at - rows.begin()));
+    ASSERT_TRUE(Pick(Find<ChoiceList>(form, "resultList"), name)) << name.toStdString();
 }
