@@ -20,7 +20,7 @@ Entry Chosen(const QComboBox& box)
     return {box.currentIndex(), box.currentText()};
 }
 
-TEST_F(StartUp, OpensOnTheFirstTeamAndPlayerOfTheFirstCountry)
+TEST_F(StartUp, OpensOnTheFirstTeamAndPlayerOfTheFirstCountryAndShowsTheirCodes)
 {
     Open();
     EXPECT_EQ(Place(), (std::vector<QString>{"Australia", "Perth Pelicans", "H R Quillfeather", "Quillfeather"}));
@@ -32,6 +32,30 @@ TEST_F(StartUp, OpensOnTheFirstTeamAndPlayerOfTheFirstCountry)
     EXPECT_EQ(QApplication::focusWidget(), &Squad());
     EXPECT_TRUE(ShownMessages().empty());
     EXPECT_FALSE(Find<QWidget>(*main, "problemsBar").isVisible()) << "a game without errors shows no bar";
+
+    // The second "Namibia", code 29, is shown as itself. The hands count
+    // from 0, the other codes from 1.
+    EXPECT_EQ(Chosen(Combo("homeCountry")), Entry(28, "Namibia"));
+    EXPECT_EQ(Chosen(Combo("batPosition")), Entry(0, "Opener"));
+    EXPECT_EQ(Chosen(Combo("bats")), Entry(1, "Left Handed"));
+    EXPECT_EQ(Chosen(Combo("bowlType")), Entry(6, "None"));
+    EXPECT_EQ(Chosen(Combo("bowls")), Entry(0, "Right Handed"));
+    EXPECT_EQ(Chosen(Combo("fieldsAt")), Entry(1, "Close"));
+    EXPECT_EQ(Chosen(Combo("team.homeCountry")), Entry(0, "Australia"));
+    const auto before = std::make_unique<Game>(*game);
+    Pick(Squad(), " Ormsby");
+    Pick(Squad(), "H R Quillfeather");
+    EXPECT_EQ(game->Players[1], before->Players[1]);   // still code 29, not 13
+    EXPECT_EQ(game->Teams[1], before->Teams[1]);
+    Pick(Squad(), "T Vanterpool");
+    EXPECT_EQ(Chosen(Combo("homeCountry")), Entry(12, "Namibia"));   // the first one, code 13
+
+    // Codes with no entry leave their lists with nothing chosen, and the
+    // record as stored.
+    Pick(Squad(), " Ormsby");
+    EXPECT_EQ(Combo("homeCountry").currentIndex(), -1);
+    EXPECT_EQ(Combo("batPosition").currentIndex(), -1);
+    EXPECT_EQ(game->Players[2], before->Players[2]);
 
     // The West Indies entry gathers the teams of code 8; a picked team shows
     // its squad, the empty place in it taking no row.
@@ -73,34 +97,6 @@ TEST_F(StartUp, AFirstCountryWithoutTeamsLeavesNoCurrentTeam)
     EXPECT_EQ(game->Teams[123].reputation, 50);
 }
 
-TEST_F(DetailDisplay, CodesShowAsTheirEntriesAndTickBackUnchanged)
-{
-    Open();
-    // The second "Namibia", code 29, is shown as itself. The hands count
-    // from 0, the other codes from 1.
-    EXPECT_EQ(Chosen(Combo("homeCountry")), Entry(28, "Namibia"));
-    EXPECT_EQ(Chosen(Combo("batPosition")), Entry(0, "Opener"));
-    EXPECT_EQ(Chosen(Combo("bats")), Entry(1, "Left Handed"));
-    EXPECT_EQ(Chosen(Combo("bowlType")), Entry(6, "None"));
-    EXPECT_EQ(Chosen(Combo("bowls")), Entry(0, "Right Handed"));
-    EXPECT_EQ(Chosen(Combo("fieldsAt")), Entry(1, "Close"));
-    EXPECT_EQ(Chosen(Combo("team.homeCountry")), Entry(0, "Australia"));
-    const auto before = std::make_unique<Game>(*game);
-    Pick(Squad(), " Ormsby");
-    Pick(Squad(), "H R Quillfeather");
-    EXPECT_EQ(game->Players[1], before->Players[1]);   // still code 29, not 13
-    EXPECT_EQ(game->Teams[1], before->Teams[1]);
-    Pick(Squad(), "T Vanterpool");
-    EXPECT_EQ(Chosen(Combo("homeCountry")), Entry(12, "Namibia"));   // the first one, code 13
-
-    // Codes with no entry leave their lists with nothing chosen, and the
-    // record as stored.
-    Pick(Squad(), " Ormsby");
-    EXPECT_EQ(Combo("homeCountry").currentIndex(), -1);
-    EXPECT_EQ(Combo("batPosition").currentIndex(), -1);
-    EXPECT_EQ(game->Players[2], before->Players[2]);
-}
-
 TEST_F(DetailDisplay, EveryBoxShowsAndWritesItsOwnField)
 {
     Open();
@@ -140,7 +136,12 @@ TEST_F(DetailDisplay, EveryBoxShowsAndWritesItsOwnField)
     EXPECT_EQ(Rows(Combo("teamList")), std::vector<QString>{"Perth Pelicans II"});
 }
 
-TEST_F(DetailDisplay, ANewNameShowsInTheSquadListAndKeepsThePlayer)
+// A new name shows in the squad list at once. Every name box turns away a
+// key the files cannot carry, with a beep and the reason in the status bar
+// (what each name refuses is the core's NameRefusal); only the surname
+// refuses to become empty, as the search lists players by it. (How a number
+// box takes a text is unsaved_work_test's.)
+TEST_F(DetailDisplay, NameBoxesShowANewNameAtOnceAndRefuseWhatTheFilesCannotCarry)
 {
     Open();
     TextBox& surname = Find<TextBox>(*main, "surname");
@@ -160,15 +161,7 @@ TEST_F(DetailDisplay, ANewNameShowsInTheSquadListAndKeepsThePlayer)
     Pick(Squad(), " Ormsby");
     Retype("batSkill", "13");
     EXPECT_EQ(Squad().ChosenRow(), 1);
-}
 
-// Every name box turns away a key the files cannot carry, with a beep and
-// the reason in the status bar (what each name refuses is the core's
-// NameRefusal); only the surname refuses to become empty, as the search
-// lists players by it. (How a number box takes a text is unsaved_work_test's.)
-TEST_F(DetailDisplay, NameBoxesRefuseWhatTheFilesCannotCarryAndSayWhy)
-{
-    Open();
     const QStatusBar& status = *main->statusBar();
     for (const char* box : {"initials", "surname", "team.teamName", "team.abbreviation"}) {
         const int beeps = BeepCount();
@@ -178,17 +171,16 @@ TEST_F(DetailDisplay, NameBoxesRefuseWhatTheFilesCannotCarryAndSayWhy)
         EXPECT_EQ(BoxText(box), "O\"") << box;
         EXPECT_EQ(BeepCount(), beeps + 1) << box;
     }
-    TextBox& surname = Find<TextBox>(*main, "surname");
     surname.setFocus();
     surname.end(false);
     for (int key = 0; key < 3; ++key)
         QTest::keyClick(&surname, Qt::Key_Backspace);
     EXPECT_EQ(surname.text(), "O");
-    EXPECT_EQ(game->Players[1].surname, "O");
+    EXPECT_EQ(game->Players[2].surname, "O");
     EXPECT_EQ(status.currentMessage(),
               "A player needs a surname: type the new one before deleting the last letter");
     Retype("initials", "");
-    EXPECT_EQ(game->Players[1].initials, "");
+    EXPECT_EQ(game->Players[2].initials, "");
 }
 
 }  // namespace
