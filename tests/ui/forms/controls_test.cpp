@@ -78,7 +78,7 @@ TEST(ChoiceList, KeysAndClicksChooseOnceEachEvenOnTheChosenRow)
     EXPECT_EQ(picks, (std::vector<int>{1, 1, 2, 3}));
 }
 
-TEST(TextBox, TextRuleJudgesTypingPastingAndTypingOverASelection)
+TEST(TextBox, TakesOnlyWhatItsRuleAndTheCodePageLetThrough)
 {
     TextBox box;
     box.show();
@@ -124,10 +124,8 @@ TEST(TextBox, TextRuleJudgesTypingPastingAndTypingOverASelection)
     QTest::keyClicks(&box, "xy");
     paste("z");
     EXPECT_EQ(box.text(), "ab");
-}
 
-TEST(GameText, RoundTripsEveryByteOfTheCodePageAndNamesOnlyWhatItCanHold)
-{
+    // The code page between the box and the game.
     std::string all;
     for (int byte = 1; byte < 256; ++byte)
         all.push_back(static_cast<char>(byte));
@@ -169,7 +167,7 @@ void PressOnNextBox(int key)
 
 }  // namespace
 
-TEST_F(Dialogs, MessagesAreRecordedAndAnsweredByTheTestOrTheKeys)
+TEST_F(Dialogs, MessagesAndFormsAreAnsweredByTheTestOrTheKeys)
 {
     const QMessageBox::StandardButtons yesNoCancel = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
     SetMessageAnswerer([](const ShownMessage& message) {
@@ -189,13 +187,10 @@ TEST_F(Dialogs, MessagesAreRecordedAndAnsweredByTheTestOrTheKeys)
     EXPECT_EQ(ShownMessages()[0].text, "Save changes?");
     EXPECT_EQ(Look(ShownMessages()[0]), Look("Exit", QMessageBox::Warning, yesNoCancel));
     EXPECT_EQ(Look(ShownMessages()[3]), Look("Remove", QMessageBox::Critical, QMessageBox::Yes | QMessageBox::No));
-}
 
-// The windows' tests drive every form through the driver; one it leaves
-// open is closed, even one that refuses to be rejected, as one that only
-// closes by its own button.
-TEST_F(Dialogs, TheDriverClosesAFormItLeavesOpen)
-{
+    // The windows' tests drive every form through the driver; one it leaves
+    // open is closed, even one that refuses to be rejected, as one that only
+    // closes by its own button.
     QWidget owner;
     QDialog* shown = nullptr;
     SetModalDriver([&](QDialog& form) {
