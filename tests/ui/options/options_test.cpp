@@ -55,17 +55,17 @@ protected:
     const QString teamsOnly = Fixture("teams_file_only");
 };
 
-// What the window says about a game folder it cannot open: which folder and why.
-TEST(GameFolderTrouble, SaysWhichFolderAndWhy)
+// A game folder that cannot be opened says which folder and why; at start
+// that, or a game file in it that is no file at all, is told with the reason,
+// and File > Options is offered.
+TEST_F(OptionsTest, AGameFolderThatCannotBeOpenedAtStartIsToldAndOptionsOffered)
 {
-    const ScratchFolder root;
-    const QString game = QtPath(root / "game");
+    const QString game = QtPath(scratch_ / "game");
     const struct {
         const char* what;
         std::function<void()> make;
         QString said;   // empty: the folder can be opened
-    } cases[] = {
-        {"no folder", [] {}, "The game folder " + QDir::toNativeSeparators(game) + " does not exist."},
+    } troubles[] = {
         {"a file where the folder should be", [&] { QFile(game).open(QIODevice::WriteOnly); },
          "The game folder " + QDir::toNativeSeparators(game) + " is not a folder."},
         {"an empty folder", [&] { QFile::remove(game); QDir().mkpath(game); },
@@ -74,17 +74,12 @@ TEST(GameFolderTrouble, SaysWhichFolderAndWhy)
          "The game folder " + QDir::toNativeSeparators(game) + " holds no teams.dat."},
         {"both files", [&] { QFile(game + "/teams.dat").open(QIODevice::WriteOnly); }, ""},
     };
-    for (const auto& c : cases) {
+    for (const auto& c : troubles) {
         c.make();
         const QString said = GameFolderTrouble(game).value_or(QString());
         EXPECT_TRUE(c.said.isEmpty() ? said.isEmpty() : said.startsWith(c.said)) << c.what << ": " << said.toStdString();
     }
-}
 
-// A game folder that cannot be opened at start, or a game file in it that is
-// no file at all, is named with the reason, and File > Options is offered.
-TEST_F(OptionsTest, AGameFolderThatCannotBeOpenedAtStartIsToldAndOptionsOffered)
-{
     const QString missing = QtPath(scratch_ / "gone");
     const QString refusing = QtPath(scratch_ / "refusing");
     ASSERT_TRUE(QDir().mkpath(refusing + "/players.dat"));
@@ -93,11 +88,11 @@ TEST_F(OptionsTest, AGameFolderThatCannotBeOpenedAtStartIsToldAndOptionsOffered)
         QString folder;
         QString told;
         QMessageBox::StandardButton answer;
-    } cases[] = {
+    } starts[] = {
         {missing, "The game folder " + QDir::toNativeSeparators(missing) + " does not exist.", QMessageBox::No},
         {refusing, "players.dat was not read: it is a folder, not a file", QMessageBox::Yes},
     };
-    for (const auto& c : cases) {
+    for (const auto& c : starts) {
         ASSERT_TRUE(WriteSettingFile(ToSystemPath(places.besideExecutable), ToSystemPath(c.folder)).ok());
         ClearShownMessages();
         Answer({c.answer});
@@ -111,11 +106,12 @@ TEST_F(OptionsTest, AGameFolderThatCannotBeOpenedAtStartIsToldAndOptionsOffered)
     }
 }
 
-TEST_F(OptionsTest, ADriveThatCannotBeReadIsReportedAndChangesNothing)
+// The first start's chooser.
+TEST_F(OptionsTest, AnUnreadableDriveChangesNothingAndTheFirstRunTakesAFolderWithBothFilesOnly)
 {
-    OptionsWindow options(std::string(), places, OptionsWindow::Mode::FirstStart);
-    auto& folders = Find<FolderTree>(options, "folderList");
-    auto& drives = Find<DriveBox>(options, "driveList");
+    OptionsWindow chooser(std::string(), places, OptionsWindow::Mode::FirstStart);
+    auto& folders = Find<FolderTree>(chooser, "folderList");
+    auto& drives = Find<DriveBox>(chooser, "driveList");
     ASSERT_TRUE(folders.SetPath(full));
     const QString noDisk = QtPath(scratch_ / "drive-without-a-disk");
     drives.AddDrive(noDisk);
@@ -124,20 +120,17 @@ TEST_F(OptionsTest, ADriveThatCannotBeReadIsReportedAndChangesNothing)
     EXPECT_EQ(ShownMessages()[0].text, "Error reading Drive");
     EXPECT_EQ(Look(ShownMessages()[0]), Look("Error", QMessageBox::Critical));
     EXPECT_EQ(folders.Path(), full);
-    EXPECT_EQ(Find<FileNameList>(options, "fileList").Path(), full);
+    EXPECT_EQ(Find<FileNameList>(chooser, "fileList").Path(), full);
     EXPECT_EQ(drives.Drive(), noDisk);
 
     // Back on a real drive, the list returns to where it was on that drive.
     drives.SetDrive(full);
     EXPECT_EQ(folders.Path(), full);
     EXPECT_EQ(ShownMessages().size(), 1u);
-}
 
-// Only both names in exactly their case count: "teams.dat" alone or a
-// "Players.dat" ends the run. The good folder comes last, as the editor.dat
-// it leaves would skip the window.
-TEST_F(OptionsTest, FirstRunLoadsADirectoryWithBothFilesOnly)
-{
+    // Only both names in exactly their case count: "teams.dat" alone or a
+    // "Players.dat" ends the run. The good folder comes last, as the
+    // editor.dat it leaves would skip the window.
     for (const QString& dir : {teamsOnly, Fixture("players_file_capitalised"), full}) {
         SCOPED_TRACE(dir.toStdString());
         const bool good = dir == full;
@@ -215,7 +208,7 @@ TEST_F(OptionsTest, AReloadFromTheMenuReplacesTheWholeGame)
     EXPECT_EQ(game->PlayerCount, 1);
 }
 
-TEST(InfoWindows, AboutClosesOnEscapeAndEachPictureOpensItsPage)
+TEST(InfoWindows, AboutClosesOnEscapeEachPictureOpensItsPageAndHelpShowsTheRanges)
 {
     Editor editor{SettingPlaces{}};
     MainWindow& main = editor.Window();
@@ -247,12 +240,9 @@ TEST(InfoWindows, AboutClosesOnEscapeAndEachPictureOpensItsPage)
     const QUrl guide = QUrl::fromLocalFile(beside.absoluteFilePath("guide.html"));
     const QUrl formats = QUrl::fromLocalFile(beside.absoluteFilePath("file-formats.html"));
     EXPECT_EQ(opened, (std::vector<QUrl>{guide, formats, guide}));
-}
 
-// The Help window's table of ranges, read from the field table whose ranges
-// the new player's checks hold to (field_table_test).
-TEST(HelpWindow, ShowsTheRangesOfTheFieldTable)
-{
+    // The Help window's table of ranges, read from the field table whose
+    // ranges the new player's checks hold to (field_table_test).
     const HelpWindow help;
     std::vector<std::pair<QString, QString>> rows;
     for (int row = 0; const auto* skill = help.findChild<QLabel*>(QStringLiteral("skill%1").arg(row)); ++row)
