@@ -53,9 +53,7 @@ protected:
                 chooser->selectFile(folder);
                 window.accept();
             } else if (auto* review = qobject_cast<ImportWindow*>(&window)) {
-                listed_.clear();
-                for (int row = 0; row < review->lineList->count(); ++row)
-                    listed_.push_back(review->lineList->item(row)->text());
+                listed_ = Rows(*review->lineList);
                 offered_ = review->buttons->standardButtons();
                 if (QPushButton* button = review->buttons->button(press))
                     button->click();
@@ -212,8 +210,8 @@ TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
 }
 
 // The changes are grouped into players, teams and squad moves; a double click
-// or Enter goes to the record, a group's heading nowhere.
-TEST_F(GameToolsTest, ChangesSinceTheOriginalAndSinceTheSaveGoToTheirRecords)
+// or Enter goes to the record, a group's heading nowhere. Then CSV in and out.
+TEST_F(GameToolsTest, ChangesGoToTheirRecordsAndAnImportIsOneStepOrNone)
 {
     Open(FromFixture("game_with_changes"));
     auto& tools = Find<QMenu>(*main, "toolsMenu");
@@ -247,11 +245,8 @@ TEST_F(GameToolsTest, ChangesSinceTheOriginalAndSinceTheSaveGoToTheirRecords)
     Trigger("changesSinceSaveAction");
     ASSERT_EQ(tree.topLevelItemCount(), 1);
     EXPECT_EQ(tree.topLevelItem(0)->child(0)->text(0), "player 4 (D Dunmore): batSkill 40 -> 41");
-}
 
-TEST_F(GameToolsTest, AFaultyImportChangesNothingAndAGoodOneChangesOnlyTheOpenGame)
-{
-    Open(FromFixture("game_with_changes"));
+    // A faulty import changes nothing, a good one only the open game.
     const auto before = std::make_unique<Game>(*game);
 
     RunCsv("importCsvAction", Fixture("csv_faulty"), QDialogButtonBox::Close);
