@@ -24,14 +24,19 @@
 
 namespace {
 
-TEST(WheelGuard, TheWheelChangesAComboOnlyWhileItHasTheFocus)
+// The wheel changes a drop-down only while it has the focus. In a list, keys
+// and clicks each choose once, also on the row chosen already; what the
+// program does itself chooses nothing.
+TEST(Lists, TheWheelPassesOverADropDownAndKeysAndClicksChooseOnceEach)
 {
     QWidget window;
     auto* layout = new QVBoxLayout(&window);
     QComboBox* guarded = NewDropDown(nullptr);
     auto* other = new TextBox;
+    auto* list = new ChoiceList;
     layout->addWidget(guarded);
     layout->addWidget(other);
+    layout->addWidget(list);
     guarded->addItems({"Opener", "Top order", "Middle order"});
     guarded->setCurrentIndex(0);
     window.show();
@@ -41,40 +46,28 @@ TEST(WheelGuard, TheWheelChangesAComboOnlyWhileItHasTheFocus)
     EXPECT_FALSE(WheelDown(*guarded));
     EXPECT_EQ(guarded->currentIndex(), 0);
     EXPECT_EQ(QApplication::focusWidget(), other);   // the wheel took no focus either
-
     guarded->setFocus();
     EXPECT_TRUE(WheelDown(*guarded));
     EXPECT_EQ(guarded->currentIndex(), 1);
-}
 
-}  // namespace
-
-// Keys and clicks each choose once, also on the row chosen already; what the
-// program does itself chooses nothing.
-TEST(ChoiceList, KeysAndClicksChooseOnceEachEvenOnTheChosenRow)
-{
-    ChoiceList list;
-    list.resize(200, 150);
-    list.show();
-    list.setFocus();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
+    list->setFocus();
     const std::pair<const char*, int> rows[] = {{"Atherton", 7}, {"Gooch", 8}, {"Gower", 9}, {"Atherton", 7}};
     for (const auto& [name, number] : rows)
-        list.AddRow(name, number);
+        list->AddRow(name, number);
     std::vector<int> picks;  // the chosen row as each rowChosen came
-    QObject::connect(&list, &ChoiceList::rowChosen, [&list, &picks](int row) {
-        EXPECT_EQ(row, list.ChosenRow());
+    QObject::connect(list, &ChoiceList::rowChosen, [list, &picks](int row) {
+        EXPECT_EQ(row, list->ChosenRow());
         picks.push_back(row);
     });
-    ClickRow(list, 1);
-    ClickRow(list, 1);
-    QTest::keyClick(&list, Qt::Key_Down);
-    QTest::keyClick(&list, Qt::Key_A);  // typing jumps to the next row starting so
-    EXPECT_EQ(list.NumberAt(2), 9);
-    EXPECT_EQ(list.RowOf(7), 0);  // the first row that carries it
-    list.setCurrentRow(0);
-    list.clear();
-    EXPECT_EQ(list.ChosenRow(), -1);
+    ClickRow(*list, 1);
+    ClickRow(*list, 1);
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_A);  // typing jumps to the next row starting so
+    EXPECT_EQ(list->NumberAt(2), 9);
+    EXPECT_EQ(list->RowOf(7), 0);  // the first row that carries it
+    list->setCurrentRow(0);
+    list->clear();
+    EXPECT_EQ(list->ChosenRow(), -1);
     EXPECT_EQ(picks, (std::vector<int>{1, 1, 2, 3}));
 }
 
@@ -142,8 +135,6 @@ TEST(TextBox, TakesOnlyWhatItsRuleAndTheCodePageLetThrough)
     EXPECT_EQ(NameRefusalOf(QStringLiteral("O,Neil")).value_or(QString()), "A name cannot hold a comma");
 }
 
-namespace {
-
 class Dialogs : public ::testing::Test {
 protected:
     Dialogs() { ClearShownMessages(); }
@@ -164,8 +155,6 @@ void PressOnNextBox(int key)
         }
     });
 }
-
-}  // namespace
 
 TEST_F(Dialogs, MessagesAndFormsAreAnsweredByTheTestOrTheKeys)
 {
@@ -205,3 +194,5 @@ TEST_F(Dialogs, MessagesAndFormsAreAnsweredByTheTestOrTheKeys)
     EXPECT_EQ(stubborn.parentWidget(), &owner);
     EXPECT_FALSE(stubborn.isVisible());
 }
+
+}  // namespace
