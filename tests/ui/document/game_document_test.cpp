@@ -155,7 +155,7 @@ TEST_F(Document, ModifiedFollowsTheRecordsAgainstTheSavedStateThroughUndoRedoAnd
 
 // A transfer and its undo each say once which records they changed, so that
 // a view redraws those and no more.
-TEST_F(Document, EachStepSaysWhichRecordsItChanged)
+TEST_F(Document, EachStepSaysWhichRecordsItChangedAndTheEditMenuNamesIt)
 {
     QSignalSpy players(&document, &GameDocument::playerChanged);
     QSignalSpy teams(&document, &GameDocument::teamChanged);
@@ -177,12 +177,9 @@ TEST_F(Document, EachStepSaysWhichRecordsItChanged)
     EXPECT_EQ(Places(game.Teams[1]), (std::vector<int>{1, 2}));
     EXPECT_EQ(shown, (std::vector<std::pair<int, int>>{{2, 1}}));
     EXPECT_EQ(document.History().redoText(), "add of A Neskerly to Darwin Dingoes");
-}
 
-// The undo keys reach the menu from a text box, never undoing the box's own
-// typing.
-TEST_F(Document, EditMenuNamesTheStepsAndItsKeysTakeTheGamesStepFromAnyBox)
-{
+    // The Edit menu names the steps; the undo keys reach it from a text box,
+    // never undoing the box's own typing.
     QMainWindow window;
     auto* box = new TextBox;
     window.setCentralWidget(box);
