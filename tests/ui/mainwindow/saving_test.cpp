@@ -42,7 +42,7 @@ protected:
     std::string filesBefore_;
 };
 
-TEST_F(Saving, CtrlSSavesWhicheverControlHasTheFocus)
+TEST_F(Saving, CtrlSSavesFromAnyControlAndAsksBeforeSavingOverAnotherProgram)
 {
     int controls = 0;
     for (QWidget* control : main->centralWidget()->findChildren<QWidget*>()) {
@@ -55,46 +55,18 @@ TEST_F(Saving, CtrlSSavesWhicheverControlHasTheFocus)
         EXPECT_EQ(ShownTexts(), std::vector<QString>{Saved})
             << control->metaObject()->className() << " at " << control->x() << "," << control->y();
     }
-    EXPECT_EQ(controls, 30);
+    ASSERT_EQ(controls, 30);
     // The whole game as the window holds it, the two edits included.
     const auto read = OnDisk();
     EXPECT_TRUE(read->Players == game->Players && read->Teams == game->Teams);
     EXPECT_EQ(read->Players[1].batSkill, 58);
     EXPECT_EQ(read->Teams[1].teamName, "Perth Pelicans XI");
-    ASSERT_EQ(ShownMessages().size(), 1u);
     EXPECT_EQ(Look(ShownMessages()[0]), Look("Info", QMessageBox::Information));
     EXPECT_EQ(BoxText("batSkill"), "58");   // nothing in the window moved
-}
 
-TEST_F(Saving, ASaveTheDiskRefusesIsToldAndExitStaysOpen)
-{
-    const QString teams = GameFolder() + "/teams.dat";
-    QFile::setPermissions(teams, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-    Find<QAction>(*main, "saveAction").trigger();
-    ASSERT_EQ(ShownMessages().size(), 1u);
-    EXPECT_EQ(Look(ShownMessages()[0]), Look("Saving..", QMessageBox::Critical));
-    const QString said = ShownMessages()[0].text;
-    EXPECT_TRUE(said.contains(QDir::toNativeSeparators(teams)) && said.contains("read-only")) << said.toStdString();
-    EXPECT_TRUE(Files() == filesBefore_);   // not even players.dat, which could have been written
-    EXPECT_EQ(game->Players[1].batSkill, 58);
-    EXPECT_EQ(BoxText("team.teamName"), "Perth Pelicans XI");
-
-    // Leaving with Yes stays open, so the edits are not thrown away.
-    ClearShownMessages();
-    Answer({QMessageBox::Yes, QMessageBox::Ok});
-    Find<QAction>(*main, "exitAction").trigger();
-    ASSERT_EQ(ShownMessages().size(), 2u);
-    EXPECT_EQ(Look(ShownMessages()[1]), Look("Saving..", QMessageBox::Critical));
-    EXPECT_TRUE(main->isVisible());
-    QFile::setPermissions(teams, QFile::ReadOwner | QFile::WriteOwner);
-}
-
-// The bar tells of another program's save, never of the editor's own; a save
-// over it asks, and its default, Cancel, leaves both sides as they are.
-TEST_F(Saving, AnotherProgramsSaveIsToldAndASaveOverItAsksFirst)
-{
+    // The bar tells of another program's save, never of the editor's own; a
+    // save over it asks, and its default, Cancel, leaves both sides as they are.
     auto& bar = Find<ChangedFilesBar>(*main, "changedFilesBar");
-    Find<QAction>(*main, "saveAction").trigger();
     QTest::qWait(500);   // the watch has looked at the files by now
     EXPECT_FALSE(bar.isVisible());
     SaveAsAnotherProgram(1000);
@@ -135,6 +107,29 @@ TEST_F(Saving, AnotherProgramsSaveIsToldAndASaveOverItAsksFirst)
         }
         EXPECT_TRUE(main->isVisible());
     }
+}
+
+TEST_F(Saving, ASaveTheDiskRefusesIsToldAndExitStaysOpen)
+{
+    const QString teams = GameFolder() + "/teams.dat";
+    QFile::setPermissions(teams, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+    Find<QAction>(*main, "saveAction").trigger();
+    ASSERT_EQ(ShownMessages().size(), 1u);
+    EXPECT_EQ(Look(ShownMessages()[0]), Look("Saving..", QMessageBox::Critical));
+    const QString said = ShownMessages()[0].text;
+    EXPECT_TRUE(said.contains(QDir::toNativeSeparators(teams)) && said.contains("read-only")) << said.toStdString();
+    EXPECT_TRUE(Files() == filesBefore_);   // not even players.dat, which could have been written
+    EXPECT_EQ(game->Players[1].batSkill, 58);
+    EXPECT_EQ(BoxText("team.teamName"), "Perth Pelicans XI");
+
+    // Leaving with Yes stays open, so the edits are not thrown away.
+    ClearShownMessages();
+    Answer({QMessageBox::Yes, QMessageBox::Ok});
+    Find<QAction>(*main, "exitAction").trigger();
+    ASSERT_EQ(ShownMessages().size(), 2u);
+    EXPECT_EQ(Look(ShownMessages()[1]), Look("Saving..", QMessageBox::Critical));
+    EXPECT_TRUE(main->isVisible());
+    QFile::setPermissions(teams, QFile::ReadOwner | QFile::WriteOwner);
 }
 
 void Write(const QString& path, const QByteArray& bytes)
