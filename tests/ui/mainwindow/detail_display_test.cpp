@@ -35,13 +35,13 @@ TEST_F(StartUp, OpensOnTheFirstTeamAndPlayerOfTheFirstCountryAndShowsTheirCodes)
 
     // The second "Namibia", code 29, is shown as itself. The hands count
     // from 0, the other codes from 1.
-    EXPECT_EQ(Chosen(Combo("homeCountry")), Entry(28, "Namibia"));
-    EXPECT_EQ(Chosen(Combo("batPosition")), Entry(0, "Opener"));
-    EXPECT_EQ(Chosen(Combo("bats")), Entry(1, "Left Handed"));
-    EXPECT_EQ(Chosen(Combo("bowlType")), Entry(6, "None"));
-    EXPECT_EQ(Chosen(Combo("bowls")), Entry(0, "Right Handed"));
-    EXPECT_EQ(Chosen(Combo("fieldsAt")), Entry(1, "Close"));
-    EXPECT_EQ(Chosen(Combo("team.homeCountry")), Entry(0, "Australia"));
+    const std::pair<const char*, Entry> codes[] = {
+        {"homeCountry", {28, "Namibia"}}, {"batPosition", {0, "Opener"}},     {"bats", {1, "Left Handed"}},
+        {"bowlType", {6, "None"}},        {"bowls", {0, "Right Handed"}},     {"fieldsAt", {1, "Close"}},
+        {"team.homeCountry", {0, "Australia"}},
+    };
+    for (const auto& [list, entry] : codes)
+        EXPECT_EQ(Chosen(Combo(list)), entry) << list;
     const auto before = std::make_unique<Game>(*game);
     Pick(Squad(), " Ormsby");
     Pick(Squad(), "H R Quillfeather");

@@ -34,15 +34,9 @@ protected:
 
     void Trigger(const char* action) { Find<QAction>(*main, action).trigger(); }
 
-    // This test's copy of a case folder among the fixtures.
+    // This test's copy of a case folder among the fixtures, and its game.
     QString Fixture(const char* name) const { return QtPath(scratch_.Fixture(name)); }
-
-    GameBuilder FromFixture(const char* name) const
-    {
-        GameBuilder built;
-        built.game = ReadGameFiles(Fixture(name).toStdString());
-        return built;
-    }
+    GameBuilder FromFixture(const char* name) const { return {ReadGameFiles(Fixture(name).toStdString())}; }
 
     // Triggers the CSV command `action`, answering its folder chooser with
     // `folder` and the import window with `press`, noting what that listed.

@@ -46,41 +46,41 @@ TEST_F(UnsavedWork, LeavingAsksWhenThereAreUnsavedChanges)
 {
     const QString title = "KOLTA editor (" + QDir::toNativeSeparators(GameFolder()) + ")";
     const struct {
+        bool throughMenu;
         bool edited;
         QMessageBox::StandardButton answer;
         bool closes;
         std::vector<QString> said;
     } cases[] = {
-        {false, QMessageBox::Cancel, true, {}},  // not asked at all
-        {true, QMessageBox::Cancel, false, {SaveQuestion}},
-        {true, QMessageBox::No, true, {SaveQuestion}},
-        {true, QMessageBox::Yes, true, {SaveQuestion, Saved}},
+        {false, false, QMessageBox::Cancel, true, {}},  // not asked at all
+        {false, true, QMessageBox::Cancel, false, {SaveQuestion}},
+        {false, true, QMessageBox::No, true, {SaveQuestion}},
+        {false, true, QMessageBox::Yes, true, {SaveQuestion, Saved}},
+        {true, true, QMessageBox::Cancel, false, {SaveQuestion}},
+        {true, true, QMessageBox::No, true, {SaveQuestion}},
+        {true, true, QMessageBox::Yes, true, {SaveQuestion, Saved}},
     };
-    for (const bool throughMenu : {false, true}) {
-        for (const auto& c : cases) {
-            if (throughMenu && !c.edited)
-                continue;
-            SCOPED_TRACE(testing::Message() << throughMenu << " " << c.edited << " " << c.answer);
-            Open();
-            ClearShownMessages();
-            const std::string before = Files();
-            EXPECT_EQ(ShownTitle(*main), title);
-            if (c.edited) {
-                Retype("team.wealth", "700");
-                EXPECT_EQ(ShownTitle(*main), title + "*");
-            }
-            Answer({c.answer});
-            if (throughMenu)
-                Find<QAction>(*main, "exitAction").trigger();
-            else
-                main->close();
-            EXPECT_EQ(main->isVisible(), !c.closes);
-            EXPECT_EQ(ShownTexts(), c.said);
-            const bool saves = c.said.size() == 2;
-            EXPECT_EQ(Files() == before, !saves);
-            if (saves) {
-                EXPECT_EQ(OnDisk()->Teams[1].wealth, 700);
-            }
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.throughMenu << " " << c.edited << " " << c.answer);
+        Open();
+        ClearShownMessages();
+        const std::string before = Files();
+        EXPECT_EQ(ShownTitle(*main), title);
+        if (c.edited) {
+            Retype("team.wealth", "700");
+            EXPECT_EQ(ShownTitle(*main), title + "*");
+        }
+        Answer({c.answer});
+        if (c.throughMenu)
+            Find<QAction>(*main, "exitAction").trigger();
+        else
+            main->close();
+        EXPECT_EQ(main->isVisible(), !c.closes);
+        EXPECT_EQ(ShownTexts(), c.said);
+        const bool saves = c.said.size() == 2;
+        EXPECT_EQ(Files() == before, !saves);
+        if (saves) {
+            EXPECT_EQ(OnDisk()->Teams[1].wealth, 700);
         }
     }
     // The question, as the last leave asked it.
@@ -94,7 +94,6 @@ TEST_F(UnsavedWork, LeavingAsksWhenThereAreUnsavedChanges)
     Retype("team.wealth", "700");
     Undo().trigger();
     EXPECT_EQ(ShownTitle(*main), title);
-    EXPECT_EQ(BoxText("team.wealth"), "-250");
 }
 
 // Each kind of step in turn, saved, then all of them undone and redone: the
