@@ -1,6 +1,7 @@
-// The game directory chooser on a first start and from the menu of a
-// running editor; About, the two pictures' pages, the Help window's table of
-// ranges and the guides' list of the menus' commands.
+// A game folder that cannot be opened, and the game directory chooser on a
+// first start and from the menu of a running editor; About, the two
+// pictures' pages, the Help window's table of ranges and the guides' list of
+// the menus' commands.
 
 #include <QCoreApplication>
 #include <QDir>
