@@ -15,7 +15,7 @@
 #include <ostream>
 #include <stdexcept>
 #include <string>
-#include <utility>
+#include <tuple>
 #include <vector>
 
 #include "forms/message_box.h"
@@ -87,18 +87,12 @@ inline void DoubleClick(QAbstractItemView& view, const QRect& at)
 }
 
 // The rows of a list or the entries of a drop-down, as the user reads them.
-inline std::vector<QString> Rows(const QListWidget& list)
+template <typename List>
+std::vector<QString> Rows(const List& list)
 {
     std::vector<QString> rows;
     for (int row = 0; row < list.count(); ++row)
-        rows.push_back(list.item(row)->text());
-    return rows;
-}
-inline std::vector<QString> Rows(const QComboBox& box)
-{
-    std::vector<QString> rows;
-    for (int row = 0; row < box.count(); ++row)
-        rows.push_back(box.itemText(row));
+        rows.push_back(list.model()->index(row, 0).data().toString());
     return rows;
 }
 
@@ -147,13 +141,14 @@ inline std::vector<QString> Texts(const QTreeWidgetItem& parent, int column = 0)
     return texts;
 }
 
-// How a message box looks: its icon and its buttons.
-using BoxLook = std::pair<QMessageBox::Icon, QMessageBox::StandardButtons::Int>;
+// How a message box looks: its title, icon and buttons.
+using BoxLook = std::tuple<QString, QMessageBox::Icon, QMessageBox::StandardButtons::Int>;
 inline BoxLook Look(const ShownMessage& message)
 {
-    return {message.icon, message.buttons.toInt()};
+    return {message.title, message.icon, message.buttons.toInt()};
 }
-inline BoxLook Look(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons = QMessageBox::Ok)
+inline BoxLook Look(const QString& title, QMessageBox::Icon icon,
+                    QMessageBox::StandardButtons buttons = QMessageBox::Ok)
 {
-    return {icon, buttons.toInt()};
+    return {title, icon, buttons.toInt()};
 }

@@ -1,13 +1,19 @@
 // The document as the windows use it: what is typed in a box is one step,
 // a command is one step whatever it changed, undo and redo put records back
-// and say where, and each step says which records it changed.
+// and say where, and each step says which records it changed. The Edit menu
+// names the steps.
 #include "document/game_document.h"
 
+#include <QAction>
+#include <QMainWindow>
 #include <QSignalSpy>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
 #include "document/squad_steps.h"
+#include "forms/text_box.h"
+#include "mainwindow/edit_menu.h"
 #include "support/game_builder.h"
 #include "support/qt_path.h"
 #include "support/scratch_folder.h"
@@ -18,7 +24,7 @@ const PlayerField& BatSkill = *FieldOf<PlayerRecord>(PlayerFields, &PlayerRecord
 const PlayerField& Surname = PlayerFields[1];
 const TeamField& Wealth = *FieldOf<TeamRecord>(TeamFields, &TeamRecord::wealth);
 
-// The numbers a signal of one number was sent with, in order.
+// The numbers (or flags, as 1 and 0) a signal of one was sent with, in order.
 std::vector<int> Numbers(const QSignalSpy& spy)
 {
     std::vector<int> numbers;
@@ -144,15 +150,12 @@ TEST_F(Document, ModifiedFollowsTheRecordsAgainstTheSavedStateThroughUndoRedoAnd
     EXPECT_FALSE(document.IsModified());
     EXPECT_EQ(game.Players[1].batSkill, 40);
     EXPECT_EQ(replaced.count(), 1);
-    std::vector<bool> marks;
-    for (const auto& signal : modified)
-        marks.push_back(signal.at(0).toBool());
-    EXPECT_EQ(marks, (std::vector<bool>{true, false, true, false, true, false, true, false, true, false}));
+    EXPECT_EQ(Numbers(modified), (std::vector<int>{1, 0, 1, 0, 1, 0, 1, 0, 1, 0}));
 }
 
 // A transfer and its undo each say once which records they changed, so that
 // a view redraws those and no more.
-TEST_F(Document, EachStepSaysWhichRecordsItChanged)
+TEST_F(Document, EachStepSaysWhichRecordsItChangedAndTheEditMenuNamesIt)
 {
     QSignalSpy players(&document, &GameDocument::playerChanged);
     QSignalSpy teams(&document, &GameDocument::teamChanged);
@@ -174,6 +177,42 @@ TEST_F(Document, EachStepSaysWhichRecordsItChanged)
     EXPECT_EQ(Places(game.Teams[1]), (std::vector<int>{1, 2}));
     EXPECT_EQ(shown, (std::vector<std::pair<int, int>>{{2, 1}}));
     EXPECT_EQ(document.History().redoText(), "add of A Neskerly to Darwin Dingoes");
+
+    // The Edit menu names the steps; the undo keys reach it from a text box,
+    // never undoing the box's own typing.
+    QMainWindow window;
+    auto* box = new TextBox;
+    window.setCentralWidget(box);
+    const EditMenu edit = BuildEditMenu(window, document);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+
+    EXPECT_FALSE(edit.undo->isEnabled());
+    EXPECT_EQ(edit.undo->text(), "&Undo");
+
+    DeleteFromSquad(document, 1, 1);
+    EXPECT_TRUE(edit.undo->isEnabled());
+    EXPECT_EQ(edit.undo->text(), "&Undo delete of A Neskerly");
+    EXPECT_FALSE(edit.redo->isEnabled());
+
+    // Typed text in a box is not what Ctrl+Z takes back: the game's step is.
+    box->setFocus();
+    QTest::keyClicks(box, "xy");
+    QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Places(game.Teams[1]), (std::vector<int>{1, 2}));
+    EXPECT_EQ(edit.redo->text(), "&Redo delete of A Neskerly");
+    EXPECT_FALSE(edit.undo->isEnabled());
+    QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier);   // nothing left to undo
+    EXPECT_EQ(box->text(), "xy");
+
+    for (const QKeyCombination keys : {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z}) {
+        QTest::keyClick(box, keys.key(), keys.keyboardModifiers());
+        EXPECT_EQ(Places(game.Teams[1]), std::vector<int>{2});
+        QTest::keyClick(box, keys.key(), keys.keyboardModifiers());   // nothing left to redo
+        EXPECT_EQ(box->text(), "xy");
+        edit.undo->trigger();
+        EXPECT_EQ(Places(game.Teams[1]), (std::vector<int>{1, 2}));
+    }
 }
 
 }  // namespace

@@ -1,13 +1,16 @@
 #include "editor_fixture.h"
 
 #include <QDir>
+#include <QPushButton>
 
 #include "data/file_io.h"
 #include "data/players_file.h"
 #include "diff/game_files.h"
 #include "data/setting_file.h"
 #include "data/teams_file.h"
+#include "newplayerwindow/new_player_window.h"
 #include "options/options_window.h"
+#include "searchwindow/search_window.h"
 
 EditorTest::EditorTest()
 {
@@ -89,6 +92,13 @@ std::unique_ptr<Game> EditorTest::OnDisk() const
     return ReadGameFiles(ToSystemPath(GameFolder()));
 }
 
+std::vector<QString> EditorTest::Place() const
+{
+    const int row = Squad().ChosenRow();
+    return {Combo("countryList").currentText(), Combo("teamList").currentText(),
+            row >= 0 ? Squad().item(row)->text() : QString(), BoxText("surname")};
+}
+
 void EditorTest::Retype(const char* box, const QString& text)
 {
     TextBox* edit = &Find<TextBox>(*main, box);
@@ -98,4 +108,21 @@ void EditorTest::Retype(const char* box, const QString& text)
     if (text.isEmpty())
         QTest::keyClick(edit, Qt::Key_Delete);
     QTest::keyClicks(edit, text);
+}
+
+void EditorTest::FillNewPlayer(NewPlayerWindow& form, const char* surname)
+{
+    const std::pair<const char*, const char*> entries[] = {
+        {"initials", "N"},     {"surname", surname},   {"birthDay", "1"},      {"birthMonth", "2"},
+        {"birthYear", "1990"}, {"batSkill", "30"},     {"batAggression", "5"}, {"bowlSkill", "20"},
+        {"bowlEconomy", "9"},  {"fieldAbility", "20"}, {"potential", "10"},
+    };
+    for (const auto& [box, text] : entries)
+        Find<TextBox>(form, box).setText(text);
+}
+
+void EditorTest::SearchAndPick(SearchWindow& form, const QString& name)
+{
+    QTest::mouseClick(&Find<QPushButton>(form, "searchButton"), Qt::LeftButton);
+    ASSERT_TRUE(Pick(Find<ChoiceList>(form, "resultList"), name)) << name.toStdString();
 }

@@ -21,6 +21,9 @@
 #include "support/scratch_folder.h"
 #include "support/window_parts.h"
 
+class NewPlayerWindow;
+class SearchWindow;
+
 class EditorTest : public ::testing::Test {
 protected:
     EditorTest();
@@ -48,11 +51,18 @@ protected:
     // Types into a box as a person would, over its whole text chosen with the keys.
     void Retype(const char* box, const QString& text);
     QString BoxText(const char* box) const { return Find<TextBox>(*main, box).text(); }
+    // Gives every box of the new player's form a good entry, `surname` his name.
+    static void FillNewPlayer(NewPlayerWindow& form, const char* surname);
+    // Searches with the search window's filters as they stand and picks the
+    // candidate listed as `name`: his initials and surname.
+    static void SearchAndPick(SearchWindow& form, const QString& name);
 
     // The window's controls by the names of their jobs.
     QComboBox& Combo(const char* name) const { return Find<QComboBox>(*main, name); }
     ChoiceList& Squad() const { return Find<ChoiceList>(*main, "squadList"); }
     QString TeamNumber() const { return Find<QLabel>(*main, "teamNumber").text(); }
+    // Where the window stands: country, team entry, chosen squad row and surname box.
+    std::vector<QString> Place() const;
 
     ScratchFolder scratch_;
     std::unique_ptr<Editor> editor;

@@ -1,9 +1,13 @@
+// The game's tools over the open game: Find Player and its window, the
+// problems bar and list, the changes since the original and since the save,
+// and the CSV import and export.
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTableWidget>
 #include <QTreeWidget>
 
@@ -30,42 +34,26 @@ protected:
 
     void Trigger(const char* action) { Find<QAction>(*main, action).trigger(); }
 
-    // This test's copy of a case folder among the fixtures.
+    // This test's copy of a case folder among the fixtures, and its game.
     QString Fixture(const char* name) const { return QtPath(scratch_.Fixture(name)); }
+    GameBuilder FromFixture(const char* name) const { return {ReadGameFiles(Fixture(name).toStdString())}; }
 
-    GameBuilder FromFixture(const char* name) const
-    {
-        GameBuilder built;
-        built.game = ReadGameFiles(Fixture(name).toStdString());
-        return built;
-    }
-
-    // Where the main window stands: country, team entry, squad row, shown player.
-    std::vector<QString> Place() const
-    {
-        const ChoiceList& squad = Squad();
-        const int row = squad.ChosenRow();
-        return {Combo("countryList").currentText(), Combo("teamList").currentText(),
-                row >= 0 ? squad.item(row)->text() : QString(), BoxText("surname")};
-    }
-
-    // Answers the CSV folder chooser with `folder` and the import window
-    // with OK or Cancel, noting what the import window listed.
-    void DriveImport(const QString& folder, QDialogButtonBox::StandardButton press)
+    // Triggers the CSV command `action`, answering its folder chooser with
+    // `folder` and the import window with `press`, noting what that listed.
+    void RunCsv(const char* action, const QString& folder, QDialogButtonBox::StandardButton press)
     {
         SetModalDriver([=, this](QDialog& window) {
             if (auto* chooser = qobject_cast<QFileDialog*>(&window)) {
                 chooser->selectFile(folder);
                 window.accept();
             } else if (auto* review = qobject_cast<ImportWindow*>(&window)) {
-                listed_.clear();
-                for (int row = 0; row < review->lineList->count(); ++row)
-                    listed_.push_back(review->lineList->item(row)->text());
+                listed_ = Rows(*review->lineList);
                 offered_ = review->buttons->standardButtons();
                 if (QPushButton* button = review->buttons->button(press))
                     button->click();
             }
         });
+        Trigger(action);
     }
 
     std::vector<QString> listed_;
@@ -115,6 +103,53 @@ TEST_F(GameToolsTest, FindPlayerGoesToHisCountryTeamAndRow)
     EXPECT_EQ(game->Teams[3], kites) << "the team shown before takes no typing";
 }
 
+// Four players of the sample share a surname; the list tells them apart.
+// The arrow keys walk it from the box, Enter or a double click chooses, and
+// Enter with nothing listed chooses nobody. The matching and its order are
+// the core's.
+TEST(FindWindow, ListsTheMatchesAndEnterOrADoubleClickChoosesOne)
+{
+    const ScratchFolder scratch;
+    const auto game = ReadGameFiles(scratch.Sample().string());
+    FindWindow window(*game, QDate(2000, 1, 1));
+    QSignalSpy chosen(&window, &FindWindow::playerChosen);
+    QTreeWidget& list = *window.matchList;
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    EXPECT_TRUE(window.findBox->hasFocus());
+
+    QTest::keyClicks(window.findBox, QStringLiteral("bisk"));
+    EXPECT_GT(list.topLevelItemCount(), 4);
+    QTest::keyClicks(window.findBox, QStringLiteral("DENE"));
+    EXPECT_THAT(Texts(*list.invisibleRootItem(), 1),
+                ElementsAre("C Biskdene", "E G Biskdene", "I Biskdene", "S Biskdene"));
+    EXPECT_THAT(Texts(*list.invisibleRootItem()), ElementsAre("387", "538", "397", "466"));
+    EXPECT_EQ(list.topLevelItem(0)->text(3), "New Zealand");
+    EXPECT_EQ(list.topLevelItem(0)->text(4), "20");  // born 18/3/1979
+    QTest::keyClick(window.findBox, Qt::Key_Down);
+    QTest::keyClick(&list, Qt::Key_Down);
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(window.result(), QDialog::Accepted);
+
+    window.show();
+    window.findBox->setText(QStringLiteral("845"));
+    ASSERT_EQ(list.topLevelItemCount(), 1);
+    EXPECT_EQ(list.topLevelItem(0)->text(2), "no club");
+    DoubleClick(list, list.visualItemRect(list.topLevelItem(0)));
+
+    window.show();
+    window.findBox->setText(QStringLiteral("bisk"));
+    window.findBox->insert(QStringLiteral("\u03A9"));  // no Windows-1252 character
+    QTest::keyClick(window.findBox, Qt::Key_Return);
+    EXPECT_EQ(list.topLevelItemCount(), 0);
+    ASSERT_EQ(chosen.count(), 2);
+    EXPECT_EQ(chosen.at(0).at(0).toInt(), 397);
+    EXPECT_EQ(chosen.at(1).at(0).toInt(), 845);
+}
+
+// The list names each problem where it is, goes to its record on a double
+// click or Enter, and follows the checks the bar makes after every step.
 TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
 {
     Open(FromFixture("game_with_problems"));
@@ -125,9 +160,20 @@ TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
 
     auto& problems = Find<ProblemsWindow>(*main, "problemsWindow");
     ASSERT_TRUE(problems.isVisible());
+    EXPECT_EQ(problems.summary->text(), "3 errors, 1 warning");
     QTableWidget& table = *problems.problemTable;
     ASSERT_EQ(table.rowCount(), 4);
-    DoubleClick(table, table.visualItemRect(table.item(2, 4)));  // teams.dat 3: a squad names player 9
+    const auto row = [&table](int row) {
+        QStringList cells;
+        for (int column = 0; column < table.columnCount(); ++column)
+            cells << table.item(row, column)->text();
+        return cells.join(" | ");
+    };
+    EXPECT_THAT(row(0).toStdString(), ::testing::StartsWith("teams.dat | 1 | squad2 | error | "));
+    EXPECT_EQ(row(2),
+              "teams.dat | 3 | squad2 | error | names player 9, who is not in players.dat (1 to PlayerCount 6)");
+    EXPECT_THAT(row(3).toStdString(), ::testing::StartsWith("players.dat | 5 | batSkill | warning | "));
+    DoubleClick(table, table.visualItemRect(table.item(2, 4)));
     EXPECT_EQ(main->CurrentTeam(), 3);
     EXPECT_EQ(Combo("teamList").currentText(), "Kentish Town");
     table.setFocus();
@@ -151,11 +197,15 @@ TEST_F(GameToolsTest, TheBarCountsTheErrorsAndTheListGoesToEachRecord)
     EXPECT_FALSE(bar.isVisible());
     Trigger("checkGameAction");
     EXPECT_EQ(table.rowCount(), 0);
+    EXPECT_EQ(problems.summary->text(), "No problems found.");
+    table.setFocus();
+    QTest::keyClick(&table, Qt::Key_Escape);
+    EXPECT_FALSE(problems.isVisible());
 }
 
 // The changes are grouped into players, teams and squad moves; a double click
-// or Enter goes to the record, a group's heading nowhere.
-TEST_F(GameToolsTest, ChangesSinceTheOriginalAndSinceTheSaveGoToTheirRecords)
+// or Enter goes to the record, a group's heading nowhere. Then CSV in and out.
+TEST_F(GameToolsTest, ChangesGoToTheirRecordsAndAnImportIsOneStepOrNone)
 {
     Open(FromFixture("game_with_changes"));
     auto& tools = Find<QMenu>(*main, "toolsMenu");
@@ -189,44 +239,34 @@ TEST_F(GameToolsTest, ChangesSinceTheOriginalAndSinceTheSaveGoToTheirRecords)
     Trigger("changesSinceSaveAction");
     ASSERT_EQ(tree.topLevelItemCount(), 1);
     EXPECT_EQ(tree.topLevelItem(0)->child(0)->text(0), "player 4 (D Dunmore): batSkill 40 -> 41");
-}
 
-TEST_F(GameToolsTest, AFaultyImportChangesNothingAndAGoodOneChangesOnlyTheOpenGame)
-{
-    Open(FromFixture("game_with_changes"));
+    // A faulty import changes nothing, a good one only the open game.
     const auto before = std::make_unique<Game>(*game);
 
-    DriveImport(Fixture("csv_faulty"), QDialogButtonBox::Close);
-    Trigger("importCsvAction");
+    RunCsv("importCsvAction", Fixture("csv_faulty"), QDialogButtonBox::Close);
     EXPECT_THAT(listed_, ElementsAre("players.csv:2: batAggression \"fast\" is not a whole number from -32768 to 32767",
                                      "players.csv:3: player numbers run from 1 to 2000, not 2001"));
     EXPECT_EQ(offered_, QDialogButtonBox::Close);
     EXPECT_EQ(game->Players, before->Players);
 
-    DriveImport(Fixture("csv_changes"), QDialogButtonBox::Cancel);
-    Trigger("importCsvAction");
+    RunCsv("importCsvAction", Fixture("csv_changes"), QDialogButtonBox::Cancel);
     EXPECT_EQ(listed_.size(), 3u);
     EXPECT_EQ(game->Players, before->Players);
 
-    DriveImport(Fixture("csv_changes"), QDialogButtonBox::Ok);
-    Trigger("importCsvAction");
+    RunCsv("importCsvAction", Fixture("csv_changes"), QDialogButtonBox::Ok);
     EXPECT_EQ(game->Players[5].surname, "Ellerby");
     EXPECT_EQ(game->Teams[3].wealth, 99);
     EXPECT_EQ(ReadGameFiles(ToSystemPath(GameFolder()))->Players[5].surname, "Ellery") << "nothing is saved";
 
     // The whole import is one step of the history.
-    QAction& undo = Find<QAction>(*main, "undoAction");
-    EXPECT_EQ(undo.text(), "&Undo import from CSV");
-    undo.trigger();
+    EXPECT_EQ(Find<QAction>(*main, "undoAction").text(), "&Undo import from CSV");
+    Trigger("undoAction");
     EXPECT_EQ(game->Players, before->Players);
     EXPECT_EQ(game->Teams, before->Teams);
-    Find<QAction>(*main, "redoAction").trigger();
-    EXPECT_EQ(game->Players[5].surname, "Ellerby");
 
     // Export writes both files where the user points.
     const QString sheets = QtPath(scratch_.Folder("sheets"));
-    DriveImport(sheets, QDialogButtonBox::Ok);
-    Trigger("exportCsvAction");
+    RunCsv("exportCsvAction", sheets, QDialogButtonBox::Ok);
     const auto exported = ImportCsvFolder(*game, ToSystemPath(sheets));
     EXPECT_TRUE(exported.read);
     EXPECT_THAT(exported.changes, IsEmpty());

@@ -1,9 +1,11 @@
 // Saving with the shortcut from any control, a save that the disk refuses,
-// also on the way out, and files another program saved meanwhile.
+// also on the way out, and files another program saved meanwhile; what the
+// message of a failed save says became of the files.
 
 #include <QDir>
 #include <QFile>
 
+#include "commands/save_failure.h"
 #include "data/load_game.h"
 #include "data/save.h"
 #include "editor_fixture.h"
@@ -25,15 +27,6 @@ protected:
         Retype("team.teamName", "Perth Pelicans XI");
     }
 
-    bool FilesUnchanged() const { return Files() == filesBefore_; }
-    // The whole game as the window holds it, the two edits included.
-    bool EditsSaved() const
-    {
-        const auto read = OnDisk();
-        return read->Players == game->Players && read->Teams == game->Teams && read->Players[1].batSkill == 58 &&
-               read->Teams[1].teamName == "Perth Pelicans XI";
-    }
-
     // Another program saves the game, as kolta-data import does, with Perth's
     // wealth at `wealth`; what the files hold then.
     std::string SaveAsAnotherProgram(std::int16_t wealth) const
@@ -49,7 +42,7 @@ protected:
     std::string filesBefore_;
 };
 
-TEST_F(Saving, CtrlSSavesWhicheverControlHasTheFocus)
+TEST_F(Saving, CtrlSSavesFromAnyControlAndAsksBeforeSavingOverAnotherProgram)
 {
     int controls = 0;
     for (QWidget* control : main->centralWidget()->findChildren<QWidget*>()) {
@@ -62,44 +55,18 @@ TEST_F(Saving, CtrlSSavesWhicheverControlHasTheFocus)
         EXPECT_EQ(ShownTexts(), std::vector<QString>{Saved})
             << control->metaObject()->className() << " at " << control->x() << "," << control->y();
     }
-    EXPECT_EQ(controls, 30);
-    EXPECT_TRUE(EditsSaved());
-    ASSERT_EQ(ShownMessages().size(), 1u);
-    EXPECT_EQ(ShownMessages()[0].title, "Info");
-    EXPECT_EQ(Look(ShownMessages()[0]), Look(QMessageBox::Information));
+    ASSERT_EQ(controls, 30);
+    // The whole game as the window holds it, the two edits included.
+    const auto read = OnDisk();
+    EXPECT_TRUE(read->Players == game->Players && read->Teams == game->Teams);
+    EXPECT_EQ(read->Players[1].batSkill, 58);
+    EXPECT_EQ(read->Teams[1].teamName, "Perth Pelicans XI");
+    EXPECT_EQ(Look(ShownMessages()[0]), Look("Info", QMessageBox::Information));
     EXPECT_EQ(BoxText("batSkill"), "58");   // nothing in the window moved
-}
 
-TEST_F(Saving, ASaveTheDiskRefusesIsToldAndExitStaysOpen)
-{
-    const QString teams = GameFolder() + "/teams.dat";
-    QFile::setPermissions(teams, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-    Find<QAction>(*main, "saveAction").trigger();
-    ASSERT_EQ(ShownMessages().size(), 1u);
-    EXPECT_EQ(Look(ShownMessages()[0]), Look(QMessageBox::Critical));
-    const QString said = ShownMessages()[0].text;
-    EXPECT_TRUE(said.contains(QDir::toNativeSeparators(teams)) && said.contains("read-only")) << said.toStdString();
-    EXPECT_TRUE(said.contains("Neither players.dat nor teams.dat was changed.")) << said.toStdString();
-    EXPECT_TRUE(FilesUnchanged());   // not even players.dat, which could have been written
-    EXPECT_EQ(game->Players[1].batSkill, 58);
-    EXPECT_EQ(BoxText("team.teamName"), "Perth Pelicans XI");
-
-    // Leaving with Yes stays open, so the edits are not thrown away.
-    ClearShownMessages();
-    Answer({QMessageBox::Yes, QMessageBox::Ok});
-    Find<QAction>(*main, "exitAction").trigger();
-    ASSERT_EQ(ShownMessages().size(), 2u);
-    EXPECT_EQ(Look(ShownMessages()[1]), Look(QMessageBox::Critical));
-    EXPECT_TRUE(main->isVisible());
-    QFile::setPermissions(teams, QFile::ReadOwner | QFile::WriteOwner);
-}
-
-// The bar tells of another program's save, never of the editor's own; a save
-// over it asks, and its default, Cancel, leaves both sides as they are.
-TEST_F(Saving, AnotherProgramsSaveIsToldAndASaveOverItAsksFirst)
-{
+    // The bar tells of another program's save, never of the editor's own; a
+    // save over it asks, and its default, Cancel, leaves both sides as they are.
     auto& bar = Find<ChangedFilesBar>(*main, "changedFilesBar");
-    Find<QAction>(*main, "saveAction").trigger();
     QTest::qWait(500);   // the watch has looked at the files by now
     EXPECT_FALSE(bar.isVisible());
     SaveAsAnotherProgram(1000);
@@ -139,6 +106,68 @@ TEST_F(Saving, AnotherProgramsSaveIsToldAndASaveOverItAsksFirst)
             EXPECT_TRUE(ShownMessages().back().text.contains("players.dat.prev and teams.dat.prev"));
         }
         EXPECT_TRUE(main->isVisible());
+    }
+}
+
+TEST_F(Saving, ASaveTheDiskRefusesIsToldAndExitStaysOpen)
+{
+    const QString teams = GameFolder() + "/teams.dat";
+    QFile::setPermissions(teams, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+    Find<QAction>(*main, "saveAction").trigger();
+    ASSERT_EQ(ShownMessages().size(), 1u);
+    EXPECT_EQ(Look(ShownMessages()[0]), Look("Saving..", QMessageBox::Critical));
+    const QString said = ShownMessages()[0].text;
+    EXPECT_TRUE(said.contains(QDir::toNativeSeparators(teams)) && said.contains("read-only")) << said.toStdString();
+    EXPECT_TRUE(Files() == filesBefore_);   // not even players.dat, which could have been written
+    EXPECT_EQ(game->Players[1].batSkill, 58);
+    EXPECT_EQ(BoxText("team.teamName"), "Perth Pelicans XI");
+
+    // Leaving with Yes stays open, so the edits are not thrown away.
+    ClearShownMessages();
+    Answer({QMessageBox::Yes, QMessageBox::Ok});
+    Find<QAction>(*main, "exitAction").trigger();
+    ASSERT_EQ(ShownMessages().size(), 2u);
+    EXPECT_EQ(Look(ShownMessages()[1]), Look("Saving..", QMessageBox::Critical));
+    EXPECT_TRUE(main->isVisible());
+    QFile::setPermissions(teams, QFile::ReadOwner | QFile::WriteOwner);
+}
+
+void Write(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+TEST(SaveFailure, TheMessageSaysWhichFilesTheFailedSaveChanged)
+{
+    const ScratchFolder root;
+    const auto filePath = [&](const char* name) { return QtPath(root / name); };
+    auto game = std::make_unique<Game>();
+    SetGameDirectory(*game, QFile::encodeName(QtPath(root.Path())).toStdString());
+    const FileResult failure{game->TeamsPath, "the disk is full"};
+    const struct {
+        bool playersWritten;
+        bool teamsWritten;
+        QString outcome;
+    } cases[] = {
+        {false, false, "Neither players.dat nor teams.dat was changed."},
+        {true, false, "players.dat was written but teams.dat was not"},
+        {false, true, "teams.dat was written but players.dat was not"},
+    };
+    for (const auto& c : cases) {
+        Write(filePath("players.dat"), "old players");
+        Write(filePath("teams.dat"), "old teams");
+        const FilesBeforeSave before(*game);
+        if (c.playersWritten)
+            Write(filePath("players.dat"), "new players");
+        if (c.teamsWritten)
+            Write(filePath("teams.dat"), "new teams");
+        const QString said = before.FailureText(failure);
+        EXPECT_TRUE(said.startsWith("Could not save " + QDir::toNativeSeparators(filePath("teams.dat")) + ":\nthe disk is full\n\n"))
+            << said.toStdString();
+        EXPECT_TRUE(said.contains(c.outcome)) << said.toStdString();
+        EXPECT_TRUE(said.endsWith("Your changes are still in the editor.")) << said.toStdString();
     }
 }
 
