@@ -27,7 +27,7 @@ struct GameBuilder {
     // Numbered players 1 to `count` named P0001, P0002, ...
     void Players(int count)
     {
-        char name[8];
+        char name[12];
         for (int n = 1; n <= count; ++n)
             Player(n, (std::snprintf(name, sizeof name, "P%04d", n), name));
     }

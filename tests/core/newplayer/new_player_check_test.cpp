@@ -4,8 +4,11 @@
 
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
+#include "check/problems.h"
+#include "data/fields.h"
 #include "data/squad.h"
 #include "support/game_builder.h"
 
@@ -27,6 +30,24 @@ std::unique_ptr<Game> SmallGame()
 NewPlayerEntries GoodEntries()
 {
     return {"R J", "Ashdown", "14", "2", "1979", "45", "12", "20", "8", "25", "10"};
+}
+
+// Player 1 of team 1, with nothing `check` would warn about.
+std::unique_ptr<Game> SoundGame()
+{
+    GameBuilder b;
+    PlayerRecord& p = b.Player(1, "Ashdown", "R J");
+    for (const PlayerField& field : PlayerFields) {
+        if (field.codes)
+            p.*field.number = static_cast<std::int16_t>(field.codes->firstCode);
+        else if (field.range)
+            p.*field.number = static_cast<std::int16_t>(field.range->low);
+    }
+    p.birthDay = 14;
+    p.birthMonth = 7;
+    p.birthYear = 1979;
+    b.Team(1, "Ashby", {1}).homeCountry = 1;
+    return std::move(b.game);
 }
 
 }  // namespace
@@ -61,21 +82,14 @@ TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
         EXPECT_EQ(EntriesAreGood(e), c.good) << "text \"" << c.text << "\"";
     }
     EXPECT_FALSE(EntriesAreGood(NewPlayerEntries{})) << "OK pressed on an untouched window";
-    const struct {
-        const char* day;
-        const char* month;
-        const char* year;
-        bool exists;
-    } dates[] = {
+    const std::tuple<const char*, const char*, const char*, bool> dates[] = {
         {"29", "2", "1992", true}, {"29", "2", "1900", false}, {"29", "2", "2000", true}, {"31", "4", "1990", false},
         {"31", "12", "1990", true}, {"1", "1", "0", false},     {"0", "1", "1990", false},
     };
-    for (const auto& d : dates) {
+    for (const auto& [day, month, year, exists] : dates) {
         NewPlayerEntries e = GoodEntries();
-        e.birthDay = d.day;
-        e.birthMonth = d.month;
-        e.birthYear = d.year;
-        EXPECT_EQ(EntriesAreGood(e), d.exists) << d.day << "/" << d.month << "/" << d.year;
+        std::tie(e.birthDay, e.birthMonth, e.birthYear) = std::tie(day, month, year);
+        EXPECT_EQ(EntriesAreGood(e), exists) << day << "/" << month << "/" << year;
     }
     EXPECT_EQ(FirstBadEntry(GoodEntries()), std::nullopt);
     const struct {
@@ -97,11 +111,46 @@ TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
         e.*fault.box = fault.text;
         EXPECT_EQ(FirstBadEntry(e).value_or(""), fault.said);
     }
+}
+
+// The new player's window and `check` both take a skill's range from the
+// table: its ends pass, one past either end is refused by the one and
+// reported by the other. `check` reports no range for a field without one;
+// a new player's date must be a day of the calendar instead. Every box needs
+// a number.
+TEST(FieldTable, NewPlayerChecksAndGameCheckHoldEachFieldToItsRange)
+{
     for (const NumberBox& box : NumberBoxes) {
+        const PlayerField& field = *FieldOf<PlayerRecord>(PlayerFields, box.field);
         for (const char* text : {"", "x", "1,5"}) {
             NewPlayerEntries e = GoodEntries();
             e.*box.box = text;
-            EXPECT_FALSE(EntriesAreGood(e)) << text;
+            EXPECT_FALSE(EntriesAreGood(e)) << field.name << " = \"" << text << '"';
+        }
+        const Range range = field.range.value_or(Range{-999, 9999});
+        const struct {
+            int value;
+            bool inRange;
+        } cases[] = {{range.low - 1, !field.range}, {range.low, true}, {range.high, true}, {range.high + 1, !field.range}};
+        for (const auto& c : cases) {
+            SCOPED_TRACE(std::string(field.name) + " = " + std::to_string(c.value));
+            NewPlayerEntries entries = GoodEntries();
+            entries.*box.box = std::to_string(c.value);
+            if (field.range) {
+                EXPECT_EQ(EntriesAreGood(entries), c.inRange);
+            }
+
+            auto game = SoundGame();
+            game->Players[1].*box.field = static_cast<std::int16_t>(c.value);
+            std::vector<std::string> rangeWarnings;
+            for (const Problem& problem : ProblemsInGame(*game)) {
+                if (problem.field == field.name && problem.message.find("range") != std::string::npos)
+                    rangeWarnings.push_back(problem.message);
+            }
+            using Warnings = std::vector<std::string>;
+            EXPECT_EQ(rangeWarnings, c.inRange ? Warnings{}
+                                               : Warnings{std::to_string(c.value) + " is outside the range " +
+                                                          RangeText(*field.range)});
         }
     }
 }

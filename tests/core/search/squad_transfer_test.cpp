@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "data/squad.h"
+#include "search/player_find.h"
 #include "support/game_builder.h"
 
 using ::testing::ElementsAre;
@@ -51,11 +52,20 @@ TEST_F(SquadTest, TwoTeamsStepByStep)
 TEST_F(SquadTest, APlayerInTwoSquadsBelongsToTheHighestTeam)
 {
     b.Team(2, "Low", {5, 5, 7, 5, 6});
+    b.Team(3, "Odd", {2001, 6, -4});
     b.Team(4, "Mid", {8});
     b.Team(6, "High", {9, 5});
+    game.Teams[MaxTeams].squad[1] = 8;  // past TeamCount: no squad the game searches
     game.Players[5].teamNumber = 2;
     EXPECT_EQ(PresentClub(game, 5), 6);
+    EXPECT_EQ(PresentClub(game, 6), 3);
+    EXPECT_EQ(PresentClub(game, 8), 4);
     EXPECT_EQ(PresentClub(game, 30), 0);
+    // The lists take every player's club from one walk over the squads.
+    const std::vector<std::int16_t> clubs = PresentClubs(game);
+    ASSERT_EQ(clubs.size(), std::size_t(MaxPlayers + 1));
+    for (int player = 0; player <= MaxPlayers; ++player)
+        EXPECT_EQ(clubs[std::size_t(player)], PresentClub(game, std::int16_t(player))) << "player " << player;
 
     EXPECT_EQ(AddToSquad(game, 4, 5), 6);
     EXPECT_THAT(Places(game.Teams[2]), ElementsAre(7, 6));
