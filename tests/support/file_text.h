@@ -6,13 +6,32 @@
 #include <utility>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "data/file_io.h"
 #include "data/game.h"
+#include "data/load_game.h"
+#include "data/players_file.h"
+#include "data/teams_file.h"
 
 // What a file holds, or "<missing>" when it cannot be read.
 inline std::string Bytes(const std::filesystem::path& path)
 {
     return ReadWholeFile(PathText(path)).value_or("<missing>");
+}
+
+// What players.dat and teams.dat in `dir` hold, or the copies of them kept
+// beside under `suffix` (".bak"); "<missing>" for a file that is not there.
+using FilePair = std::pair<std::string, std::string>;
+inline FilePair PairIn(const std::filesystem::path& dir, const std::string& suffix = "")
+{
+    return {Bytes(dir / ("players.dat" + suffix)), Bytes(dir / ("teams.dat" + suffix))};
+}
+
+// The pair the game's writers make of `game`.
+inline FilePair WrittenPair(const Game& game)
+{
+    return {WritePlayers(game), WriteTeams(game)};
 }
 
 // What a save left in `dir` besides the pairs it keeps (the files and their
@@ -76,4 +95,13 @@ struct Load {
 inline std::unique_ptr<Game> NewGame()
 {
     return std::make_unique<Game>();
+}
+
+// The game in `folder`, named as a user would name it, loaded into `game`
+// as the editor loads it.
+inline void LoadFolder(Game& game, const std::string& folder)
+{
+    SetGameDirectory(game, folder);
+    const GameLoad load = LoadGame(game);
+    EXPECT_TRUE(load.players.Read() && load.teams.Read()) << load.players.failure << load.teams.failure;
 }

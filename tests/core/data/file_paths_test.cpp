@@ -18,11 +18,8 @@
 #endif
 
 #include "data/file_io.h"
-#include "data/load_game.h"
-#include "data/players_file.h"
 #include "data/save.h"
 #include "data/setting_file.h"
-#include "data/teams_file.h"
 #include "support/file_text.h"
 #include "support/scratch_folder.h"
 
@@ -57,14 +54,12 @@ protected:
     // A new folder named `name` under a scratch folder of this test.
     fs::path Folder(const std::string& name) { return scratch_.Folder(NativePath(name)); }
 
-    // The sample game copied into `dir` and loaded.
+    // The sample game copied into `dir` and loaded from the folder as named by `asText`.
     std::unique_ptr<Game> LoadSampleIn(const fs::path& dir, const std::string& asText)
     {
         CopySampleInto(dir);
-        auto game = std::make_unique<Game>();
-        SetGameDirectory(*game, asText);
-        EXPECT_TRUE(ReadPlayersFile(*game).Read());
-        EXPECT_TRUE(ReadTeamsFile(*game).Read());
+        auto game = NewGame();
+        LoadFolder(*game, asText);
         return game;
     }
 
@@ -72,17 +67,14 @@ protected:
     // wrote, and checks each file and its backup byte for byte.
     void SaveTwiceAndCompare(Game& game, const fs::path& dir)
     {
-        const std::string oldPlayers = Bytes(dir / "players.dat");
-        const std::string oldTeams = Bytes(dir / "teams.dat");
+        const FilePair old = PairIn(dir);
         game.Players[1].surname = "Renamed";
         for (int round = 0; round < 2; ++round) {
             const FileResult saved = SaveGame(game);
             ASSERT_TRUE(saved.ok()) << saved.path << ": " << saved.reason;
         }
-        EXPECT_EQ(Bytes(dir / "players.dat"), WritePlayers(game));
-        EXPECT_EQ(Bytes(dir / "teams.dat"), WriteTeams(game));
-        EXPECT_EQ(Bytes(dir / "players.dat.bak"), oldPlayers);
-        EXPECT_EQ(Bytes(dir / "teams.dat.bak"), oldTeams);
+        EXPECT_TRUE(PairIn(dir) == WrittenPair(game));
+        EXPECT_TRUE(PairIn(dir, ".bak") == old);
         EXPECT_EQ(SaveLeftovers(dir), std::vector<std::string>{});
     }
 
@@ -193,8 +185,7 @@ TEST_F(FilePaths, AFileHeldOpenStopsTheSaveAndBothFilesStay)
         SCOPED_TRACE(heldName);
         const fs::path dir = Folder(std::string("held ") + heldName);
         const auto game = LoadSampleIn(dir, PathText(dir));
-        const std::string oldPlayers = Bytes(dir / "players.dat");
-        const std::string oldTeams = Bytes(dir / "teams.dat");
+        const FilePair old = PairIn(dir);
         game->Players[1].surname = "Renamed";
         FileResult saved;
         {
@@ -205,8 +196,7 @@ TEST_F(FilePaths, AFileHeldOpenStopsTheSaveAndBothFilesStay)
         EXPECT_FALSE(saved.ok());
         EXPECT_EQ(saved.path, PathText(dir / heldName));
         EXPECT_NE(saved.reason.find("another program"), std::string::npos) << saved.reason;
-        EXPECT_EQ(Bytes(dir / "players.dat"), oldPlayers);
-        EXPECT_EQ(Bytes(dir / "teams.dat"), oldTeams);
+        EXPECT_TRUE(PairIn(dir) == old);
         EXPECT_EQ(SaveLeftovers(dir), std::vector<std::string>{});
         // Once the game lets go, the same edit saves.
         EXPECT_TRUE(SaveGame(*game).ok());
