@@ -57,6 +57,17 @@ inline std::vector<int> PlayerRun(int first, int count)
     return numbers;
 }
 
+// The record numbers of the copies a step of editing took (its players or
+// its teams), in their order.
+template <class Copies>
+std::vector<int> Numbers(const Copies& copies)
+{
+    std::vector<int> numbers;
+    for (const auto& copy : copies)
+        numbers.push_back(copy.number);
+    return numbers;
+}
+
 // The places of a squad up to its last filled one; all places behind are 0.
 inline std::vector<int> Places(const TeamRecord& team)
 {

@@ -14,22 +14,6 @@ using ::testing::ElementsAre;
 
 namespace {
 
-std::vector<int> PlayerNumbers(const RecordChange& change)
-{
-    std::vector<int> numbers;
-    for (const auto& copy : change.players)
-        numbers.push_back(copy.number);
-    return numbers;
-}
-
-std::vector<int> TeamNumbers(const RecordChange& change)
-{
-    std::vector<int> numbers;
-    for (const auto& copy : change.teams)
-        numbers.push_back(copy.number);
-    return numbers;
-}
-
 // Joining steps: the earliest before and the latest after of each record,
 // and a record brought back to where it started drops out.
 TEST(RecordChanges, JoinedStepsKeepTheEarliestBeforeAndTheLatestAfter)
@@ -59,7 +43,7 @@ TEST(RecordChanges, JoinedStepsKeepTheEarliestBeforeAndTheLatestAfter)
         };
         RecordChange joined = step(c.first);
         joined.Absorb(step(c.second));
-        EXPECT_EQ(PlayerNumbers(joined), c.players) << c.what;
+        EXPECT_EQ(Numbers(joined.players), c.players) << c.what;
         std::vector<int> skills;
         for (const auto& copy : joined.players) {
             EXPECT_EQ(copy.before.batSkill, 0) << c.what;
@@ -84,12 +68,12 @@ TEST(RecordChanges, NamedRecordsOnlyAndTheOthersLater)
     b.game->Players[4].batSkill = 9;
     b.game->Teams[1].wealth = 9;
     const RecordChange tick = ledger.TakeChanges(*b.game, {1, 1, 0, -3, 2001}, {0, 501});
-    EXPECT_THAT(PlayerNumbers(tick), ElementsAre(1));
+    EXPECT_THAT(Numbers(tick.players), ElementsAre(1));
     EXPECT_TRUE(tick.teams.empty());
 
     const RecordChange rest = ledger.TakeAllChanges(*b.game);
-    EXPECT_THAT(PlayerNumbers(rest), ElementsAre(4));
-    EXPECT_THAT(TeamNumbers(rest), ElementsAre(1));
+    EXPECT_THAT(Numbers(rest.players), ElementsAre(4));
+    EXPECT_THAT(Numbers(rest.teams), ElementsAre(1));
     EXPECT_TRUE(ledger.TakeAllChanges(*b.game).Empty());
 
     // Put back, the copies give the records as they were before each step.

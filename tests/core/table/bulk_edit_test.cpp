@@ -22,16 +22,6 @@ std::unique_ptr<Game> Applied(const Game& game, const BulkEdit& plan)
     return after;
 }
 
-std::vector<int> Changed(const BulkEdit& plan)
-{
-    std::vector<int> numbers;
-    for (const auto& copy : plan.change.players)
-        numbers.push_back(copy.number);
-    for (const auto& copy : plan.change.teams)
-        numbers.push_back(copy.number);
-    return numbers;
-}
-
 TEST(SetValue, TakesWhatTheRecordsHoldAndRefusesTheRestWhole)
 {
     auto game = TableGame();
@@ -88,7 +78,8 @@ TEST(SetValue, TakesWhatTheRecordsHoldAndRefusesTheRestWhole)
     // Records come in number order, only those that change, with a name for the step.
     const std::vector<int> chosen{6, 4, 1};
     const BulkEdit names = PlanSetValue(*game, RecordKind::Player, "initials", chosen, "A J");
-    EXPECT_THAT(Changed(names), ElementsAre(4, 6));
+    EXPECT_THAT(Numbers(names.change.players), ElementsAre(4, 6));
+    EXPECT_TRUE(names.change.teams.empty());
     EXPECT_EQ(names.summary, "set initials on 3 players");
     const BulkEdit high = PlanSetValue(*game, RecordKind::Player, "potential", chosen, "21");
     EXPECT_THAT(high.note, HasSubstr("3 players now hold a value outside the range the game gives it"));
