@@ -81,7 +81,7 @@ protected:
     ScratchFolder scratch_;
 };
 
-TEST_P(FilePaths, ReplacingAFileKeepsEveryByte)
+TEST_P(FilePaths, AFileIsReplacedByteForByteAndTheGameSavesInTheFolder)
 {
     const fs::path dir = Folder(GetParam());
     const std::string file = JoinPath(PathText(dir), "editor.dat");
@@ -90,11 +90,7 @@ TEST_P(FilePaths, ReplacingAFileKeepsEveryByte)
     ASSERT_TRUE(replaced.ok()) << replaced.reason;
     EXPECT_EQ(ReadWholeFile(file), AwkwardBytes);
     EXPECT_EQ(fs::file_size(NativePath(file)), AwkwardBytes.size());
-}
 
-TEST_P(FilePaths, TheGameSavesInTheFolder)
-{
-    const fs::path dir = Folder(GetParam());
     const auto game = LoadSampleIn(dir, PathText(dir));
     EXPECT_EQ(game->PlayersPath, PathText(dir / "players.dat"));
     SaveTwiceAndCompare(*game, dir);

@@ -46,26 +46,19 @@ TEST(NumberEntry, PlainWholeNumbersAreStoredAndTheRestIsRefusedWithWhatTheFieldH
         Kind kind;
         int value;
     } cases[] = {
-        {"44", batSkill, Kind::Stored, 44},
-        {" +007 ", batSkill, Kind::Stored, 7},
-        {"0", batSkill, Kind::Stored, 0},
-        {"60", batSkill, Kind::Stored, 60},
+        {"44", batSkill, Kind::Stored, 44}, {" +007 ", batSkill, Kind::Stored, 7},
+        {"0", batSkill, Kind::Stored, 0}, {"60", batSkill, Kind::Stored, 60},
         // Outside the game's range but a number the file can hold.
-        {"61", batSkill, Kind::Unusual, 61},
-        {"-1", batSkill, Kind::Unusual, -1},
+        {"61", batSkill, Kind::Unusual, 61}, {"-1", batSkill, Kind::Unusual, -1},
         {"32767", batSkill, Kind::Unusual, 32767},
         // A date of birth has no range of its own.
         {"-32768", birthYear, Kind::Stored, -32768},
         // Texts the field does not take as they stand: it keeps its value,
         // even where a conversion would read a number nobody typed.
-        {"1234567", batSkill, Kind::Refused, 52},
-        {"32768", batSkill, Kind::Refused, 52},
-        {"0x1F", batSkill, Kind::Refused, 52},
-        {"1,5", batSkill, Kind::Refused, 52},
-        {"", batSkill, Kind::Refused, 52},
-        {"-", birthYear, Kind::Refused, 1980},
-        {"12.5", batSkill, Kind::Refused, 52},
-        {"1e1", batSkill, Kind::Refused, 52},
+        {"1234567", batSkill, Kind::Refused, 52}, {"32768", batSkill, Kind::Refused, 52},
+        {"0x1F", batSkill, Kind::Refused, 52}, {"1,5", batSkill, Kind::Refused, 52},
+        {"", batSkill, Kind::Refused, 52}, {"-", birthYear, Kind::Refused, 1980},
+        {"12.5", batSkill, Kind::Refused, 52}, {"1e1", batSkill, Kind::Refused, 52},
     };
     for (const auto& c : cases) {
         const NumberEntry entry = JudgeNumberEntry(c.text, player, c.field);
