@@ -17,31 +17,24 @@ namespace fs = std::filesystem;
 namespace {
 
 #if !defined(_WIN32)
-// Links and permission bits are Unix things.
-class ReadFile : public testing::Test {
-protected:
-    ScratchFolder scratch_;
-    const fs::path dir_ = scratch_.Path();
-};
-
 // A link to a file is followed, and a file of exactly the limit is read;
 // what is refused says why. Pipes, devices and folders are refused by every
-// command of kolta-data, in its tests.
-TEST_F(ReadFile, ReadsUpToTheLimitAndSaysWhyNot)
+// command of kolta-data, in its tests. (Links and permission bits are Unix things.)
+TEST(ReadFile, ReadsUpToTheLimitAndSaysWhyNot)
 {
-    ASSERT_TRUE(ReplaceFile((dir_ / "plain").string(), "12\r\n").ok());
-    ASSERT_TRUE(ReplaceFile((dir_ / "large").string(), "").ok());
-    fs::resize_file(dir_ / "large", MaxFileSize + 1);
-    ASSERT_TRUE(ReplaceFile((dir_ / "largest").string(), "").ok());
-    fs::resize_file(dir_ / "largest", MaxFileSize);
-    fs::create_symlink(dir_ / "plain", dir_ / "link");
-    ASSERT_TRUE(ReplaceFile((dir_ / "locked").string(), "x").ok());
-    fs::permissions(dir_ / "locked", fs::perms::none);
+    const ScratchFolder scratch;
+    const fs::path& dir = scratch.Path();
+    ASSERT_TRUE(ReplaceFile((dir / "plain").string(), "12\r\n").ok());
+    ASSERT_TRUE(ReplaceFile((dir / "large").string(), "").ok());
+    fs::resize_file(dir / "large", MaxFileSize + 1);
+    ASSERT_TRUE(ReplaceFile((dir / "largest").string(), "").ok());
+    fs::resize_file(dir / "largest", MaxFileSize);
+    fs::create_symlink(dir / "plain", dir / "link");
+    ASSERT_TRUE(ReplaceFile((dir / "locked").string(), "x").ok());
+    fs::permissions(dir / "locked", fs::perms::none);
 
-    const struct {
-        std::string name;
-        std::string reason;
-    } cases[] = {
+    // A file, and why it cannot be read (empty: it can).
+    const std::pair<std::string, std::string> cases[] = {
         {"plain", ""},
         {"link", ""},
         {"largest", ""},
@@ -49,12 +42,12 @@ TEST_F(ReadFile, ReadsUpToTheLimitAndSaysWhyNot)
         {"large", "the file is larger than 16 MB, more than any game makes"},
         {"locked", ::geteuid() != 0 ? "Permission denied" : ""},
     };
-    for (const auto& c : cases) {
-        const FileBytes read = ReadFileBytes((dir_ / c.name).string());
-        EXPECT_EQ(read.reason, c.reason) << c.name;
-        EXPECT_EQ(read.ok(), c.reason.empty()) << c.name;
+    for (const auto& [name, reason] : cases) {
+        const FileBytes read = ReadFileBytes((dir / name).string());
+        EXPECT_EQ(read.reason, reason) << name;
+        EXPECT_EQ(read.ok(), reason.empty()) << name;
     }
-    EXPECT_EQ(ReadFileBytes((dir_ / "link").string()).bytes, "12\r\n");
+    EXPECT_EQ(ReadFileBytes((dir / "link").string()).bytes, "12\r\n");
 }
 
 #endif

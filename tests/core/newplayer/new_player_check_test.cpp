@@ -59,11 +59,8 @@ std::unique_ptr<Game> SoundGame()
 TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
 {
     using E = NewPlayerEntries;
-    const struct {
-        EntryBox box;
-        std::string text;
-        bool good;
-    } cases[] = {
+    // A box, the text pasted into it, and whether the entries are good then.
+    const std::tuple<EntryBox, std::string, bool> cases[] = {
         // The ends of each range are in the field table's test; here, what pasted text makes of them.
         {&E::batSkill, "+5", true},       {&E::batSkill, "-0", true},
         {&E::batSkill, "-1", false},      {&E::batSkill, "-.4", false},      {&E::batSkill, "60.4", false},
@@ -76,10 +73,10 @@ TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
         {&E::initials, "", false},        {&E::initials, "  ", false},       {&E::surname, "", false},
         {&E::surname, " ", false},        {&E::initials, "J", true},
     };
-    for (const auto& c : cases) {
+    for (const auto& [box, text, good] : cases) {
         NewPlayerEntries e = GoodEntries();
-        e.*c.box = c.text;
-        EXPECT_EQ(EntriesAreGood(e), c.good) << "text \"" << c.text << "\"";
+        e.*box = text;
+        EXPECT_EQ(EntriesAreGood(e), good) << "text \"" << text << "\"";
     }
     EXPECT_FALSE(EntriesAreGood(NewPlayerEntries{})) << "OK pressed on an untouched window";
     const std::tuple<const char*, const char*, const char*, bool> dates[] = {
@@ -92,24 +89,21 @@ TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
         EXPECT_EQ(EntriesAreGood(e), exists) << day << "/" << month << "/" << year;
     }
     EXPECT_EQ(FirstBadEntry(GoodEntries()), std::nullopt);
-    const struct {
-        EntryBox box;
-        const char* text;
-        const char* said;
-    } faults[] = {
-        {&NewPlayerEntries::potential, "20.5", "Potential must lie from 0 to 20, not 20.5."},
-        {&NewPlayerEntries::fieldAbility, "9", "Field ability must lie from 10 to 40, not 9."},
-        {&NewPlayerEntries::birthDay, "30", "Date of birth 30/2/1979 does not exist."},
-        {&NewPlayerEntries::birthMonth, "1x", "Date of birth holds no number: \"1x\"."},
-        {&NewPlayerEntries::birthDay, "", "Date of birth is empty."},
-        {&NewPlayerEntries::surname, " ", "Player Name has no surname."},
-        {&NewPlayerEntries::initials, "", "Player Name has no initials."},
+    // Each box spoilt in turn is ahead of the ones before it in the window's
+    // order: the box, its text, and what the window says.
+    const std::tuple<EntryBox, const char*, const char*> faults[] = {
+        {&E::potential, "20.5", "Potential must lie from 0 to 20, not 20.5."},
+        {&E::fieldAbility, "9", "Field ability must lie from 10 to 40, not 9."},
+        {&E::birthDay, "30", "Date of birth 30/2/1979 does not exist."},
+        {&E::birthMonth, "1x", "Date of birth holds no number: \"1x\"."},
+        {&E::birthDay, "", "Date of birth is empty."},
+        {&E::surname, " ", "Player Name has no surname."},
+        {&E::initials, "", "Player Name has no initials."},
     };
-    // Each box spoilt in turn is ahead of the ones before it in the window's order.
     NewPlayerEntries e = GoodEntries();
-    for (const auto& fault : faults) {
-        e.*fault.box = fault.text;
-        EXPECT_EQ(FirstBadEntry(e).value_or(""), fault.said);
+    for (const auto& [box, text, said] : faults) {
+        e.*box = text;
+        EXPECT_EQ(FirstBadEntry(e).value_or(""), said);
     }
 }
 
@@ -128,29 +122,28 @@ TEST(FieldTable, NewPlayerChecksAndGameCheckHoldEachFieldToItsRange)
             EXPECT_FALSE(EntriesAreGood(e)) << field.name << " = \"" << text << '"';
         }
         const Range range = field.range.value_or(Range{-999, 9999});
-        const struct {
-            int value;
-            bool inRange;
-        } cases[] = {{range.low - 1, !field.range}, {range.low, true}, {range.high, true}, {range.high + 1, !field.range}};
-        for (const auto& c : cases) {
-            SCOPED_TRACE(std::string(field.name) + " = " + std::to_string(c.value));
+        // A value, and whether it lies in the field's range.
+        const std::pair<int, bool> cases[] = {
+            {range.low - 1, !field.range}, {range.low, true}, {range.high, true}, {range.high + 1, !field.range}};
+        for (const auto& [value, inRange] : cases) {
+            SCOPED_TRACE(std::string(field.name) + " = " + std::to_string(value));
             NewPlayerEntries entries = GoodEntries();
-            entries.*box.box = std::to_string(c.value);
+            entries.*box.box = std::to_string(value);
             if (field.range) {
-                EXPECT_EQ(EntriesAreGood(entries), c.inRange);
+                EXPECT_EQ(EntriesAreGood(entries), inRange);
             }
 
             auto game = SoundGame();
-            game->Players[1].*box.field = static_cast<std::int16_t>(c.value);
+            game->Players[1].*box.field = static_cast<std::int16_t>(value);
             std::vector<std::string> rangeWarnings;
             for (const Problem& problem : ProblemsInGame(*game)) {
                 if (problem.field == field.name && problem.message.find("range") != std::string::npos)
                     rangeWarnings.push_back(problem.message);
             }
             using Warnings = std::vector<std::string>;
-            EXPECT_EQ(rangeWarnings, c.inRange ? Warnings{}
-                                               : Warnings{std::to_string(c.value) + " is outside the range " +
-                                                          RangeText(*field.range)});
+            EXPECT_EQ(rangeWarnings, inRange ? Warnings{}
+                                             : Warnings{std::to_string(value) + " is outside the range " +
+                                                        RangeText(*field.range)});
         }
     }
 }
@@ -204,26 +197,23 @@ TEST(NewPlayerCommit, RefusalsLeaveTheGameAsItWas)
     EXPECT_FALSE(CanAddNewPlayer(*last));
 
     using Outcome = NewPlayerOutcome;
-    const struct {
-        const char* what;
-        void (*prepare)(Game&, int& team, NewPlayerEntries&);
-        Outcome outcome;
-    } refusals[] = {
+    // What is wrong, how the game, the team or the entries are spoilt, and the outcome.
+    const std::tuple<const char*, void (*)(Game&, int& team, NewPlayerEntries&), Outcome> refusals[] = {
         {"bad entries", [](Game&, int&, NewPlayerEntries& e) { e.fieldAbility = "9"; }, Outcome::BadEntries},
         {"full table", [](Game& g, int&, NewPlayerEntries&) { g.PlayerCount = MaxPlayers; }, Outcome::TableFull},
         {"no team", [](Game&, int& team, NewPlayerEntries&) { team = 0; }, Outcome::NoTeam},
         {"past the last team", [](Game&, int& team, NewPlayerEntries&) { team = MaxTeams + 1; }, Outcome::NoTeam},
         {"full squad", [](Game& g, int&, NewPlayerEntries&) { g.Teams[Club].squad.fill(40); }, Outcome::SquadFull},
     };
-    for (const auto& r : refusals) {
-        SCOPED_TRACE(r.what);
+    for (const auto& [what, prepare, outcome] : refusals) {
+        SCOPED_TRACE(what);
         auto game = SmallGame();
         int team = Club;
         NewPlayerEntries e = GoodEntries();
-        r.prepare(*game, team, e);
+        prepare(*game, team, e);
         const auto before = std::make_unique<Game>(*game);
 
-        EXPECT_EQ(CommitNewPlayer(*game, team, e), r.outcome);
+        EXPECT_EQ(CommitNewPlayer(*game, team, e), outcome);
         EXPECT_EQ(game->PlayerCount, before->PlayerCount);
         EXPECT_TRUE(game->Players == before->Players);
         EXPECT_TRUE(game->Teams == before->Teams);

@@ -28,10 +28,8 @@ TEST(PlayerFind, ListsTheMatchesInOrder)
     b.Player(10, "Ng", "H");
     b.Player(12, "O'Brien", "K");
     b.Player(120, "Kumar", "L");
-    const struct {
-        const char* typed;
-        std::vector<std::int16_t> found;
-    } cases[] = {
+    // What is typed, and the players found in their order.
+    const std::pair<const char*, std::vector<std::int16_t>> cases[] = {
         // The whole surname first (two of one name by their initials), then
         // surnames that begin with the text, then those that hold it.
         {"smith", {1, 7, 2, 3}}, {"SMITH", {1, 7, 2, 3}}, {"  sMiTh ", {1, 7, 2, 3}},
@@ -44,8 +42,8 @@ TEST(PlayerFind, ListsTheMatchesInOrder)
         // Nothing to look for, or nobody like it.
         {"", {}}, {"   ", {}}, {". .", {}}, {"xyz", {}},
     };
-    for (const auto& c : cases)
-        EXPECT_THAT(FindPlayers(*b.game, c.typed), ElementsAreArray(c.found)) << '"' << c.typed << '"';
+    for (const auto& [typed, found] : cases)
+        EXPECT_THAT(FindPlayers(*b.game, typed), ElementsAreArray(found)) << '"' << typed << '"';
 
     // Only loaded players are searched: a record behind PlayerCount was never loaded.
     b.Player(MaxPlayers, "Smith", "Z");
@@ -63,16 +61,12 @@ TEST(PlayerAge, CountsWholeYearsFromTheBirthday)
         int onYear, onMonth, onDay;
         std::optional<int> age;
     } cases[] = {
-        {15, 6, 1980, 2000, 6, 14, 19},
-        {15, 6, 1980, 2000, 6, 15, 20},
-        {15, 6, 1980, 2000, 12, 31, 20},
-        {15, 6, 1980, 2001, 1, 1, 20},
-        {15, 6, 1980, 1980, 6, 15, 0},
+        {15, 6, 1980, 2000, 6, 14, 19},  {15, 6, 1980, 2000, 6, 15, 20}, {15, 6, 1980, 2000, 12, 31, 20},
+        {15, 6, 1980, 2001, 1, 1, 20},   {15, 6, 1980, 1980, 6, 15, 0},
         {15, 6, 1980, 1980, 6, 14, std::nullopt},  // not born yet
-        {29, 2, 1984, 2001, 2, 28, 16},
-        {29, 2, 1984, 2001, 3, 1, 17},
-        {0, 6, 1980, 2000, 6, 15, std::nullopt},
-        {15, 13, 1980, 2000, 6, 15, std::nullopt},
+        {29, 2, 1984, 2001, 2, 28, 16},  {29, 2, 1984, 2001, 3, 1, 17},
+        // No possible birth date, no age.
+        {0, 6, 1980, 2000, 6, 15, std::nullopt}, {15, 13, 1980, 2000, 6, 15, std::nullopt},
         {15, 6, 0, 2000, 6, 15, std::nullopt},
     };
     for (const auto& c : cases) {

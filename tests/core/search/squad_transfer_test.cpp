@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "data/squad.h"
 #include "search/player_find.h"
 #include "support/game_builder.h"
@@ -79,14 +81,10 @@ TEST_F(SquadTest, APlayerInTwoSquadsBelongsToTheHighestTeam)
 // last squad to let him go leaves him without a team.
 TEST_F(SquadTest, LeavingOneOfTwoSquadsKeepsTheOther)
 {
-    // Player 1 stands in teams 1 and 2, and in the case of team 3 twice there.
-    const struct {
-        const char* what;
-        std::vector<int> three;
-        std::int16_t teamNumberBefore;
-        void (*leave)(Game&);
-        std::int16_t teamNumberAfter;
-    } cases[] = {
+    // Player 1 stands in teams 1 and 2, and in the last case twice in team 3.
+    // Each case: what happens, the squad of team 3, his teamNumber before,
+    // how he leaves, and his teamNumber after.
+    const std::tuple<const char*, std::vector<int>, std::int16_t, void (*)(Game&), std::int16_t> cases[] = {
         {"deleted from team 2, which his record names", {}, 2, [](Game& g) { DeleteFromSquad(g, 2, 1); }, 1},
         {"deleted from team 2, his record naming team 1", {}, 1, [](Game& g) { DeleteFromSquad(g, 2, 1); }, 1},
         {"deleted from team 1", {}, 2, [](Game& g) { DeleteFromSquad(g, 1, 1); }, 2},
@@ -94,16 +92,16 @@ TEST_F(SquadTest, LeavingOneOfTwoSquadsKeepsTheOther)
         {"deleted from both", {}, 2, [](Game& g) { DeleteFromSquad(g, 2, 1); DeleteFromSquad(g, 1, 1); }, 0},
         {"deleted from one of two places in his team", {1, 4, 1}, 3, [](Game& g) { DeleteFromSquad(g, 3, 1); }, 3},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, three, before, leave, after] : cases) {
+        SCOPED_TRACE(what);
         GameBuilder fresh;
         fresh.Players(9);
         fresh.Team(1, "One", {1, 2});
         fresh.Team(2, "Two", {1, 3});
-        fresh.Team(3, "Three", c.three);
-        fresh.game->Players[1].teamNumber = c.teamNumberBefore;
-        c.leave(*fresh.game);
-        EXPECT_EQ(fresh.game->Players[1].teamNumber, c.teamNumberAfter);
+        fresh.Team(3, "Three", three);
+        fresh.game->Players[1].teamNumber = before;
+        leave(*fresh.game);
+        EXPECT_EQ(fresh.game->Players[1].teamNumber, after);
     }
 }
 

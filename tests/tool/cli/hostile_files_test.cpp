@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
+#include <tuple>
 
 #include <sys/stat.h>
 
@@ -22,12 +22,8 @@ using HostileFiles = CliTest;
 // past the size limit is refused in read_file_test.)
 TEST_F(HostileFiles, AreRefusedWithTheirReasonByEveryCommandAndNothingChanges)
 {
-    struct Case {
-        const char* what;
-        std::function<void(const fs::path&)> spoil;
-        std::string says;
-    };
-    const std::vector<Case> cases{
+    // What the file is, how a game folder is given it, and what every command says.
+    const std::tuple<const char*, void (*)(const fs::path&), const char*> cases[] = {
         {"players.dat a link to /dev/zero", [](const fs::path& dir) {
              fs::remove(dir / "players.dat");
              fs::create_symlink("/dev/zero", dir / "players.dat");
@@ -42,10 +38,10 @@ TEST_F(HostileFiles, AreRefusedWithTheirReasonByEveryCommandAndNothingChanges)
          }, "teams.dat (it is a folder, not a file)"},
     };
     const fs::path csv = Export(SampleCopy());
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, spoil, says] : cases) {
+        SCOPED_TRACE(what);
         const fs::path dir = SampleCopy();
-        c.spoil(dir);
+        spoil(dir);
         const fs::path out = NewFolder("out");
         for (const std::vector<ToolArg>& args : std::vector<std::vector<ToolArg>>{
                  {"info", dir}, {"check", dir}, {"normalize", dir}, {"export", dir, out}, {"import", dir, csv},
@@ -53,7 +49,7 @@ TEST_F(HostileFiles, AreRefusedWithTheirReasonByEveryCommandAndNothingChanges)
             SCOPED_TRACE(args.front());
             const ToolRun run = RunTool(args);
             EXPECT_EQ(run.code, 2);
-            EXPECT_THAT(run.err, HasSubstr(c.says));
+            EXPECT_THAT(run.err, HasSubstr(says));
         }
         EXPECT_FALSE(fs::exists(dir / "players.dat.bak"));  // nothing was saved
         EXPECT_TRUE(fs::is_empty(out));
