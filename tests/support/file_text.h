@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <regex>
 #include <string>
 #include <utility>
 #include <vector>
@@ -38,15 +39,12 @@ inline FilePair WrittenPair(const Game& game)
 // .bak, .orig and .prev): its temporaries and commit record; empty when none.
 inline std::vector<std::string> SaveLeftovers(const std::filesystem::path& dir)
 {
+    const std::regex kept(R"((players|teams)\.dat(\.bak|\.orig|\.prev)?)");
+    const std::regex saves(R"((players\.dat|teams\.dat|kolta-save).*)");
     std::vector<std::string> left;
     for (const auto& entry : std::filesystem::directory_iterator(dir)) {
         const std::string name = PathText(entry.path().filename());
-        bool kept = false;
-        for (const char* file : {"players.dat", "teams.dat"}) {
-            for (const char* suffix : {"", ".bak", ".orig", ".prev"})
-                kept = kept || name == std::string(file) + suffix;
-        }
-        if (!kept && (name.starts_with("players.dat") || name.starts_with("teams.dat") || name.starts_with("kolta-save")))
+        if (std::regex_match(name, saves) && !std::regex_match(name, kept))
             left.push_back(name);
     }
     return left;

@@ -33,11 +33,6 @@ std::string stopAt;
 void (*atStop)() = nullptr;
 int holdingFolder = -1;  // where a child process says it holds the folder
 
-void RecordStep(std::string_view step)
-{
-    stepsSeen.emplace_back(step);
-}
-
 void StopAtStep(std::string_view step)
 {
     if (step == stopAt)
@@ -95,7 +90,7 @@ TEST_F(PairCommit, AKilledSaveLeavesTheOldPairOrTheNewOne)
     ChangedCopy(*game);
     const FilePair newPair = WrittenPair(*game);
     stepsSeen.clear();
-    SetCommitStepHook(RecordStep);
+    SetCommitStepHook([](std::string_view step) { stepsSeen.emplace_back(step); });
     ASSERT_TRUE(SaveGame(*game).ok());
     SetCommitStepHook(nullptr);
     ASSERT_GE(stepsSeen.size(), 8u);  // the two writes, the copies, .prev, the record, the moves, the end

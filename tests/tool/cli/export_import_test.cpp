@@ -35,12 +35,11 @@ protected:
     void ExpectRoundTrip(const fs::path& game, const fs::path& csv)
     {
         const fs::path into = ScrambledCopy(game);
-        const std::string scrambled = Bytes(into / "players.dat");
+        const FilePair scrambled = PairIn(into);
         const ToolRun imported = RunTool({"import", into, csv});
         ASSERT_EQ(imported.code, 0) << imported.err;
-        EXPECT_EQ(Bytes(into / "players.dat"), Bytes(game / "players.dat"));
-        EXPECT_EQ(Bytes(into / "teams.dat"), Bytes(game / "teams.dat"));
-        EXPECT_EQ(Bytes(into / "players.dat.bak"), scrambled);
+        EXPECT_EQ(PairIn(into), PairIn(game));
+        EXPECT_EQ(PairIn(into, ".bak"), scrambled);
     }
 };
 
@@ -102,7 +101,7 @@ protected:
         game_ = GameOf(Players({1, 1, 0}), Cat(TeamRecordLines("Ashby", 1, {1, 2}), TeamRecordLines("Bexley", 2)));
         csv_ = Export(game_);
         exported_ = {SplitLines(Bytes(csv_ / "players.csv")), SplitLines(Bytes(csv_ / "teams.csv"))};
-        dat_ = {Bytes(game_ / "players.dat"), Bytes(game_ / "teams.dat")};
+        dat_ = PairIn(game_);
     }
 
     // Imports the exported rows once `edit` has changed them.
@@ -117,15 +116,14 @@ protected:
 
     void ExpectGameUntouched() const
     {
-        EXPECT_EQ(Bytes(game_ / "players.dat"), dat_.first);
-        EXPECT_EQ(Bytes(game_ / "teams.dat"), dat_.second);
+        EXPECT_EQ(PairIn(game_), dat_);
         EXPECT_FALSE(fs::exists(game_ / "players.dat.bak"));
     }
 
     fs::path game_;
     fs::path csv_;
     std::pair<Lines, Lines> exported_;
-    std::pair<std::string, std::string> dat_;
+    FilePair dat_;
 };
 
 TEST_F(Import, AnyWrongRowRefusesTheWholeImportAndIsListedByItsLine)
