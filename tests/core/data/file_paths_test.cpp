@@ -1,8 +1,7 @@
 // Files as each system keeps them: bytes go out and come back exactly (no
 // CR added or lost), an existing file is replaced, folders may be named in
-// any script or be a drive's root, editor.dat may stand beside the program,
-// and on Windows a file the game holds open stops the save with both old
-// files left as they were. These run on Linux and, built for Windows, under Wine.
+// any script, in editor.dat too, or be a drive's root, and on Windows a file
+// the game holds open stops the save with both old files left as they were. These run on Linux and, built for Windows, under Wine.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -26,17 +25,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-fs::path ProgramFolder()
-{
-#if defined(_WIN32)
-    std::wstring program(32768, L'\0');
-    program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
-    return fs::path(program).parent_path();
-#else
-    return fs::read_symlink("/proc/self/exe").parent_path();
-#endif
-}
 
 // Folder names as UTF-8 text, the form paths take inside the program.
 const std::vector<std::string> FolderNames = {
@@ -81,7 +69,7 @@ protected:
     ScratchFolder scratch_;
 };
 
-TEST_P(FilePaths, AFileIsReplacedByteForByteAndTheGameSavesInTheFolder)
+TEST_P(FilePaths, AFileIsReplacedByteForByteAndTheGameNamedInEditorDatSavesInTheFolder)
 {
     const fs::path dir = Folder(GetParam());
     const std::string file = JoinPath(PathText(dir), "editor.dat");
@@ -91,7 +79,10 @@ TEST_P(FilePaths, AFileIsReplacedByteForByteAndTheGameSavesInTheFolder)
     EXPECT_EQ(ReadWholeFile(file), AwkwardBytes);
     EXPECT_EQ(fs::file_size(NativePath(file)), AwkwardBytes.size());
 
-    const auto game = LoadSampleIn(dir, PathText(dir));
+    // editor.dat names the game's folder, whatever its script.
+    ASSERT_TRUE(WriteSettingFile(file, PathText(dir)).ok());
+    EXPECT_EQ(ReadSettingFile(file), PathText(dir));
+    const auto game = LoadSampleIn(dir, ReadSettingFile(file));
     EXPECT_EQ(game->PlayersPath, PathText(dir / "players.dat"));
     SaveTwiceAndCompare(*game, dir);
 }
@@ -114,22 +105,6 @@ TEST(SettingFile, KeepsTheDirectoryUpToTheFirstCommaOrLineEnd)
     const std::string file = PathText(scratch / "editor.dat");
     ASSERT_TRUE(WriteSettingFile(file, directory).ok());
     EXPECT_EQ(ReadSettingFile(file), directory);
-}
-
-// The game's folder named in editor.dat, which stands beside the program.
-// One test for all names, so that no two write the file at once.
-TEST_F(FilePaths, EditorSettingBesideTheProgram)
-{
-    const std::string setting = JoinPath(PathText(ProgramFolder()), "editor.dat");
-    for (const std::string& name : FolderNames) {
-        SCOPED_TRACE(name);
-        const fs::path dir = Folder(name);
-        ASSERT_TRUE(WriteSettingFile(setting, PathText(dir)).ok());
-        const std::string named = ReadSettingFile(setting);
-        EXPECT_EQ(named, PathText(dir));
-        LoadSampleIn(dir, named);  // which expects both files read
-    }
-    fs::remove(NativePath(setting));
 }
 
 // A drive's root as the game's folder ("K:\"), where there is no folder name

@@ -22,26 +22,21 @@ using HostileFiles = CliTest;
 // past the size limit is refused in read_file_test.)
 TEST_F(HostileFiles, AreRefusedWithTheirReasonByEveryCommandAndNothingChanges)
 {
-    // What the file is, how a game folder is given it, and what every command says.
-    const std::tuple<const char*, void (*)(const fs::path&), const char*> cases[] = {
-        {"players.dat a link to /dev/zero", [](const fs::path& dir) {
-             fs::remove(dir / "players.dat");
-             fs::create_symlink("/dev/zero", dir / "players.dat");
-         }, "players.dat (it is not a regular file)"},
-        {"players.dat a pipe nobody writes to", [](const fs::path& dir) {
-             fs::remove(dir / "players.dat");
-             ASSERT_EQ(::mkfifo((dir / "players.dat").c_str(), 0600), 0);
-         }, "players.dat (it is not a regular file)"},
-        {"teams.dat a folder", [](const fs::path& dir) {
-             fs::remove(dir / "teams.dat");
-             fs::create_directory(dir / "teams.dat");
-         }, "teams.dat (it is a folder, not a file)"},
+    // The game file, what stands in its place, how it is put there, and what every command says.
+    const std::tuple<const char*, const char*, void (*)(const fs::path&), const char*> cases[] = {
+        {"players.dat", "a link to /dev/zero", [](const fs::path& file) { fs::create_symlink("/dev/zero", file); },
+         "players.dat (it is not a regular file)"},
+        {"players.dat", "a pipe nobody writes to", [](const fs::path& file) { ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0); },
+         "players.dat (it is not a regular file)"},
+        {"teams.dat", "a folder", [](const fs::path& file) { fs::create_directory(file); },
+         "teams.dat (it is a folder, not a file)"},
     };
     const fs::path csv = Export(SampleCopy());
-    for (const auto& [what, spoil, says] : cases) {
-        SCOPED_TRACE(what);
+    for (const auto& [file, what, spoil, says] : cases) {
+        SCOPED_TRACE(std::string(file) + " " + what);
         const fs::path dir = SampleCopy();
-        spoil(dir);
+        fs::remove(dir / file);
+        spoil(dir / file);
         const fs::path out = NewFolder("out");
         for (const std::vector<ToolArg>& args : std::vector<std::vector<ToolArg>>{
                  {"info", dir}, {"check", dir}, {"normalize", dir}, {"export", dir, out}, {"import", dir, csv},
