@@ -161,7 +161,6 @@ TEST_F(Save, RefusesOrFailsWithoutChangingAnyFile)
         const FileResult result = SaveGame(*game);
         ::setrlimit(RLIMIT_FSIZE, &noLimit);
         EXPECT_EQ(result.path, (dir / refusal.file).string());
-        EXPECT_FALSE(result.reason.empty());
         for (const std::string& word : refusal.words)
             EXPECT_NE(result.reason.find(word), std::string::npos) << result.reason;
 

@@ -18,8 +18,9 @@ namespace {
 using HostileFiles = CliTest;
 
 // Every command stops with exit 2 on a game file that is there but cannot
-// be read, info included, which loads a game with a file missing. (A file
-// past the size limit is refused in read_file_test.)
+// be read, info included, which loads a game with a file missing; import
+// does on such a CSV file too. (A file past the size limit is refused in
+// read_file_test.)
 TEST_F(HostileFiles, AreRefusedWithTheirReasonByEveryCommandAndNothingChanges)
 {
     // The game file, what stands in its place, how it is put there, and what every command says.
@@ -49,12 +50,9 @@ TEST_F(HostileFiles, AreRefusedWithTheirReasonByEveryCommandAndNothingChanges)
         EXPECT_FALSE(fs::exists(dir / "players.dat.bak"));  // nothing was saved
         EXPECT_TRUE(fs::is_empty(out));
     }
-}
 
-TEST_F(HostileFiles, AnUnreadableCsvStopsTheImport)
-{
+    // An unreadable CSV file stops the import the same way.
     const fs::path game = SampleCopy();
-    const fs::path csv = Export(game);
     fs::remove(csv / "players.csv");
     fs::create_directory(csv / "players.csv");
     const ToolRun run = RunTool({"import", game, csv});
