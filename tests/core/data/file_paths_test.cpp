@@ -1,7 +1,9 @@
 // Files as each system keeps them: bytes go out and come back exactly (no
 // CR added or lost), an existing file is replaced, folders may be named in
 // any script, in editor.dat too, or be a drive's root, and on Windows a file
-// the game holds open stops the save with both old files left as they were. These run on Linux and, built for Windows, under Wine.
+// the game holds open stops the save with both old files left as they were.
+// What a file read refuses, and why. (What a load had to leave out is in the
+// readers' tables of players_file_test and teams_file_test.) These run on Linux and, built for Windows, under Wine.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -14,6 +16,8 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 #undef ReplaceFile
+#else
+#include <unistd.h>
 #endif
 
 #include "data/file_io.h"
@@ -88,6 +92,38 @@ TEST_P(FilePaths, AFileIsReplacedByteForByteAndTheGameNamedInEditorDatSavesInThe
 }
 
 INSTANTIATE_TEST_SUITE_P(Scripts, FilePaths, testing::ValuesIn(FolderNames));
+
+#if !defined(_WIN32)
+// A link to a file is followed, and a file of exactly the limit is read;
+// what is refused says why. Pipes, devices and folders are refused by every
+// command of kolta-data, in its tests. (Links and permission bits are Unix things.)
+TEST(ReadFile, ReadsUpToTheLimitAndSaysWhyNot)
+{
+    const ScratchFolder scratch;
+    const fs::path& dir = scratch.Path();
+    ASSERT_TRUE(ReplaceFile((dir / "plain").string(), "12\r\n").ok());
+    ASSERT_TRUE(ReplaceFile((dir / "large").string(), "").ok());
+    fs::resize_file(dir / "large", MaxFileSize + 1);
+    ASSERT_TRUE(ReplaceFile((dir / "largest").string(), "").ok());
+    fs::resize_file(dir / "largest", MaxFileSize);
+    fs::create_symlink(dir / "plain", dir / "link");
+    ASSERT_TRUE(ReplaceFile((dir / "locked").string(), "x").ok());
+    fs::permissions(dir / "locked", fs::perms::none);
+
+    // A file, and why it cannot be read (empty: it can).
+    const std::pair<std::string, std::string> cases[] = {
+        {"plain", ""}, {"link", ""}, {"largest", ""}, {"missing", "No such file or directory"},
+        {"large", "the file is larger than 16 MB, more than any game makes"},
+        {"locked", ::geteuid() != 0 ? "Permission denied" : ""},
+    };
+    for (const auto& [name, reason] : cases) {
+        const FileBytes read = ReadFileBytes((dir / name).string());
+        EXPECT_EQ(read.reason, reason) << name;
+        EXPECT_EQ(read.ok(), reason.empty()) << name;
+    }
+    EXPECT_EQ(ReadFileBytes((dir / "link").string()).bytes, "12\r\n");
+}
+#endif
 
 // editor.dat holds the game directory as the first field: a comma ends it
 // unless the whole line is quoted, and the line ends in CR LF.

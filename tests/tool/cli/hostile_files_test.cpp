@@ -20,7 +20,7 @@ using HostileFiles = CliTest;
 // Every command stops with exit 2 on a game file that is there but cannot
 // be read, info included, which loads a game with a file missing; import
 // does on such a CSV file too. (A file past the size limit is refused in
-// read_file_test.)
+// file_paths_test.)
 TEST_F(HostileFiles, AreRefusedWithTheirReasonByEveryCommandAndNothingChanges)
 {
     // The game file, what stands in its place, how it is put there, and what every command says.
