@@ -22,7 +22,7 @@ fs::path MakeUniqueFolder()
 {
     // Seeded by the clock too: some systems' random_device gives every run the same numbers.
     static std::mt19937_64 random(std::random_device{}() ^
-                                  static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count()));
+                                  std::uint64_t(std::chrono::steady_clock::now().time_since_epoch().count()));
     for (int attempt = 0; attempt < 100; ++attempt) {
         const fs::path candidate = fs::temp_directory_path() / ("kolta-test-" + std::to_string(random() % 1000000000));
         if (fs::create_directory(candidate))

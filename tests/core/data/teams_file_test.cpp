@@ -26,7 +26,8 @@ Lines Teams(int count)
 {
     Lines lines;
     for (int i = 1; i <= count; ++i)
-        lines = Cat(std::move(lines), Team("Team " + std::to_string(i) + "#", "T#", i % 10 + 1, {i, 0, i + 1}, std::to_string(i)));
+        lines = Cat(std::move(lines),
+                    Team("Team " + std::to_string(i) + "#", "T#", i % 10 + 1, {i, 0, i + 1}, std::to_string(i)));
     return lines;
 }
 

@@ -27,7 +27,8 @@ TEST_F(HostileFiles, AreRefusedWithTheirReasonByEveryCommandAndNothingChanges)
     const std::tuple<const char*, const char*, void (*)(const fs::path&), const char*> cases[] = {
         {"players.dat", "a link to /dev/zero", [](const fs::path& file) { fs::create_symlink("/dev/zero", file); },
          "players.dat (it is not a regular file)"},
-        {"players.dat", "a pipe nobody writes to", [](const fs::path& file) { ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0); },
+        {"players.dat", "a pipe nobody writes to",
+         [](const fs::path& file) { ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0); },
          "players.dat (it is not a regular file)"},
         {"teams.dat", "a folder", [](const fs::path& file) { fs::create_directory(file); },
          "teams.dat (it is a folder, not a file)"},
