@@ -78,6 +78,7 @@ TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
         EXPECT_EQ(EntriesAreGood(e), good) << "text \"" << text << "\"";
     }
     EXPECT_FALSE(EntriesAreGood(NewPlayerEntries{})) << "OK pressed on an untouched window";
+    // Day, month and year, and whether they name a day of the calendar.
     const std::tuple<const char*, const char*, const char*, bool> dates[] = {
         {"29", "2", "1992", true}, {"29", "2", "1900", false}, {"29", "2", "2000", true}, {"31", "4", "1990", false},
         {"31", "12", "1990", true}, {"1", "1", "0", false},     {"0", "1", "1990", false},
