@@ -27,7 +27,7 @@ struct GameBuilder {
     // Numbered players 1 to `count` named P0001, P0002, ...
     void Players(int count)
     {
-        char name[8];
+        char name[12];
         for (int n = 1; n <= count; ++n)
             Player(n, (std::snprintf(name, sizeof name, "P%04d", n), name));
     }
@@ -54,6 +54,17 @@ inline std::vector<int> PlayerRun(int first, int count)
 {
     std::vector<int> numbers(count);
     std::iota(numbers.begin(), numbers.end(), first);
+    return numbers;
+}
+
+// The record numbers of the copies a step of editing took (its players or
+// its teams), in their order.
+template <class Copies>
+std::vector<int> Numbers(const Copies& copies)
+{
+    std::vector<int> numbers;
+    for (const auto& copy : copies)
+        numbers.push_back(copy.number);
     return numbers;
 }
 

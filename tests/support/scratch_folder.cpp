@@ -1,6 +1,5 @@
 #include "support/scratch_folder.h"
 
-#include <atomic>
 #include <chrono>
 #include <fstream>
 #include <iterator>
@@ -21,17 +20,15 @@ const char* const SampleFolder = KOLTA_SAMPLE;
 // a folder that is there, so a name is only ever had once.
 fs::path MakeUniqueFolder()
 {
-    static std::atomic<unsigned> made{0};
-    std::mt19937_64 random(std::random_device{}() ^
-                           static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count()));
-    const fs::path temporary = fs::temp_directory_path();
+    // Seeded by the clock too: some systems' random_device gives every run the same numbers.
+    static std::mt19937_64 random(std::random_device{}() ^
+                                  std::uint64_t(std::chrono::steady_clock::now().time_since_epoch().count()));
     for (int attempt = 0; attempt < 100; ++attempt) {
-        const fs::path candidate =
-            temporary / ("kolta-test-" + std::to_string(random() % 1000000000) + "-" + std::to_string(++made));
+        const fs::path candidate = fs::temp_directory_path() / ("kolta-test-" + std::to_string(random() % 1000000000));
         if (fs::create_directory(candidate))
             return candidate;
     }
-    throw std::runtime_error("no scratch folder could be made in " + temporary.string());
+    throw std::runtime_error("no scratch folder could be made in " + fs::temp_directory_path().string());
 }
 
 // A test may leave folders it took the rights from; gives them back.

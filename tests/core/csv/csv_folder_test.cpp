@@ -21,16 +21,12 @@ std::vector<std::string> Texts(const std::vector<Difference>& changes)
     return texts;
 }
 
-class CsvFolderTest : public ::testing::Test {
-protected:
-    ScratchFolder scratch;
-    std::unique_ptr<Game> game = ReadGameFiles(scratch.Fixture("game_with_changes").string());
-};
-
 // The rows go into a copy; the game itself is never touched. (The window's
 // test lists csv_faulty's rows at fault and exports the game back unchanged.)
-TEST_F(CsvFolderTest, ImportListsTheChangesAndLeavesTheGameAlone)
+TEST(CsvFolder, ImportListsTheChangesAndLeavesTheGameAlone)
 {
+    const ScratchFolder scratch;
+    const std::unique_ptr<Game> game = ReadGameFiles(scratch.Fixture("game_with_changes").string());
     const Game before = *game;
     const CsvImport changes = ImportCsvFolder(*game, scratch.Fixture("csv_changes").string());
     EXPECT_TRUE(changes.read);

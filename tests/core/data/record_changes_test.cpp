@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <vector>
 
 #include "support/game_builder.h"
@@ -14,59 +15,38 @@ using ::testing::ElementsAre;
 
 namespace {
 
-std::vector<int> PlayerNumbers(const RecordChange& change)
-{
-    std::vector<int> numbers;
-    for (const auto& copy : change.players)
-        numbers.push_back(copy.number);
-    return numbers;
-}
-
-std::vector<int> TeamNumbers(const RecordChange& change)
-{
-    std::vector<int> numbers;
-    for (const auto& copy : change.teams)
-        numbers.push_back(copy.number);
-    return numbers;
-}
-
 // Joining steps: the earliest before and the latest after of each record,
 // and a record brought back to where it started drops out.
 TEST(RecordChanges, JoinedStepsKeepTheEarliestBeforeAndTheLatestAfter)
 {
-    struct Case {
-        const char* what;
-        std::vector<std::pair<int, int>> first;    // player, new bat skill
-        std::vector<std::pair<int, int>> second;
-        std::vector<int> players;                  // records in the joined step
-        std::vector<int> skillsAfter;              // their skill after it
-    };
-    const std::vector<Case> cases{
+    using Edits = std::vector<std::pair<int, int>>;  // player, new bat skill
+    // Each case: the two steps' edits, the records in the joined step and their skill after it.
+    const std::tuple<const char*, Edits, Edits, std::vector<int>, std::vector<int>> cases[] = {
         {"one record twice", {{3, 20}}, {{3, 30}}, {3}, {30}},
         {"back to the start", {{3, 20}}, {{3, 0}}, {}, {}},
         {"two records apart", {{5, 20}}, {{3, 30}}, {3, 5}, {30, 20}},
         {"one shared, one not", {{3, 20}, {7, 1}}, {{3, 21}, {5, 2}}, {3, 5, 7}, {21, 2, 1}},
     };
-    for (const Case& c : cases) {
+    for (const auto& [what, first, second, players, skillsAfter] : cases) {
         GameBuilder b;
         b.Players(8);
         RecordLedger ledger;
         ledger.Reset(*b.game);
-        const auto step = [&](const std::vector<std::pair<int, int>>& edits) {
+        const auto step = [&](const Edits& edits) {
             for (const auto& [number, skill] : edits)
                 b.game->Players[number].batSkill = std::int16_t(skill);
             return ledger.TakeAllChanges(*b.game);
         };
-        RecordChange joined = step(c.first);
-        joined.Absorb(step(c.second));
-        EXPECT_EQ(PlayerNumbers(joined), c.players) << c.what;
+        RecordChange joined = step(first);
+        joined.Absorb(step(second));
+        EXPECT_EQ(Numbers(joined.players), players) << what;
         std::vector<int> skills;
         for (const auto& copy : joined.players) {
-            EXPECT_EQ(copy.before.batSkill, 0) << c.what;
+            EXPECT_EQ(copy.before.batSkill, 0) << what;
             skills.push_back(copy.after.batSkill);
         }
-        EXPECT_EQ(skills, c.skillsAfter) << c.what;
-        EXPECT_EQ(joined.Empty(), c.players.empty()) << c.what;
+        EXPECT_EQ(skills, skillsAfter) << what;
+        EXPECT_EQ(joined.Empty(), players.empty()) << what;
     }
 }
 
@@ -84,12 +64,12 @@ TEST(RecordChanges, NamedRecordsOnlyAndTheOthersLater)
     b.game->Players[4].batSkill = 9;
     b.game->Teams[1].wealth = 9;
     const RecordChange tick = ledger.TakeChanges(*b.game, {1, 1, 0, -3, 2001}, {0, 501});
-    EXPECT_THAT(PlayerNumbers(tick), ElementsAre(1));
+    EXPECT_THAT(Numbers(tick.players), ElementsAre(1));
     EXPECT_TRUE(tick.teams.empty());
 
     const RecordChange rest = ledger.TakeAllChanges(*b.game);
-    EXPECT_THAT(PlayerNumbers(rest), ElementsAre(4));
-    EXPECT_THAT(TeamNumbers(rest), ElementsAre(1));
+    EXPECT_THAT(Numbers(rest.players), ElementsAre(4));
+    EXPECT_THAT(Numbers(rest.teams), ElementsAre(1));
     EXPECT_TRUE(ledger.TakeAllChanges(*b.game).Empty());
 
     // Put back, the copies give the records as they were before each step.

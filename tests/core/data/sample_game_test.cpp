@@ -10,15 +10,14 @@ namespace {
 
 // Reads both files and writes them back: the same bytes, and the counts of `world`.
 // Compared whole: a diff of two game files would drown the report.
-void ExpectRoundTrip(const Game& world, const std::string& players, const std::string& teams)
+void ExpectRoundTrip(const Game& world, const FilePair& files)
 {
     auto read = NewGame();
-    ReadPlayers(*read, players);
-    ReadTeams(*read, teams);
+    ReadPlayers(*read, files.first);
+    ReadTeams(*read, files.second);
     EXPECT_EQ(read->PlayerCount, world.PlayerCount);
     EXPECT_EQ(read->TeamCount, world.TeamCount);
-    EXPECT_TRUE(WritePlayers(*read) == players);
-    EXPECT_TRUE(WriteTeams(*read) == teams);
+    EXPECT_TRUE(WrittenPair(*read) == files);
 }
 
 // The committed sample is the generator's world (the CLI check finds it free of problems).
@@ -26,17 +25,15 @@ TEST(SampleGame, TheSampleAndAFullSizeWorldComeBackByteForByte)
 {
     auto sample = NewGame();
     GenerateSampleWorld(*sample);
-    const std::string players = SampleBytes("players.dat");
-    const std::string teams = SampleBytes("teams.dat");
-    EXPECT_TRUE(players == WritePlayers(*sample));
-    EXPECT_TRUE(teams == WriteTeams(*sample));
-    ExpectRoundTrip(*sample, players, teams);
+    const FilePair files(SampleBytes("players.dat"), SampleBytes("teams.dat"));
+    EXPECT_TRUE(WrittenPair(*sample) == files);
+    ExpectRoundTrip(*sample, files);
 
     auto full = NewGame();
     GenerateFullSizeWorld(*full);
     EXPECT_EQ(full->PlayerCount, MaxPlayers);
     EXPECT_EQ(full->TeamCount, MaxTeams + 2);
-    ExpectRoundTrip(*full, WritePlayers(*full), WriteTeams(*full));
+    ExpectRoundTrip(*full, WrittenPair(*full));
 }
 
 }  // namespace

@@ -14,8 +14,6 @@
 #include <sys/resource.h>
 
 #include "data/file_steps.h"
-#include "data/players_file.h"
-#include "data/teams_file.h"
 #include "support/file_text.h"
 #include "support/scratch_folder.h"
 
@@ -23,8 +21,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const std::string OldPlayers = SampleBytes("players.dat");
-const std::string OldTeams = SampleBytes("teams.dat");
+const FilePair OldPair(SampleBytes("players.dat"), SampleBytes("teams.dat"));
 
 void MakeReadOnly(const fs::path& path)
 {
@@ -66,9 +63,7 @@ protected:
     fs::path LoadCopy(Game& game)
     {
         const fs::path dir = scratch_.Sample("game" + std::to_string(++copies_));
-        SetGameDirectory(game, dir.string());
-        EXPECT_TRUE(ReadPlayersFile(game).Read());
-        EXPECT_TRUE(ReadTeamsFile(game).Read());
+        LoadFolder(game, dir.string());
         return dir;
     }
 
@@ -76,31 +71,29 @@ protected:
     int copies_ = 0;
 };
 
-TEST_F(Save, WritesByteForByteAndKeepsTheOldFilesAtTheFirstSaveOnly)
+// The first save that works keeps the old pair as .bak, and the first ever in
+// the folder as .orig; a save that failed does not count, later ones do not touch them.
+TEST_F(Save, KeepsTheOldPairAtTheFirstSaveThatWorks)
 {
     auto game = NewGame();
     const fs::path dir = LoadCopy(*game);
-    ASSERT_TRUE(SaveGame(*game).ok());
-    EXPECT_TRUE(Bytes(dir / "players.dat") == OldPlayers);
-    EXPECT_TRUE(Bytes(dir / "teams.dat") == OldTeams);
-
     game->Players[2].surname = "O\"Brien";  // a quote inside a name is stored as it is
-    game->Teams[2].wealth = 12;
     FullDiskFor(dir / "teams.dat");
     ASSERT_FALSE(SaveGame(*game).ok());
     fs::remove(Writing(dir / "teams.dat"));
     ASSERT_TRUE(SaveGame(*game).ok());  // the disk has room again
-    EXPECT_TRUE(Bytes(dir / "players.dat") == WritePlayers(*game));
-    EXPECT_TRUE(Bytes(dir / "teams.dat") == WriteTeams(*game));
-    EXPECT_TRUE(Bytes(dir / "players.dat.bak") == OldPlayers);
-    EXPECT_TRUE(Bytes(dir / "teams.dat.bak") == OldTeams);
-    EXPECT_TRUE(Bytes(dir / "teams.dat.orig") == OldTeams);
-    EXPECT_TRUE(Bytes(dir / "players.dat.prev") == OldPlayers);  // the pair before the last save
+    const FilePair first = PairIn(dir);
+    game->Teams[2].wealth = 12;
+    ASSERT_TRUE(SaveGame(*game).ok());
+    EXPECT_TRUE(PairIn(dir) == WrittenPair(*game));
+    EXPECT_TRUE(PairIn(dir, ".bak") == OldPair);
+    EXPECT_TRUE(PairIn(dir, ".orig") == OldPair);
+    EXPECT_TRUE(PairIn(dir, ".prev") == first);  // the pair before the last save
 
     // Another game directory is a fresh start.
     const fs::path other = LoadCopy(*game);
     ASSERT_TRUE(SaveGame(*game).ok());
-    EXPECT_TRUE(Bytes(other / "players.dat.bak") == OldPlayers);
+    EXPECT_TRUE(PairIn(other, ".bak") == OldPair);
 }
 
 struct Refusal {
@@ -108,7 +101,6 @@ struct Refusal {
     void (*spoil)(Game&, const fs::path& dir);
     std::string file;                // the file the result names
     std::vector<std::string> words;  // what the reason says
-    std::string reason = {};         // or the whole reason
     rlim_t sizeLimit = 0;            // a file size limit cuts the writes off part way, as a quota does
 };
 
@@ -136,12 +128,12 @@ TEST_F(Save, RefusesOrFailsWithoutChangingAnyFile)
         // longer match its squads. (Backups kept: straight to the writing.)
         {"disk full on players.dat",
          [](Game& g, const fs::path& dir) { g.BackupsKept = true; FullDiskFor(dir / "players.dat"); }, "players.dat",
-         {}, std::generic_category().message(ENOSPC)},
+         {std::generic_category().message(ENOSPC)}},
         {"disk full on teams.dat",
-         [](Game& g, const fs::path& dir) { g.BackupsKept = true; FullDiskFor(dir / "teams.dat"); }, "teams.dat", {},
-         std::generic_category().message(ENOSPC)},
-        {"write of players.dat cut short", [](Game& g, const fs::path&) { g.BackupsKept = true; }, "players.dat", {},
-         std::generic_category().message(EFBIG), OldTeams.size() + 1000},
+         [](Game& g, const fs::path& dir) { g.BackupsKept = true; FullDiskFor(dir / "teams.dat"); }, "teams.dat",
+         {std::generic_category().message(ENOSPC)}},
+        {"write of players.dat cut short", [](Game& g, const fs::path&) { g.BackupsKept = true; }, "players.dat",
+         {std::generic_category().message(EFBIG)}, OldPair.second.size() + 1000},
         // A move that fails once the pair is under way puts the old pair back.
         {".bak that cannot be replaced",
          [](Game&, const fs::path& dir) {
@@ -151,7 +143,7 @@ TEST_F(Save, RefusesOrFailsWithoutChangingAnyFile)
          "players.dat.bak",
          {"Is a directory", "were put back as they were"}},
     };
-    ASSERT_LT(OldTeams.size() + 1000, OldPlayers.size());
+    ASSERT_LT(OldPair.second.size() + 1000, OldPair.first.size());
     const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);  // a write over the limit fails instead
     for (const Refusal& refusal : refusals) {
         SCOPED_TRACE(refusal.what);
@@ -169,8 +161,6 @@ TEST_F(Save, RefusesOrFailsWithoutChangingAnyFile)
         const FileResult result = SaveGame(*game);
         ::setrlimit(RLIMIT_FSIZE, &noLimit);
         EXPECT_EQ(result.path, (dir / refusal.file).string());
-        EXPECT_FALSE(result.reason.empty());
-        EXPECT_TRUE(refusal.reason.empty() || result.reason == refusal.reason) << result.reason;
         for (const std::string& word : refusal.words)
             EXPECT_NE(result.reason.find(word), std::string::npos) << result.reason;
 

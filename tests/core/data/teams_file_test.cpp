@@ -25,10 +25,9 @@ Lines Team(std::string name, std::string abbreviation, int country, std::vector<
 Lines Teams(int count)
 {
     Lines lines;
-    for (int i = 1; i <= count; ++i) {
-        const Lines team = Team("Team " + std::to_string(i) + "#", "T#", i % 10 + 1, {i, 0, i + 1}, std::to_string(i));
-        lines.insert(lines.end(), team.begin(), team.end());
-    }
+    for (int i = 1; i <= count; ++i)
+        lines = Cat(std::move(lines),
+                    Team("Team " + std::to_string(i) + "#", "T#", i % 10 + 1, {i, 0, i + 1}, std::to_string(i)));
     return lines;
 }
 

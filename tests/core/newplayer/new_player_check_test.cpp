@@ -4,8 +4,11 @@
 
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
+#include "check/problems.h"
+#include "data/fields.h"
 #include "data/squad.h"
 #include "support/game_builder.h"
 
@@ -29,6 +32,24 @@ NewPlayerEntries GoodEntries()
     return {"R J", "Ashdown", "14", "2", "1979", "45", "12", "20", "8", "25", "10"};
 }
 
+// Player 1 of team 1, with nothing `check` would warn about.
+std::unique_ptr<Game> SoundGame()
+{
+    GameBuilder b;
+    PlayerRecord& p = b.Player(1, "Ashdown", "R J");
+    for (const PlayerField& field : PlayerFields) {
+        if (field.codes)
+            p.*field.number = static_cast<std::int16_t>(field.codes->firstCode);
+        else if (field.range)
+            p.*field.number = static_cast<std::int16_t>(field.range->low);
+    }
+    p.birthDay = 14;
+    p.birthMonth = 7;
+    p.birthYear = 1979;
+    b.Team(1, "Ashby", {1}).homeCountry = 1;
+    return std::move(b.game);
+}
+
 }  // namespace
 
 // Pasted text skips the window's key filter, so signs, fractions and
@@ -38,70 +59,91 @@ NewPlayerEntries GoodEntries()
 TEST(NewPlayerEntries, EachBoxIsJudgedAgainstItsBoundsInclusive)
 {
     using E = NewPlayerEntries;
-    const struct {
-        EntryBox box;
-        std::string text;
-        bool good;
-    } cases[] = {
+    // A box, the text pasted into it, and whether the entries are good then.
+    const std::tuple<EntryBox, std::string, bool> cases[] = {
         // The ends of each range are in the field table's test; here, what pasted text makes of them.
-        {&E::batSkill, "+5", true},       {&E::batSkill, "-0", true},
-        {&E::batSkill, "-1", false},      {&E::batSkill, "-.4", false},      {&E::batSkill, "60.4", false},
-        {&E::batSkill, "59.5", true},     {&E::fieldAbility, "9.6", false},  {&E::fieldAbility, "40.1", false},
-        {&E::fieldAbility, "1e1", true},  {&E::batSkill, "6e1", true},       {&E::batSkill, "7e1", false},
-        {&E::potential, ".5", true},      {&E::potential, "1e", false},      {&E::potential, " 7 ", true},
-        {&E::birthDay, "99", false},      {&E::birthMonth, "0", false},      {&E::birthYear, "9999", true},
-        {&E::birthYear, "1e9", false},    {&E::birthDay, "-5", false},       {&E::birthDay, "14.5", false},
-        {&E::birthDay, "28", true},       {&E::birthDay, "29", false},       {&E::birthMonth, "13", false},
-        {&E::initials, "", false},        {&E::initials, "  ", false},       {&E::surname, "", false},
-        {&E::surname, " ", false},        {&E::initials, "J", true},
+        {&E::batSkill, "+5", true},        {&E::batSkill, "-0", true},       {&E::batSkill, "-.4", false},
+        {&E::batSkill, "60.4", false},     {&E::batSkill, "59.5", true},     {&E::fieldAbility, "9.6", false},
+        {&E::fieldAbility, "40.1", false}, {&E::fieldAbility, "1e1", true},  {&E::batSkill, "6e1", true},
+        {&E::batSkill, "7e1", false},      {&E::potential, ".5", true},      {&E::potential, "1e", false},
+        {&E::potential, " 7 ", true},      {&E::birthDay, "99", false},      {&E::birthMonth, "0", false},
+        {&E::birthYear, "9999", true},     {&E::birthYear, "1e9", false},    {&E::birthDay, "-5", false},
+        {&E::birthDay, "14.5", false},     {&E::birthDay, "28", true},       {&E::birthDay, "29", false},
+        {&E::birthMonth, "13", false},     {&E::initials, "", false},        {&E::initials, "  ", false},
+        {&E::surname, "", false},          {&E::surname, " ", false},        {&E::initials, "J", true},
     };
-    for (const auto& c : cases) {
+    for (const auto& [box, text, good] : cases) {
         NewPlayerEntries e = GoodEntries();
-        e.*c.box = c.text;
-        EXPECT_EQ(EntriesAreGood(e), c.good) << "text \"" << c.text << "\"";
+        e.*box = text;
+        EXPECT_EQ(EntriesAreGood(e), good) << "text \"" << text << "\"";
     }
     EXPECT_FALSE(EntriesAreGood(NewPlayerEntries{})) << "OK pressed on an untouched window";
-    const struct {
-        const char* day;
-        const char* month;
-        const char* year;
-        bool exists;
-    } dates[] = {
+    // Day, month and year, and whether they name a day of the calendar.
+    const std::tuple<const char*, const char*, const char*, bool> dates[] = {
         {"29", "2", "1992", true}, {"29", "2", "1900", false}, {"29", "2", "2000", true}, {"31", "4", "1990", false},
         {"31", "12", "1990", true}, {"1", "1", "0", false},     {"0", "1", "1990", false},
     };
-    for (const auto& d : dates) {
+    for (const auto& [day, month, year, exists] : dates) {
         NewPlayerEntries e = GoodEntries();
-        e.birthDay = d.day;
-        e.birthMonth = d.month;
-        e.birthYear = d.year;
-        EXPECT_EQ(EntriesAreGood(e), d.exists) << d.day << "/" << d.month << "/" << d.year;
+        std::tie(e.birthDay, e.birthMonth, e.birthYear) = std::tie(day, month, year);
+        EXPECT_EQ(EntriesAreGood(e), exists) << day << "/" << month << "/" << year;
     }
     EXPECT_EQ(FirstBadEntry(GoodEntries()), std::nullopt);
-    const struct {
-        EntryBox box;
-        const char* text;
-        const char* said;
-    } faults[] = {
-        {&NewPlayerEntries::potential, "20.5", "Potential must lie from 0 to 20, not 20.5."},
-        {&NewPlayerEntries::fieldAbility, "9", "Field ability must lie from 10 to 40, not 9."},
-        {&NewPlayerEntries::birthDay, "30", "Date of birth 30/2/1979 does not exist."},
-        {&NewPlayerEntries::birthMonth, "1x", "Date of birth holds no number: \"1x\"."},
-        {&NewPlayerEntries::birthDay, "", "Date of birth is empty."},
-        {&NewPlayerEntries::surname, " ", "Player Name has no surname."},
-        {&NewPlayerEntries::initials, "", "Player Name has no initials."},
+    // Each box spoilt in turn is ahead of the ones before it in the window's
+    // order: the box, its text, and what the window says.
+    const std::tuple<EntryBox, const char*, const char*> faults[] = {
+        {&E::potential, "20.5", "Potential must lie from 0 to 20, not 20.5."},
+        {&E::fieldAbility, "9", "Field ability must lie from 10 to 40, not 9."},
+        {&E::birthDay, "30", "Date of birth 30/2/1979 does not exist."},
+        {&E::birthMonth, "1x", "Date of birth holds no number: \"1x\"."},
+        {&E::birthDay, "", "Date of birth is empty."},
+        {&E::surname, " ", "Player Name has no surname."},
+        {&E::initials, "", "Player Name has no initials."},
     };
-    // Each box spoilt in turn is ahead of the ones before it in the window's order.
     NewPlayerEntries e = GoodEntries();
-    for (const auto& fault : faults) {
-        e.*fault.box = fault.text;
-        EXPECT_EQ(FirstBadEntry(e).value_or(""), fault.said);
+    for (const auto& [box, text, said] : faults) {
+        e.*box = text;
+        EXPECT_EQ(FirstBadEntry(e).value_or(""), said);
     }
+}
+
+// The new player's window and `check` both take a skill's range from the
+// table: its ends pass, one past either end is refused by the one and
+// reported by the other. `check` reports no range for a field without one;
+// a new player's date must be a day of the calendar instead. Every box needs
+// a number.
+TEST(FieldTable, NewPlayerChecksAndGameCheckHoldEachFieldToItsRange)
+{
     for (const NumberBox& box : NumberBoxes) {
+        const PlayerField& field = *FieldOf<PlayerRecord>(PlayerFields, box.field);
         for (const char* text : {"", "x", "1,5"}) {
             NewPlayerEntries e = GoodEntries();
             e.*box.box = text;
-            EXPECT_FALSE(EntriesAreGood(e)) << text;
+            EXPECT_FALSE(EntriesAreGood(e)) << field.name << " = \"" << text << '"';
+        }
+        const Range range = field.range.value_or(Range{-999, 9999});
+        // A value, and whether it lies in the field's range.
+        const std::pair<int, bool> cases[] = {
+            {range.low - 1, !field.range}, {range.low, true}, {range.high, true}, {range.high + 1, !field.range}};
+        for (const auto& [value, inRange] : cases) {
+            SCOPED_TRACE(std::string(field.name) + " = " + std::to_string(value));
+            NewPlayerEntries entries = GoodEntries();
+            entries.*box.box = std::to_string(value);
+            if (field.range) {
+                EXPECT_EQ(EntriesAreGood(entries), inRange);
+            }
+
+            auto game = SoundGame();
+            game->Players[1].*box.field = static_cast<std::int16_t>(value);
+            std::vector<std::string> rangeWarnings;
+            for (const Problem& problem : ProblemsInGame(*game)) {
+                if (problem.field == field.name && problem.message.find("range") != std::string::npos)
+                    rangeWarnings.push_back(problem.message);
+            }
+            using Warnings = std::vector<std::string>;
+            EXPECT_EQ(rangeWarnings, inRange ? Warnings{}
+                                             : Warnings{std::to_string(value) + " is outside the range " +
+                                                        RangeText(*field.range)});
         }
     }
 }
@@ -137,8 +179,6 @@ TEST(NewPlayerCommit, GivesTheNextNumberAndFillsTheRecord)
     ASSERT_EQ(CommitNewPlayer(*game, Club, GoodEntries()), NewPlayerOutcome::Added);
     ASSERT_EQ(CommitNewPlayer(*game, Club, GoodEntries()), NewPlayerOutcome::Added);
     EXPECT_EQ(game->PlayerCount, 8);
-    EXPECT_EQ(game->Players[6].playerNumber, 6) << "a deleted player keeps his record";
-    EXPECT_EQ(game->Players[6].teamNumber, 0);
     EXPECT_EQ(Places(game->Teams[Club]), (std::vector<int>{2, 7, 8}));
 }
 
@@ -155,26 +195,23 @@ TEST(NewPlayerCommit, RefusalsLeaveTheGameAsItWas)
     EXPECT_FALSE(CanAddNewPlayer(*last));
 
     using Outcome = NewPlayerOutcome;
-    const struct {
-        const char* what;
-        void (*prepare)(Game&, int& team, NewPlayerEntries&);
-        Outcome outcome;
-    } refusals[] = {
+    // What is wrong, how the game, the team or the entries are spoilt, and the outcome.
+    const std::tuple<const char*, void (*)(Game&, int& team, NewPlayerEntries&), Outcome> refusals[] = {
         {"bad entries", [](Game&, int&, NewPlayerEntries& e) { e.fieldAbility = "9"; }, Outcome::BadEntries},
         {"full table", [](Game& g, int&, NewPlayerEntries&) { g.PlayerCount = MaxPlayers; }, Outcome::TableFull},
         {"no team", [](Game&, int& team, NewPlayerEntries&) { team = 0; }, Outcome::NoTeam},
         {"past the last team", [](Game&, int& team, NewPlayerEntries&) { team = MaxTeams + 1; }, Outcome::NoTeam},
         {"full squad", [](Game& g, int&, NewPlayerEntries&) { g.Teams[Club].squad.fill(40); }, Outcome::SquadFull},
     };
-    for (const auto& r : refusals) {
-        SCOPED_TRACE(r.what);
+    for (const auto& [what, prepare, outcome] : refusals) {
+        SCOPED_TRACE(what);
         auto game = SmallGame();
         int team = Club;
         NewPlayerEntries e = GoodEntries();
-        r.prepare(*game, team, e);
+        prepare(*game, team, e);
         const auto before = std::make_unique<Game>(*game);
 
-        EXPECT_EQ(CommitNewPlayer(*game, team, e), r.outcome);
+        EXPECT_EQ(CommitNewPlayer(*game, team, e), outcome);
         EXPECT_EQ(game->PlayerCount, before->PlayerCount);
         EXPECT_TRUE(game->Players == before->Players);
         EXPECT_TRUE(game->Teams == before->Teams);

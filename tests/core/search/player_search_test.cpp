@@ -60,7 +60,7 @@ protected:
     SearchRows found;
 };
 
-TEST_F(PlayerSearchTest, EachFilterStageComparesItsCodeDirectly)
+TEST_F(PlayerSearchTest, EachFilterStageComparesItsCodeDirectlyAndAClubGoesBySquad)
 {
     EXPECT_THAT(Search({}), ElementsAre(1, 2, 3, 4, 5, 6));
     EXPECT_EQ(found[2], game.Players[3]) << "whole records are copied";
@@ -71,21 +71,10 @@ TEST_F(PlayerSearchTest, EachFilterStageComparesItsCodeDirectly)
     EXPECT_THAT(Search({.fieldsAt = 1}), ElementsAre(1, 5, 6));
     EXPECT_THAT(Search({.nationality = 2, .batPosition = 1, .bowlType = 7, .fieldsAt = 1}), ElementsAre(6));
     EXPECT_THAT(Search({.nationality = 3}), IsEmpty());
-    // A code of 0 passes only an open filter.
-    game.Players[2].bowlType = 0;
-    EXPECT_THAT(Search({.bowlType = 7}), ElementsAre(3, 6));
-    EXPECT_THAT(Search({}), ElementsAre(1, 2, 3, 4, 5, 6));
-    // An empty surname ends the list only where he survives the filters.
-    game.Players[3].surname.clear();
-    EXPECT_THAT(Search({}), ElementsAre(1, 2));
-    EXPECT_THAT(Search({.batPosition = 1}), ElementsAre(1, 4, 6));
-    EXPECT_THAT(Search({.bowlType = 7}), IsEmpty());
-}
 
-TEST_F(PlayerSearchTest, AClubListsItsSquadInPlaceOrder)
-{
+    // A club lists its squad in place order. Places that name no player give
+    // no row; the same number twice gives two.
     TeamRecord& t = b.Team(4, "Club");
-    // Places that name no player give no row; the same number twice gives two.
     t.squad = {0, 5, 0, 2, -1, 2001, 4, 2};
     EXPECT_THAT(Search({.team = 4}), ElementsAre(5, 2, 4, 2));
     // The squad decides, not the players' own team numbers.
@@ -96,6 +85,16 @@ TEST_F(PlayerSearchTest, AClubListsItsSquadInPlaceOrder)
     t.homeCountry = 5;
     EXPECT_THAT(Search({.team = 4, .nationality = 1}), ElementsAre(5));
     EXPECT_THAT(Search({.team = 4, .bowlType = 7}), ElementsAre(2, 2));
+
+    // A code of 0 passes only an open filter.
+    game.Players[2].bowlType = 0;
+    EXPECT_THAT(Search({.bowlType = 7}), ElementsAre(3, 6));
+    EXPECT_THAT(Search({}), ElementsAre(1, 2, 3, 4, 5, 6));
+    // An empty surname ends the list only where he survives the filters.
+    game.Players[3].surname.clear();
+    EXPECT_THAT(Search({}), ElementsAre(1, 2));
+    EXPECT_THAT(Search({.batPosition = 1}), ElementsAre(1, 4, 6));
+    EXPECT_THAT(Search({.bowlType = 7}), IsEmpty());
 }
 
 // Windows-1252 bytes: 0x80 is the euro sign U+20AC, 0xE9 is e acute U+00E9,

@@ -1,7 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "data/squad.h"
+#include "search/player_find.h"
 #include "support/game_builder.h"
 
 using ::testing::ElementsAre;
@@ -51,11 +54,20 @@ TEST_F(SquadTest, TwoTeamsStepByStep)
 TEST_F(SquadTest, APlayerInTwoSquadsBelongsToTheHighestTeam)
 {
     b.Team(2, "Low", {5, 5, 7, 5, 6});
+    b.Team(3, "Odd", {2001, 6, -4});
     b.Team(4, "Mid", {8});
     b.Team(6, "High", {9, 5});
+    game.Teams[MaxTeams].squad[1] = 8;  // past TeamCount: no squad the game searches
     game.Players[5].teamNumber = 2;
     EXPECT_EQ(PresentClub(game, 5), 6);
+    EXPECT_EQ(PresentClub(game, 6), 3);
+    EXPECT_EQ(PresentClub(game, 8), 4);
     EXPECT_EQ(PresentClub(game, 30), 0);
+    // The lists take every player's club from one walk over the squads.
+    const std::vector<std::int16_t> clubs = PresentClubs(game);
+    ASSERT_EQ(clubs.size(), std::size_t(MaxPlayers + 1));
+    for (int player = 0; player <= MaxPlayers; ++player)
+        EXPECT_EQ(clubs[std::size_t(player)], PresentClub(game, std::int16_t(player))) << "player " << player;
 
     EXPECT_EQ(AddToSquad(game, 4, 5), 6);
     EXPECT_THAT(Places(game.Teams[2]), ElementsAre(7, 6));
@@ -69,14 +81,10 @@ TEST_F(SquadTest, APlayerInTwoSquadsBelongsToTheHighestTeam)
 // last squad to let him go leaves him without a team.
 TEST_F(SquadTest, LeavingOneOfTwoSquadsKeepsTheOther)
 {
-    // Player 1 stands in teams 1 and 2, and in the case of team 3 twice there.
-    const struct {
-        const char* what;
-        std::vector<int> three;
-        std::int16_t teamNumberBefore;
-        void (*leave)(Game&);
-        std::int16_t teamNumberAfter;
-    } cases[] = {
+    // Player 1 stands in teams 1 and 2, and in the last case twice in team 3.
+    // Each case: what happens, the squad of team 3, his teamNumber before,
+    // how he leaves, and his teamNumber after.
+    const std::tuple<const char*, std::vector<int>, std::int16_t, void (*)(Game&), std::int16_t> cases[] = {
         {"deleted from team 2, which his record names", {}, 2, [](Game& g) { DeleteFromSquad(g, 2, 1); }, 1},
         {"deleted from team 2, his record naming team 1", {}, 1, [](Game& g) { DeleteFromSquad(g, 2, 1); }, 1},
         {"deleted from team 1", {}, 2, [](Game& g) { DeleteFromSquad(g, 1, 1); }, 2},
@@ -84,16 +92,16 @@ TEST_F(SquadTest, LeavingOneOfTwoSquadsKeepsTheOther)
         {"deleted from both", {}, 2, [](Game& g) { DeleteFromSquad(g, 2, 1); DeleteFromSquad(g, 1, 1); }, 0},
         {"deleted from one of two places in his team", {1, 4, 1}, 3, [](Game& g) { DeleteFromSquad(g, 3, 1); }, 3},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, three, before, leave, after] : cases) {
+        SCOPED_TRACE(what);
         GameBuilder fresh;
         fresh.Players(9);
         fresh.Team(1, "One", {1, 2});
         fresh.Team(2, "Two", {1, 3});
-        fresh.Team(3, "Three", c.three);
-        fresh.game->Players[1].teamNumber = c.teamNumberBefore;
-        c.leave(*fresh.game);
-        EXPECT_EQ(fresh.game->Players[1].teamNumber, c.teamNumberAfter);
+        fresh.Team(3, "Three", three);
+        fresh.game->Players[1].teamNumber = before;
+        leave(*fresh.game);
+        EXPECT_EQ(fresh.game->Players[1].teamNumber, after);
     }
 }
 

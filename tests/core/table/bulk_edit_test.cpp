@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "csv/csv_export.h"
 #include "table_game.h"
 
@@ -22,73 +24,65 @@ std::unique_ptr<Game> Applied(const Game& game, const BulkEdit& plan)
     return after;
 }
 
-std::vector<int> Changed(const BulkEdit& plan)
-{
-    std::vector<int> numbers;
-    for (const auto& copy : plan.change.players)
-        numbers.push_back(copy.number);
-    for (const auto& copy : plan.change.teams)
-        numbers.push_back(copy.number);
-    return numbers;
-}
-
 TEST(SetValue, TakesWhatTheRecordsHoldAndRefusesTheRestWhole)
 {
     auto game = TableGame();
     game->Players[2].batAggression = 32767;
     game->Teams[2].wealth = -32768;
     using P = PlayerRecord;
-    const struct {
-        RecordKind kind;
-        const char* column;
-        std::vector<int> numbers;
-        const char* value;
-        const char* refusal;  // empty: accepted
-        int fault;
-        std::int16_t P::*field;  // for a player field: what each chosen record holds afterwards
-        std::vector<int> after;
-    } cases[] = {
-        {RecordKind::Player, "potential", {3, 1}, " 7 ", "", 0, &P::potential, {7, 7}},
-        {RecordKind::Player, "batSkill", {1, 2}, "+2", "", 0, &P::batSkill, {47, 32}},
-        {RecordKind::Player, "batSkill", {1, 2}, "-30", "", 0, &P::batSkill, {15, 0}},
-        {RecordKind::Player, "batskill", {1}, "=-3", "", 0, &P::batSkill, {-3}},
-        {RecordKind::Player, "homeCountry", {1, 2}, "namibia", "", 0, &P::homeCountry, {13, 13}},
-        {RecordKind::Player, "bats", {1}, "Left Handed", "", 0, &P::bats, {1}},
+    // Accepted: the column, the players chosen, the value typed, and what each
+    // of them holds in the field afterwards.
+    const std::tuple<const char*, std::vector<int>, const char*, std::int16_t P::*, std::vector<int>> accepted[] = {
+        {"potential", {3, 1}, " 7 ", &P::potential, {7, 7}},
+        {"batSkill", {1, 2}, "+2", &P::batSkill, {47, 32}},
+        {"batSkill", {1, 2}, "-30", &P::batSkill, {15, 0}},
+        {"batskill", {1}, "=-3", &P::batSkill, {-3}},
+        {"homeCountry", {1, 2}, "namibia", &P::homeCountry, {13, 13}},
+        {"bats", {1}, "Left Handed", &P::bats, {1}},
         // The birth date sets its three fields, held to a new player's rule.
-        {RecordKind::Player, "birthDate", {3, 1}, " 29/2/2000 ", "", 0, &P::birthDay, {29, 29}},
-        {RecordKind::Player, "birthDate", {2}, "1/12/1999", "", 0, &P::birthMonth, {12}},
-        {RecordKind::Player, "birthDate", {1, 2}, "29/2/1999", "Date of birth 29/2/1999 does not exist.", 1, nullptr, {}},
-        {RecordKind::Player, "birthDate", {1}, "+1", "Date of birth takes day/month/year", 1, nullptr, {}},
-        {RecordKind::Player, "homeCountry", {1}, "40", "homeCountry takes a word of its list or a code from 1 to 39", 1, nullptr, {}},
-        {RecordKind::Player, "bowlType", {1}, "+1", "only numbers can be raised or lowered", 1, nullptr, {}},
-        {RecordKind::Player, "batSkill", {1}, "12.5", "batSkill takes a whole number from -32768 to 32767", 1, nullptr, {}},
-        {RecordKind::Player, "batAggression", {1, 2, 3}, "+1",
-         "player 2 (B Smithers): batAggression would be 32768, beyond what the record holds", 2, nullptr, {}},
-        {RecordKind::Player, "surname", {4}, "", "a surname cannot be empty", 4, nullptr, {}},
-        {RecordKind::Player, "surname", {4}, "Dyke, E", "cannot be saved because it contains a comma", 4, nullptr, {}},
-        {RecordKind::Player, "teamNumber", {4}, "2", "teamNumber cannot be changed here", 0, nullptr, {}},
-        {RecordKind::Player, "age", {4}, "2", "age cannot be changed here", 0, nullptr, {}},
-        {RecordKind::Player, "potential", {1, 7}, "7", "there is no player 7", 7, nullptr, {}},
-        {RecordKind::Team, "wealth", {1, 2}, "-1", "team 2 (Perth): wealth would be -32769", 2, nullptr, {}},
+        {"birthDate", {3, 1}, " 29/2/2000 ", &P::birthDay, {29, 29}},
+        {"birthDate", {2}, "1/12/1999", &P::birthMonth, {12}},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.column) + " " + c.value);
-        const BulkEdit plan = PlanSetValue(*game, c.kind, c.column, c.numbers, c.value);
-        EXPECT_THAT(plan.refusal, HasSubstr(c.refusal));
-        if (!plan.ok()) {
-            EXPECT_EQ(plan.faultRecord, c.fault);
-            EXPECT_TRUE(plan.change.Empty());
-            continue;
-        }
-        const auto after = Applied(*game, plan);
-        for (std::size_t i = 0; i < c.numbers.size(); ++i)
-            EXPECT_EQ(after->Players[c.numbers[i]].*c.field, c.after[i]);
+    for (const auto& [column, numbers, value, field, after] : accepted) {
+        SCOPED_TRACE(std::string(column) + " " + value);
+        const BulkEdit plan = PlanSetValue(*game, RecordKind::Player, column, numbers, value);
+        ASSERT_TRUE(plan.ok()) << plan.refusal;
+        const auto changed = Applied(*game, plan);
+        for (std::size_t i = 0; i < numbers.size(); ++i)
+            EXPECT_EQ(changed->Players[numbers[i]].*field, after[i]);
     }
+    // Refused whole: the column, the players chosen, the value typed, what is
+    // said and the record it is said of (0: none).
+    const std::tuple<const char*, std::vector<int>, const char*, const char*, int> refused[] = {
+        {"birthDate", {1, 2}, "29/2/1999", "Date of birth 29/2/1999 does not exist.", 1},
+        {"birthDate", {1}, "+1", "Date of birth takes day/month/year", 1},
+        {"homeCountry", {1}, "40", "homeCountry takes a word of its list or a code from 1 to 39", 1},
+        {"bowlType", {1}, "+1", "only numbers can be raised or lowered", 1},
+        {"batSkill", {1}, "12.5", "batSkill takes a whole number from -32768 to 32767", 1},
+        {"batAggression", {1, 2, 3}, "+1",
+         "player 2 (B Smithers): batAggression would be 32768, beyond what the record holds", 2},
+        {"surname", {4}, "", "a surname cannot be empty", 4},
+        {"surname", {4}, "Dyke, E", "cannot be saved because it contains a comma", 4},
+        {"teamNumber", {4}, "2", "teamNumber cannot be changed here", 0},
+        {"age", {4}, "2", "age cannot be changed here", 0},
+        {"potential", {1, 7}, "7", "there is no player 7", 7},
+    };
+    for (const auto& [column, numbers, value, refusal, fault] : refused) {
+        const BulkEdit plan = PlanSetValue(*game, RecordKind::Player, column, numbers, value);
+        EXPECT_THAT(plan.refusal, HasSubstr(refusal));
+        EXPECT_EQ(plan.faultRecord, fault) << refusal;
+        EXPECT_TRUE(plan.change.Empty());
+    }
+    const BulkEdit poorer = PlanSetValue(*game, RecordKind::Team, "wealth", std::vector{1, 2}, "-1");
+    EXPECT_THAT(poorer.refusal, HasSubstr("team 2 (Perth): wealth would be -32769"));
+    EXPECT_EQ(poorer.faultRecord, 2);
+    EXPECT_TRUE(poorer.change.Empty());
 
     // Records come in number order, only those that change, with a name for the step.
     const std::vector<int> chosen{6, 4, 1};
     const BulkEdit names = PlanSetValue(*game, RecordKind::Player, "initials", chosen, "A J");
-    EXPECT_THAT(Changed(names), ElementsAre(4, 6));
+    EXPECT_THAT(Numbers(names.change.players), ElementsAre(4, 6));
+    EXPECT_TRUE(names.change.teams.empty());
     EXPECT_EQ(names.summary, "set initials on 3 players");
     const BulkEdit high = PlanSetValue(*game, RecordKind::Player, "potential", chosen, "21");
     EXPECT_THAT(high.note, HasSubstr("3 players now hold a value outside the range the game gives it"));
@@ -116,12 +110,8 @@ TEST(Paste, FillsTheChosenCellsAllOrNothing)
     EXPECT_EQ(names->Players[2].surname, "Amber");
     EXPECT_EQ(names->Players[1].homeCountry, 3);
 
-    const struct {
-        std::vector<std::string> columns;
-        const char* block;
-        const char* refusal;
-        int fault;
-    } refused[] = {
+    // The columns chosen, the block pasted, what is said and the record it is said of (0: none).
+    const std::tuple<std::vector<std::string>, const char*, const char*, int> refused[] = {
         {skills, "1\t2\t3", "a block of 1 row by 3 columns does not fit the 2 rows by 2 columns chosen", 0},
         {skills, "1\t2\n3", "the pasted rows hold different numbers of cells", 0},
         {skills, "", "there is nothing to paste", 0},
@@ -130,10 +120,10 @@ TEST(Paste, FillsTheChosenCellsAllOrNothing)
         {{"surname"}, "\"Quoted", "player 2 (B Smithers): surname", 2},
         {{"birthDate"}, "30/2/2000", "player 2 (B Smithers): Date of birth 30/2/2000 does not exist.", 2},
     };
-    for (const auto& r : refused) {
-        const BulkEdit plan = PlanPaste(*game, RecordKind::Player, rows, r.columns, r.block);
-        EXPECT_THAT(plan.refusal, HasSubstr(r.refusal)) << r.block;
-        EXPECT_EQ(plan.faultRecord, r.fault) << r.block;
+    for (const auto& [columns, block, refusal, fault] : refused) {
+        const BulkEdit plan = PlanPaste(*game, RecordKind::Player, rows, columns, block);
+        EXPECT_THAT(plan.refusal, HasSubstr(refusal)) << block;
+        EXPECT_EQ(plan.faultRecord, fault) << block;
         EXPECT_TRUE(plan.change.Empty());
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <tuple>
 
 #include "support/game_builder.h"
 #include "table/row_values.h"
@@ -14,7 +15,7 @@ inline std::unique_ptr<Game> TableGame()
     const struct {
         const char* initials;
         const char* surname;
-        int day, month, year, country, batSkill, bowlType;
+        std::int16_t day, month, year, country, batSkill, bowlType;
     } players[] = {
         {"A J", "Smith", 14, 2, 1990, 2, 45, 7},     {"B", "Smithers", 1, 7, 2000, 13, 30, 1},
         {"C. D.", "Jones", 1, 13, 1985, 29, 50, 8},  {"E", "van Dyke", 1, 1, 1980, 4, 60, 7},
@@ -23,12 +24,8 @@ inline std::unique_ptr<Game> TableGame()
     int number = 0;
     for (const auto& p : players) {
         PlayerRecord& player = b.Player(++number, p.surname, p.initials);
-        player.birthDay = static_cast<std::int16_t>(p.day);
-        player.birthMonth = static_cast<std::int16_t>(p.month);
-        player.birthYear = static_cast<std::int16_t>(p.year);
-        player.homeCountry = static_cast<std::int16_t>(p.country);
-        player.batSkill = static_cast<std::int16_t>(p.batSkill);
-        player.bowlType = static_cast<std::int16_t>(p.bowlType);
+        std::tie(player.birthDay, player.birthMonth, player.birthYear, player.homeCountry, player.batSkill,
+                 player.bowlType) = std::tie(p.day, p.month, p.year, p.country, p.batSkill, p.bowlType);
     }
     b.Team(1, "Perth Pelicans", {1, 2}).homeCountry = 1;
     b.Team(2, "Perth", {3, 6}).homeCountry = 2;

@@ -1,4 +1,5 @@
 #include <regex>
+#include <tuple>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -41,13 +42,8 @@ TEST_F(Check, FindsEachKindOfProblemWhereItIs)
                           Edit(PlayerRecordLines(6), {{BirthDayLine, "29"}, {BirthMonthLine, "2"}}),  // a leap year
                           Edit(PlayerRecordLines(7), {{BirthDayLine, "29"}, {BirthMonthLine, "2"}, {BirthYearLine, "1981"}}),
                           Edit(PlayerRecordLines(9), {{InitialsLine, "R J"}}));
-    struct Case {
-        const char* what;
-        Lines players;
-        Lines teams;
-        std::vector<std::string> findings;
-    };
-    const std::vector<Case> cases{
+    // What the files hold, their records, and what check finds where.
+    const std::tuple<const char*, Lines, Lines, std::vector<std::string>> cases[] = {
         {"a player twice in one squad, in two squads, a squad naming no player", Players({1, 1, 2}),
          Cat(TeamRecordLines("Ashby", 1, {1, 2, 1}), TeamRecordLines("Bexley", 2, {3, 2, 4}),
              TeamRecordLines("Crane", 3, {-1})),
@@ -84,11 +80,11 @@ TEST_F(Check, FindsEachKindOfProblemWhereItIs)
          Cat(team, Lines(20, ""), Lines{"4"}),
          {"players.dat: 1: end of file: error", "teams.dat: 1: end of file: error"}},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        const ToolRun run = RunTool({"check", GameOf(c.players, c.teams)});
-        EXPECT_EQ(run.code, c.findings.front().ends_with(": error") ? 1 : 0);  // errors come first
-        EXPECT_THAT(Findings(run), ElementsAreArray(c.findings)) << run.out;
+    for (const auto& [what, players, teams, findings] : cases) {
+        SCOPED_TRACE(what);
+        const ToolRun run = RunTool({"check", GameOf(players, teams)});
+        EXPECT_EQ(run.code, findings.front().ends_with(": error") ? 1 : 0);  // errors come first
+        EXPECT_THAT(Findings(run), ElementsAreArray(findings)) << run.out;
     }
     EXPECT_EQ(RunTool({"check", SampleCopy()}).out, "0 errors, 0 warnings\n");
 }

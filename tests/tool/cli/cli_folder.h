@@ -84,21 +84,17 @@ struct ToolRun {
 };
 
 // An argument as the tool is handed it: text, or a path as UTF-8 text.
-struct ToolArg {
-    std::string text;
-    ToolArg(const char* text) : text(text) {}
-    ToolArg(std::string text) : text(std::move(text)) {}
-    ToolArg(const fs::path& path) : text(PathText(path)) {}
+struct ToolArg : std::string {
+    ToolArg(const char* text) : std::string(text) {}
+    ToolArg(std::string text) : std::string(std::move(text)) {}
+    ToolArg(const fs::path& path) : std::string(PathText(path)) {}
 };
 
-inline ToolRun RunTool(const std::vector<ToolArg>& toolArgs)
+inline ToolRun RunTool(const std::vector<ToolArg>& args)
 {
-    std::vector<std::string> args;
-    for (const ToolArg& arg : toolArgs)
-        args.push_back(arg.text);
     std::ostringstream out;
     std::ostringstream err;
-    const int code = RunKoltaData(args, out, err);
+    const int code = RunKoltaData(std::vector<std::string>(args.begin(), args.end()), out, err);
     return {code, out.str(), err.str()};
 }
 

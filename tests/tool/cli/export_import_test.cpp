@@ -1,5 +1,6 @@
 #include <functional>
 #include <set>
+#include <tuple>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -34,12 +35,11 @@ protected:
     void ExpectRoundTrip(const fs::path& game, const fs::path& csv)
     {
         const fs::path into = ScrambledCopy(game);
-        const std::string scrambled = Bytes(into / "players.dat");
+        const FilePair scrambled = PairIn(into);
         const ToolRun imported = RunTool({"import", into, csv});
         ASSERT_EQ(imported.code, 0) << imported.err;
-        EXPECT_EQ(Bytes(into / "players.dat"), Bytes(game / "players.dat"));
-        EXPECT_EQ(Bytes(into / "teams.dat"), Bytes(game / "teams.dat"));
-        EXPECT_EQ(Bytes(into / "players.dat.bak"), scrambled);
+        EXPECT_EQ(PairIn(into), PairIn(game));
+        EXPECT_EQ(PairIn(into, ".bak"), scrambled);
     }
 };
 
@@ -101,7 +101,7 @@ protected:
         game_ = GameOf(Players({1, 1, 0}), Cat(TeamRecordLines("Ashby", 1, {1, 2}), TeamRecordLines("Bexley", 2)));
         csv_ = Export(game_);
         exported_ = {SplitLines(Bytes(csv_ / "players.csv")), SplitLines(Bytes(csv_ / "teams.csv"))};
-        dat_ = {Bytes(game_ / "players.dat"), Bytes(game_ / "teams.dat")};
+        dat_ = PairIn(game_);
     }
 
     // Imports the exported rows once `edit` has changed them.
@@ -116,25 +116,20 @@ protected:
 
     void ExpectGameUntouched() const
     {
-        EXPECT_EQ(Bytes(game_ / "players.dat"), dat_.first);
-        EXPECT_EQ(Bytes(game_ / "teams.dat"), dat_.second);
+        EXPECT_EQ(PairIn(game_), dat_);
         EXPECT_FALSE(fs::exists(game_ / "players.dat.bak"));
     }
 
     fs::path game_;
     fs::path csv_;
     std::pair<Lines, Lines> exported_;
-    std::pair<std::string, std::string> dat_;
+    FilePair dat_;
 };
 
 TEST_F(Import, AnyWrongRowRefusesTheWholeImportAndIsListedByItsLine)
 {
-    struct Case {
-        Import::Edit edit;
-        std::vector<std::string> places;
-        std::string says;
-    };
-    const std::vector<Case> cases{
+    // How the rows are spoilt, the rows listed as faulty, and what is said.
+    const std::tuple<Edit, std::vector<std::string>, std::string> cases[] = {
         // The good edit of row 2 must not land either.
         {[](Lines& p, Lines&) { Set(p[1], BatSkillColumn, "55"); Set(p[2], BatSkillColumn, "40000"); },
          {"players.csv:3"}, "batSkill \"40000\""},
@@ -164,18 +159,17 @@ TEST_F(Import, AnyWrongRowRefusesTheWholeImportAndIsListedByItsLine)
         {[](Lines&, Lines& t) { Set(t[2], Squad1Column, "1"); }, {"teams.csv:2", "teams.csv:3"},
          "also stands in the squad of team 1"},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.says);
-        const ToolRun run = ImportEdited(c.edit);
+    for (const auto& [edit, listed, says] : cases) {
+        SCOPED_TRACE(says);
+        const ToolRun run = ImportEdited(edit);
         EXPECT_EQ(run.code, 1);
         std::vector<std::string> places;  // "players.csv:4" for each fault listed
-        std::istringstream err(run.err);
-        for (std::string line; std::getline(err, line);) {
+        for (const std::string& line : SplitLines(run.err)) {
             if (line.find(".csv:") != std::string::npos)
                 places.push_back(line.substr(0, line.find(": ")));
         }
-        EXPECT_THAT(places, ElementsAreArray(c.places)) << run.err;
-        EXPECT_THAT(run.err, HasSubstr(c.says));
+        EXPECT_THAT(places, ElementsAreArray(listed)) << run.err;
+        EXPECT_THAT(run.err, HasSubstr(says));
         EXPECT_THAT(run.out, IsEmpty());
         ExpectGameUntouched();
     }

@@ -32,8 +32,7 @@ TEST_F(Normalize, WritesWhatTheEditorsSaveWritesAndNeverHalfAGame)
               PlayersBytes(Cat(Edit(PlayerRecordLines(1, "Mardle "), {{BatSkillLine, "30"}}), blankPlayer2,
                                PlayerRecordLines(3, "Corvane"))));
     EXPECT_EQ(Bytes(game / "teams.dat"), TeamsBytes(TeamRecordLines("Ashby ", 1, {0, 1})));
-    EXPECT_EQ(Bytes(game / "players.dat.bak"), players);
-    EXPECT_EQ(Bytes(game / "teams.dat.bak"), teams);
+    EXPECT_EQ(PairIn(game, ".bak"), FilePair(players, teams));
 
     // A name the files cannot carry is refused before anything is written.
     const fs::path tab = GameOf(PlayerRecordLines(1, "Mar\tdle"), TeamRecordLines("Ashby", 1));
@@ -106,20 +105,17 @@ TEST_F(Diff, RecordByRecordAndFieldByField)
 
 TEST_F(Diff, OneFolderIsComparedWithItsBackups)
 {
-    const fs::path game = SampleCopy();
+    const fs::path game = GameOf(Players({0}), {});
     const ToolRun noBackups = RunTool({"diff", game});
     EXPECT_EQ(noBackups.code, 2);
     EXPECT_THAT(noBackups.err, HasSubstr("players.dat.bak"));
 
-    const fs::path csv = Export(game);
-    std::string players = Bytes(csv / "players.csv");
-    players.replace(players.find(",Travwick,"), 10, ",Travers,");
-    WriteBytes(csv / "players.csv", players);
-    ASSERT_EQ(RunTool({"import", game, csv}).code, 0);
-
+    // The backups are the files before, the folder's own files after.
+    WriteBytes(game / "players.dat.bak", PlayersBytes(PlayerRecordLines(1, "Arlo")));
+    WriteBytes(game / "teams.dat.bak", TeamsBytes({}));
     const ToolRun run = RunTool({"diff", game});
     EXPECT_EQ(run.code, 1);
-    EXPECT_EQ(run.out, "player 1 (H R Travers): surname \"Travwick\" -> \"Travers\"\n");
+    EXPECT_EQ(run.out, "player 1 (R J Arlow): surname \"Arlo\" -> \"Arlow\"\n");
 }
 
 }  // namespace
