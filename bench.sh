@@ -29,7 +29,7 @@ echo "Machine: $(nproc) cores, $(lscpu | sed -n 's/^Model name: *//p')"
 for program in "$dir"/bench/*; do
   name="$(basename "$program")"
   case "$name" in
-    editor_start | empty_window_start) continue ;;
+    editor_start | empty_window_start | text_window_start) continue ;;
   esac
   [ -x "$program" ] && [ -f "$program" ] || continue
   echo

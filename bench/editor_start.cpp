@@ -11,6 +11,7 @@
 #include "first_paint.h"
 #include "full_size_game.h"
 #include "editor/editor.h"
+#include "forms/editor_style.h"
 
 int main(int argc, char** argv)
 {
@@ -24,6 +25,7 @@ int main(int argc, char** argv)
         WriteSettingFile(setting, folder.string());
 
     QApplication app(argc, argv);
+    EditorStyle::Install();
     const QString settingPath = QFile::decodeName(setting.c_str());
     Editor editor(SettingPlaces{settingPath, settingPath});
     if (!editor.Start())

@@ -2,12 +2,14 @@
 #include <QTextStream>
 
 #include "editor/editor.h"
+#include "forms/editor_style.h"
 #include "options/shipped_files.h"
 
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kolta-editor"));
+    EditorStyle::Install();
 
     // A packager's check that an installed copy finds its help files.
     if (QApplication::arguments().contains(QStringLiteral("--where-help"))) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/editor_style.h"
 #include "support/qt_path.h"
 #include "support/scratch_folder.h"
 
@@ -19,6 +20,7 @@ int main(int argc, char** argv)
     for (const char* place : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
         qputenv(place, QtPath(home / place).toLocal8Bit());
     QApplication app(argc, argv);
+    EditorStyle::Install();
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

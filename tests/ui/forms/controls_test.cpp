@@ -2,10 +2,12 @@
 // told once for each key or click, the wheel passes over a drop-down that is
 // not being worked, a box of the game's text turns away what the files could
 // not carry, with the code page between the box and the game, and message
-// boxes and forms are answered by the keys or by the tests.
+// boxes and forms are answered by the keys or by the tests; a bar too
+// narrow for its items still shows its arrow.
 #include "forms/beep.h"
 #include "forms/choice_list.h"
 #include "forms/drop_down.h"
+#include "forms/editor_style.h"
 #include "forms/game_text.h"
 #include "forms/message_box.h"
 #include "forms/modal.h"
@@ -13,9 +15,11 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
@@ -69,6 +73,25 @@ TEST(Lists, TheWheelPassesOverADropDownAndKeysAndClicksChooseOnceEach)
     list->clear();
     EXPECT_EQ(list->ChosenRow(), -1);
     EXPECT_EQ(picks, (std::vector<int>{1, 1, 2, 3}));
+}
+
+// The editor's style reads the bars' extension arrow when it is first drawn;
+// it must then be the arrow the style underneath draws.
+TEST(EditorStyle, ABarTooNarrowForItsMenusShowsTheUsualArrow)
+{
+    auto* style = dynamic_cast<EditorStyle*>(QApplication::style());
+    ASSERT_NE(style, nullptr);
+    QMenuBar bar;
+    for (const char* title : {"&File", "&Edit", "&Tools", "&Help"})
+        bar.addMenu(QString::fromLatin1(title));
+    bar.resize(40, 30);
+    bar.show();
+    const auto* arrow = bar.findChild<QToolButton*>();
+    ASSERT_NE(arrow, nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&bar));
+    EXPECT_TRUE(arrow->isVisible());
+    const QStyle::StandardPixmap which = QStyle::SP_ToolBarHorizontalExtensionButton;
+    EXPECT_EQ(arrow->icon().pixmap(16).toImage(), style->baseStyle()->standardIcon(which).pixmap(16).toImage());
 }
 
 TEST(TextBox, TakesOnlyWhatItsRuleAndTheCodePageLetThrough)
