@@ -29,6 +29,18 @@ wait_for_window() {
   timeout 60 xdotool search --sync --onlyvisible --name "$1" | head -n1
 }
 
+# no_window WHO LOG: fails, saying what the screen shows instead and what the
+# editor printed.
+no_window() {
+  echo "$1 showed no window. Windows on the screen:"
+  { xdotool search --onlyvisible --name . 2>/dev/null || true; } | while read -r id; do
+    echo "  $(xdotool getwindowname "$id" 2>/dev/null)"
+  done
+  echo "What it printed:"
+  cat "$2"
+  exit 1
+}
+
 # press WINDOW KEYS...: the keys, typed into that window once it is active.
 press() {
   local window="$1"
@@ -60,7 +72,7 @@ cp "$linux_editor" "$scratch/linux/kolta-editor"
 printf '%s\r\n' "$scratch/linux/game" >"$scratch/linux/editor.dat"
 "$scratch/linux/kolta-editor" >"$scratch/linux/log" 2>&1 &
 linux_pid=$!
-window="$(wait_for_window '^KOLTA editor')" || { echo "The Linux editor showed no window"; exit 1; }
+window="$(wait_for_window '^KOLTA editor')" || no_window "The Linux editor" "$scratch/linux/log"
 edit_and_save "$window"
 kill "$linux_pid"
 wait "$linux_pid" 2>/dev/null || true
@@ -72,7 +84,7 @@ printf 'Z:%s\r\n' "${scratch//\//\\}\\windows\\game" >"$folder/editor.dat"
 started=$(date +%s%N)
 wine "$folder/kolta-editor.exe" >"$scratch/windows/log" 2>&1 &
 wine_pid=$!
-window="$(wait_for_window '^KOLTA editor')" || { echo "The Windows editor showed no window"; exit 1; }
+window="$(wait_for_window '^KOLTA editor')" || no_window "The Windows editor" "$scratch/windows/log"
 echo "The Windows editor showed its window $(( ($(date +%s%N) - started) / 1000000 )) ms after it was started."
 edit_and_save "$window"
 
