@@ -21,20 +21,29 @@ openbox_pid=""
 trap 'kill "$xvfb" ${openbox_pid:+"$openbox_pid"} 2>/dev/null || true; wineserver --kill 2>/dev/null || true' EXIT
 for _ in $(seq 50); do [ -s "$scratch/display" ] && break; sleep 0.1; done
 export DISPLAY=":$(cat "$scratch/display")"
-openbox >/dev/null 2>&1 &
+# A window mapped while openbox is still starting can be lost to it: it stays
+# unmapped for good. openbox runs its startup command once it manages the
+# screen, so the editors start after that.
+openbox --startup "touch '$scratch/wm-ready'" >/dev/null 2>&1 &
 openbox_pid=$!
+for _ in $(seq 100); do [ -e "$scratch/wm-ready" ] && break; sleep 0.1; done
+[ -e "$scratch/wm-ready" ] || { echo "openbox did not start within 10 s"; exit 1; }
 
 # wait_for_window NAME_PATTERN: the id of the first visible window so named.
 wait_for_window() {
   timeout 60 xdotool search --sync --onlyvisible --name "$1" | head -n1
 }
 
-# no_window WHO LOG: fails, saying what the screen shows instead and what the
-# editor printed.
+# no_window WHO LOG: fails, saying which named windows exist, whether each is
+# shown, and what the editor printed.
 no_window() {
-  echo "$1 showed no window. Windows on the screen:"
-  { xdotool search --onlyvisible --name . 2>/dev/null || true; } | while read -r id; do
-    echo "  $(xdotool getwindowname "$id" 2>/dev/null)"
+  echo "$1 showed no window. Named windows:"
+  local visible
+  visible="$(xdotool search --onlyvisible --name . 2>/dev/null || true)"
+  { xdotool search --name . 2>/dev/null || true; } | while read -r id; do
+    local state="not shown"
+    grep -qx "$id" <<<"$visible" && state="shown"
+    echo "  $(xdotool getwindowname "$id" 2>/dev/null) ($state)"
   done
   echo "What it printed:"
   cat "$2"
