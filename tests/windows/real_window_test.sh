@@ -29,9 +29,17 @@ openbox_pid=$!
 for _ in $(seq 100); do [ -e "$scratch/wm-ready" ] && break; sleep 0.1; done
 [ -e "$scratch/wm-ready" ] || { echo "openbox did not start within 10 s"; exit 1; }
 
-# wait_for_window NAME_PATTERN: the id of the first visible window so named.
+# wait_for_window NAME_PATTERN: the id of the first visible window so named,
+# within 60 s. A search fails when a window it looks at goes away under it
+# (Wine makes and drops windows as it starts), so it is asked again.
 wait_for_window() {
-  timeout 60 xdotool search --sync --onlyvisible --name "$1" | head -n1
+  local id
+  for _ in $(seq 300); do
+    id="$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n1)" || true
+    [ -z "$id" ] || { echo "$id"; return 0; }
+    sleep 0.2
+  done
+  return 1
 }
 
 # no_window WHO LOG: fails, saying which named windows exist, whether each is
